@@ -1,0 +1,124 @@
+#pragma once
+
+#include <QObject>
+
+class QCheckBox;
+class QColor;
+class QKeyEvent;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+
+// Turns key presses into named signals, and carries the small helpers that every
+// panel uses: colour names, the style sheet and texts that fit their widgets.
+class CommonHelper : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CommonHelper(QObject *parent = nullptr);
+
+    // Emits the signal of the first combination that matches the key press, or
+    // none. Modifiers that a combination does not name are ignored.
+    void dealKeyPressEvent(QKeyEvent *event);
+
+    // One tester for each combination: emits the combination's signal and returns
+    // true when the event is exactly that combination. Those without Shift or Ctrl
+    // in their name ignore modifiers.
+    bool keyHomePress(QKeyEvent *event);
+    bool keyEndPress(QKeyEvent *event);
+    bool keyPageUpPress(QKeyEvent *event);
+    bool keyPageDownPress(QKeyEvent *event);
+    bool keyShiftUpPress(QKeyEvent *event);
+    bool keyShiftDownPress(QKeyEvent *event);
+    bool keyShiftLeftPress(QKeyEvent *event);
+    bool keyShiftRightPress(QKeyEvent *event);
+    bool keyShiftFPress(QKeyEvent *event);
+    bool keyCtrlUpPress(QKeyEvent *event);
+    bool keyCtrlDownPress(QKeyEvent *event);
+    bool keyCtrlLeftPress(QKeyEvent *event);
+    bool keyCtrlRightPress(QKeyEvent *event);
+    bool keyUpPress(QKeyEvent *event);
+    bool keyDownPress(QKeyEvent *event);
+    bool keyLeftPress(QKeyEvent *event);
+    bool keyRightPress(QKeyEvent *event);
+    bool keyInsertPress(QKeyEvent *event);
+    bool keyDeletePress(QKeyEvent *event);
+    bool keyShiftHPress(QKeyEvent *event);
+
+    // The text of a style-sheet file (a resource or a file path), decoded as UTF-8;
+    // an empty string when it cannot be opened.
+    static QString setStyle(const QString &path);
+
+    // 0 red, 1 green, 2 blue, 3 white; 0 for every other colour.
+    static int getColorIndex(const QColor &color);
+
+    // The translated name of a test colour, a null string for any other colour.
+    static QString getColorName(const QColor &color);
+
+    // Put a text on a widget, elided at the right to the widget's present width. A
+    // text that does not fit becomes the tool tip, one that does clears it.
+    static void setQLabelText(QLabel *label, const QString &text);
+    static void setQPushButtonText(QPushButton *button, const QString &text);
+    static void setQCheckBoxText(QCheckBox *checkBox, const QString &text);
+    static void setQRadioButtonText(QRadioButton *radioButton, const QString &text);
+
+signals:
+    void signal_keyHomePressed();
+    void signal_keyEndPressed();
+    void signal_keySpacePressed(); // never emitted: Space does nothing
+    void signal_keyPageUpPressed();
+    void signal_keyPageDownPressed();
+    void signal_keyShiftUpPressed();
+    void signal_keyShiftDownPressed();
+    void signal_keyShiftLeftPressed();
+    void signal_keyShiftRightPressed();
+    void signal_keyShiftFPressed();
+    void signal_keyCtrlUpPressed();
+    void signal_keyCtrlDownPressed();
+    void signal_keyCtrlLeftPressed();
+    void signal_keyCtrlRightPressed();
+    void signal_keyUpPressed();
+    void signal_keyDownPressed();
+    void signal_keyLeftPressed();
+    void signal_keyRightPressed();
+    void signal_keyInsertPressed();
+    void signal_keyDeletePressed();
+    void signal_keyShiftHPressed();
+
+private:
+    enum Row {
+        Home,
+        End,
+        PageUp,
+        PageDown,
+        ShiftUp,
+        ShiftDown,
+        ShiftLeft,
+        ShiftRight,
+        ShiftF,
+        CtrlUp,
+        CtrlDown,
+        CtrlLeft,
+        CtrlRight,
+        Left,
+        Down,
+        Up,
+        Right,
+        Delete,
+        Insert,
+        ShiftH,
+        rowCount
+    };
+
+    struct Combination
+    {
+        int key;
+        Qt::KeyboardModifier modifiers; // what must be among the event's modifiers
+        void (CommonHelper::*signal)();
+    };
+
+    static const Combination combinations[rowCount];
+
+    bool emitIf(Row row, QKeyEvent *event);
+};

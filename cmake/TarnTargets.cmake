@@ -1,0 +1,54 @@
+# The project's own target kinds, so that every folder is declared the same way.
+
+# What every target of ours is compiled with.
+add_library(tarn_build_options INTERFACE)
+target_compile_definitions(tarn_build_options INTERFACE
+  QT_DEPRECATED_WARNINGS
+  QT_DISABLE_DEPRECATED_BEFORE=0x050900
+  QT_NO_CAST_FROM_ASCII
+  QT_NO_CAST_TO_ASCII
+  QT_NO_URL_CAST_FROM_STRING
+  QT_NO_FOREACH)
+if(MSVC)
+  target_compile_options(tarn_build_options INTERFACE /W4 /utf-8 $<$<BOOL:${TARN_WARNINGS_AS_ERRORS}>:/WX>)
+else()
+  target_compile_options(tarn_build_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
+    $<$<BOOL:${TARN_WARNINGS_AS_ERRORS}>:-Werror>)
+endif()
+if(TARN_SANITIZERS)
+  target_compile_options(tarn_build_options INTERFACE
+    -fsanitize=${TARN_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tarn_build_options INTERFACE -fsanitize=${TARN_SANITIZERS})
+endif()
+if(TARN_COVERAGE)
+  target_compile_options(tarn_build_options INTERFACE --coverage)
+  target_link_options(tarn_build_options INTERFACE --coverage)
+endif()
+
+# tarn_add_library(<name> SOURCES <file>... LINKS <lower layer>...)
+#
+# One folder, one library. Its headers are found by those that link it and by
+# nobody else, so an include that points up or sideways does not build.
+function(tarn_add_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ARG_LINKS} Qt5::Widgets PRIVATE tarn_build_options)
+endfunction()
+
+# tarn_add_test(<name> LINKS <library>... [SOURCES <file>...])
+#
+# Builds <name>.cpp, a QtTest program without a display, and registers it. Each stands
+# in a folder of its own, since the program's settings file lies beside the program.
+function(tarn_add_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${name}.cpp ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/${name})
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} tarn_test_support tarn_build_options)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES
+    LABELS unit
+    TIMEOUT 120
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${TARN_TEST_RUNTIME_DIR};LC_ALL=C.UTF-8")
+endfunction()

@@ -1,0 +1,234 @@
+#include "settingsrules.h"
+#include "testsettings.h"
+
+#include <QFile>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+constexpr QLatin1String key("/setting/value");
+
+// A settings file whose "value" is spelled as given.
+std::unique_ptr<TestSettings> withValue(const QByteArray &spelled)
+{
+    auto settings = std::make_unique<TestSettings>();
+    QFile file(settings->path());
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write the settings file");
+    file.write("[setting]\nvalue=" + spelled + '\n');
+    file.close();
+    (*settings)->sync();
+    return settings;
+}
+
+QByteArray contentsOf(const TestSettings &settings)
+{
+    QFile file(settings.path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestSettingsRules : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void positiveInt_data();
+    void positiveInt();
+    void missingInt_isTheDefault();
+
+    void color_data();
+    void color();
+    void missingColor_isInvalid();
+    void colorWrittenAsAColor_isReadBack_data();
+    void colorWrittenAsAColor_isReadBack();
+
+    void store_writesTheValue_data();
+    void store_writesTheValue();
+    void store_ofWhatTheFileHoldsLeavesItAlone_data();
+    void store_ofWhatTheFileHoldsLeavesItAlone();
+    void store_ofAnotherValueReplacesIt_data();
+    void store_ofAnotherValueReplacesIt();
+    void store_ofWhatIsPendingChangesNothing();
+    void store_ofTheMissingKeyWritesEvenAZero();
+};
+
+void TestSettingsRules::positiveInt_data()
+{
+    QTest::addColumn<QByteArray>("spelled");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("a value") << QByteArray("12") << 12;
+    QTest::newRow("the smallest") << QByteArray("1") << 1;
+    QTest::newRow("the largest") << QByteArray("2147483647") << 2147483647;
+    QTest::newRow("quoted") << QByteArray("\"12\"") << 12;
+    QTest::newRow("zero cannot be stored") << QByteArray("0") << 50;
+    QTest::newRow("negative") << QByteArray("-1") << 50;
+    QTest::newRow("very negative") << QByteArray("-2147483648") << 50;
+    QTest::newRow("empty") << QByteArray() << 50;
+    QTest::newRow("text") << QByteArray("fast") << 50;
+    QTest::newRow("number and text") << QByteArray("12px") << 50;
+    QTest::newRow("list") << QByteArray("12, 13") << 50;
+    QTest::newRow("more than any integer") << QByteArray("99999999999999999999999") << 50;
+    QTest::newRow("binary") << QByteArray("@ByteArray(\\0\\x1\\xff)") << 50;
+    QTest::newRow("invalid") << QByteArray("@Invalid()") << 50;
+    QTest::newRow("size") << QByteArray("@Size(12 12)") << 50;
+}
+
+void TestSettingsRules::positiveInt()
+{
+    QFETCH(const QByteArray, spelled);
+    QFETCH(const int, expected);
+    const auto settings = withValue(spelled);
+    QCOMPARE(SettingsRules::positiveInt(*settings->get(), key, 50), expected);
+}
+
+void TestSettingsRules::missingInt_isTheDefault()
+{
+    TestSettings settings;
+    QCOMPARE(SettingsRules::positiveInt(*settings.get(), key, 50), 50);
+    QCOMPARE(SettingsRules::positiveInt(*settings.get(), key, 255), 255);
+}
+
+void TestSettingsRules::color_data()
+{
+    QTest::addColumn<QByteArray>("spelled");
+    QTest::addColumn<QColor>("expected");
+    QTest::newRow("hexadecimal") << QByteArray("#00ff00") << QColor(Qt::green);
+    QTest::newRow("name") << QByteArray("magenta") << QColor(Qt::magenta);
+    QTest::newRow("name of another colour") << QByteArray("gold") << QColor(255, 215, 0);
+    QTest::newRow("empty") << QByteArray() << QColor();
+    QTest::newRow("text") << QByteArray("no colour") << QColor();
+    QTest::newRow("list") << QByteArray("1, 2, 3") << QColor();
+    QTest::newRow("number") << QByteArray("12") << QColor();
+    QTest::newRow("binary") << QByteArray("@ByteArray(\\0\\x1\\xff)") << QColor();
+    QTest::newRow("invalid") << QByteArray("@Invalid()") << QColor();
+    QTest::newRow("size") << QByteArray("@Size(12 12)") << QColor();
+    QTest::newRow("invalid colour")
+        << QByteArray("@Variant(\\0\\0\\0\\x43\\0\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)") << QColor();
+}
+
+void TestSettingsRules::color()
+{
+    QFETCH(const QByteArray, spelled);
+    QFETCH(const QColor, expected);
+    const auto settings = withValue(spelled);
+    QCOMPARE(SettingsRules::color(*settings->get(), key), expected);
+    QCOMPARE(SettingsRules::color(*settings->get(), key).isValid(), expected.isValid());
+}
+
+void TestSettingsRules::missingColor_isInvalid()
+{
+    TestSettings settings;
+    QVERIFY(!SettingsRules::color(*settings.get(), key).isValid());
+}
+
+void TestSettingsRules::colorWrittenAsAColor_isReadBack_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("red") << QColor(Qt::red);
+    QTest::newRow("white") << QColor(Qt::white);
+    QTest::newRow("magenta") << QColor(Qt::magenta);
+    QTest::newRow("translucent") << QColor(1, 2, 3, 4);
+}
+
+void TestSettingsRules::colorWrittenAsAColor_isReadBack()
+{
+    QFETCH(const QColor, color);
+    TestSettings settings;
+    SettingsRules::store(*settings.get(), key, color);
+    settings->sync();
+    settings.reopen();
+    QCOMPARE(SettingsRules::color(*settings.get(), key), color);
+}
+
+void TestSettingsRules::store_writesTheValue_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("inFile");
+    QTest::newRow("int") << QVariant(12) << QStringLiteral("12");
+    QTest::newRow("zero") << QVariant(0) << QStringLiteral("0");
+    QTest::newRow("true") << QVariant(true) << QStringLiteral("true");
+    QTest::newRow("false") << QVariant(false) << QStringLiteral("false");
+    QTest::newRow("text") << QVariant(QStringLiteral("灰度")) << QStringLiteral("灰度");
+}
+
+void TestSettingsRules::store_writesTheValue()
+{
+    QFETCH(const QVariant, value);
+    QFETCH(const QString, inFile);
+    TestSettings settings;
+    SettingsRules::store(*settings.get(), key, value);
+    QCOMPARE(settings.stored().value(QStringLiteral("value")).toString(), inFile);
+}
+
+void TestSettingsRules::store_ofWhatTheFileHoldsLeavesItAlone_data()
+{
+    QTest::addColumn<QByteArray>("spelled");
+    QTest::addColumn<QVariant>("value");
+    // With blanks, so that a rewrite shows.
+    QTest::newRow("int") << QByteArray("  12") << QVariant(12);
+    QTest::newRow("true") << QByteArray("  true") << QVariant(true);
+    QTest::newRow("false") << QByteArray("  false") << QVariant(false);
+    QTest::newRow("text") << QByteArray("  fast") << QVariant(QStringLiteral("fast"));
+}
+
+void TestSettingsRules::store_ofWhatTheFileHoldsLeavesItAlone()
+{
+    QFETCH(const QByteArray, spelled);
+    QFETCH(const QVariant, value);
+    const auto settings = withValue(spelled);
+    const QByteArray before = contentsOf(*settings);
+    SettingsRules::store(*settings->get(), key, value);
+    (*settings)->sync();
+
+    QCOMPARE(contentsOf(*settings), before);
+}
+
+void TestSettingsRules::store_ofAnotherValueReplacesIt_data()
+{
+    QTest::addColumn<QByteArray>("spelled");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("inFile");
+    QTest::newRow("another int") << QByteArray("12") << QVariant(13) << QStringLiteral("13");
+    QTest::newRow("zero for text") << QByteArray("fast") << QVariant(0) << QStringLiteral("0");
+    QTest::newRow("zero for nothing") << QByteArray() << QVariant(0) << QStringLiteral("0");
+    QTest::newRow("zero for invalid")
+        << QByteArray("@Invalid()") << QVariant(0) << QStringLiteral("0");
+    QTest::newRow("zero for a list") << QByteArray("1, 2") << QVariant(0) << QStringLiteral("0");
+    QTest::newRow("false for true")
+        << QByteArray("true") << QVariant(false) << QStringLiteral("false");
+    QTest::newRow("false for text")
+        << QByteArray("fast") << QVariant(false) << QStringLiteral("false");
+}
+
+void TestSettingsRules::store_ofAnotherValueReplacesIt()
+{
+    QFETCH(const QByteArray, spelled);
+    QFETCH(const QVariant, value);
+    QFETCH(const QString, inFile);
+    const auto settings = withValue(spelled);
+    SettingsRules::store(*settings->get(), key, value);
+    QCOMPARE(settings->stored().value(QStringLiteral("value")).toString(), inFile);
+}
+
+void TestSettingsRules::store_ofWhatIsPendingChangesNothing()
+{
+    TestSettings settings;
+    SettingsRules::store(*settings.get(), key, 1);
+    SettingsRules::store(*settings.get(), key, 2);
+    SettingsRules::store(*settings.get(), key, 2);
+    QCOMPARE(settings.stored().value(QStringLiteral("value")).toInt(), 2);
+}
+
+void TestSettingsRules::store_ofTheMissingKeyWritesEvenAZero()
+{
+    TestSettings settings;
+    SettingsRules::store(*settings.get(), key, 0);
+    QVERIFY(settings.stored().contains(QStringLiteral("value")));
+}
+
+QTEST_GUILESS_MAIN(TestSettingsRules)
+#include "tst_settingsrules.moc"

@@ -1,0 +1,186 @@
+#include "testcolor.h"
+
+#include <QTranslator>
+#include <QtTest>
+
+#include <limits>
+
+namespace {
+
+struct Entry
+{
+    Qt::GlobalColor color;
+    const char *name;
+    int red, green, blue; // which channels are lit
+};
+
+constexpr Entry entries[] = {
+    {Qt::red, "红", 1, 0, 0},     {Qt::green, "绿", 0, 1, 0},  {Qt::blue, "蓝", 0, 0, 1},
+    {Qt::white, "白", 1, 1, 1},   {Qt::yellow, "黄", 1, 1, 0}, {Qt::cyan, "青", 0, 1, 1},
+    {Qt::magenta, "紫", 1, 0, 1},
+};
+
+// Answers the source texts of one context with "<text>!".
+class ContextTranslator : public QTranslator
+{
+public:
+    explicit ContextTranslator(const char *context)
+        : m_context(context)
+    { }
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        return qstrcmp(context, m_context) == 0 ? QString::fromUtf8(sourceText) + QLatin1Char('!')
+                                                : QString();
+    }
+    bool isEmpty() const override { return false; }
+
+private:
+    const char *m_context;
+};
+
+void addOtherColors()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("black") << QColor(Qt::black);
+    QTest::newRow("invalid") << QColor();
+    QTest::newRow("transparent") << QColor(Qt::transparent);
+    QTest::newRow("red with alpha 254") << QColor(255, 0, 0, 254);
+    QTest::newRow("red with alpha 128") << QColor(255, 0, 0, 128);
+    QTest::newRow("red, one step darker") << QColor(254, 0, 0);
+    QTest::newRow("red in another colour model") << QColor::fromHsv(0, 255, 255);
+    QTest::newRow("cyan in another colour model") << QColor::fromCmyk(255, 0, 0, 0);
+    QTest::newRow("dark green") << QColor(Qt::darkGreen);
+    QTest::newRow("grey") << QColor(Qt::gray);
+}
+
+} // namespace
+
+class TestTestColor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void table_isNumberedInItsOrder();
+    void indexOutsideTheTable_givesNothing_data();
+    void indexOutsideTheTable_givesNothing();
+    void otherColour_hasNoIndex_data();
+    void otherColour_hasNoIndex();
+    void equalColour_isFoundHoweverItWasMade();
+    void name_isTranslatedInTheHelpersContext();
+    void pageColours_areTheFirstFour();
+
+    void greyScale_setsTheLitChannels();
+    void greyScale_leavesOtherColoursAlone_data();
+    void greyScale_leavesOtherColoursAlone();
+    void greyScale_isClamped_data();
+    void greyScale_isClamped();
+};
+
+void TestTestColor::table_isNumberedInItsOrder()
+{
+    QCOMPARE(TestColor::count, 7);
+    int index = 0;
+    for (const Entry &entry : entries) {
+        QCOMPARE(TestColor::at(index), QColor(entry.color));
+        QCOMPARE(TestColor::indexOf(entry.color), index);
+        QCOMPARE(TestColor::sourceName(index), QString::fromUtf8(entry.name));
+        QCOMPARE(TestColor::translatedName(index), QString::fromUtf8(entry.name));
+        ++index;
+    }
+}
+
+void TestTestColor::indexOutsideTheTable_givesNothing_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::newRow("one too few") << -1;
+    QTest::newRow("one too many") << 7;
+    QTest::newRow("none selected") << 256;
+    QTest::newRow("smallest") << std::numeric_limits<int>::min();
+    QTest::newRow("largest") << std::numeric_limits<int>::max();
+}
+
+void TestTestColor::indexOutsideTheTable_givesNothing()
+{
+    QFETCH(const int, index);
+    QVERIFY(!TestColor::at(index).isValid());
+    QVERIFY(TestColor::sourceName(index).isNull());
+    QVERIFY(TestColor::translatedName(index).isNull());
+}
+
+void TestTestColor::otherColour_hasNoIndex_data()
+{
+    addOtherColors();
+}
+
+void TestTestColor::otherColour_hasNoIndex()
+{
+    QFETCH(const QColor, color);
+    QCOMPARE(TestColor::indexOf(color), -1);
+}
+
+void TestTestColor::equalColour_isFoundHoweverItWasMade()
+{
+    QCOMPARE(TestColor::indexOf(QColor(0, 0, 255)), 2);
+    QCOMPARE(TestColor::indexOf(QColor(QStringLiteral("#ffff00"))), 4);
+    QCOMPARE(TestColor::indexOf(QColor::fromRgbF(1.0, 0.0, 1.0)), 6);
+}
+
+void TestTestColor::name_isTranslatedInTheHelpersContext()
+{
+    ContextTranslator translator("CommonHelper");
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    for (int index = 0; index < TestColor::count; ++index) {
+        QCOMPARE(TestColor::translatedName(index),
+                 QString::fromUtf8(entries[index].name) + QLatin1Char('!'));
+        QCOMPARE(TestColor::sourceName(index), QString::fromUtf8(entries[index].name));
+    }
+    QVERIFY(TestColor::translatedName(7).isNull());
+}
+
+void TestTestColor::pageColours_areTheFirstFour()
+{
+    QCOMPARE(TestColor::pageColorCount, 4);
+    QCOMPARE(TestColor::at(TestColor::pageColorCount - 1), QColor(Qt::white));
+}
+
+void TestTestColor::greyScale_setsTheLitChannels()
+{
+    for (const Entry &entry : entries) {
+        for (int grey = 0; grey < 256; ++grey) {
+            const QColor scaled = getGrayScaleColor(entry.color, grey);
+            QCOMPARE(scaled, QColor(entry.red * grey, entry.green * grey, entry.blue * grey, 255));
+        }
+    }
+}
+
+void TestTestColor::greyScale_leavesOtherColoursAlone_data()
+{
+    addOtherColors();
+}
+
+void TestTestColor::greyScale_leavesOtherColoursAlone()
+{
+    QFETCH(const QColor, color);
+    for (const int grey : {0, 7, 255})
+        QCOMPARE(getGrayScaleColor(color, grey), color);
+}
+
+void TestTestColor::greyScale_isClamped_data()
+{
+    QTest::addColumn<int>("grey");
+    QTest::addColumn<int>("level");
+    QTest::newRow("below") << -1 << 0;
+    QTest::newRow("far below") << std::numeric_limits<int>::min() << 0;
+    QTest::newRow("above") << 256 << 255;
+    QTest::newRow("far above") << std::numeric_limits<int>::max() << 255;
+}
+
+void TestTestColor::greyScale_isClamped()
+{
+    QFETCH(const int, grey);
+    QFETCH(const int, level);
+    QCOMPARE(getGrayScaleColor(Qt::yellow, grey), QColor(level, level, 0));
+}
+
+QTEST_MAIN(TestTestColor)
+#include "tst_testcolor.moc"
