@@ -1,0 +1,400 @@
+#include "framelessdialog.h"
+#include "titlebar.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <QtTest>
+
+using UX::Widgets::FramelessDialog;
+using UX::Widgets::TitleBar;
+
+namespace {
+
+// A dialog as the program derives them, with its protected members in reach of the test.
+class SampleDialog : public FramelessDialog
+{
+public:
+    using FramelessDialog::FramelessDialog;
+    using FramelessDialog::m_cancelButton;
+    using FramelessDialog::m_content;
+    using FramelessDialog::m_okButton;
+    using FramelessDialog::m_titleBar;
+
+    QPoint placeWhenShown;
+
+    QRect areaOf(const QWidget *part) const { return {part->mapTo(this, QPoint()), part->size()}; }
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        placeWhenShown = pos();
+        FramelessDialog::showEvent(event);
+    }
+};
+
+} // namespace
+
+class TestFramelessDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void dialog_isFramelessWhateverTheFlags_data();
+    void dialog_isFramelessWhateverTheFlags();
+    void windowTitle_showsInTheTitleBar();
+    void layout_goesIntoTheContentArea();
+    void buttons_areVisibleAndNamed();
+    void okButton_acceptsAndCancelRejects_data();
+    void okButton_acceptsAndCancelRejects();
+    void closeButton_rejects();
+    void buttonRow_goesWithTheLastButton_data();
+    void buttonRow_goesWithTheLastButton();
+    void focus_isOnTheDefaultButton_data();
+    void focus_isOnTheDefaultButton();
+    void focus_staysWhereTheSubclassSetIt();
+    void background_isFilledWithTheDefaultColor();
+    void drag_movesTheDialog();
+    void drag_withTheRightButtonDoesNot();
+    void doubleClick_doesNotMaximise();
+
+    void modality_followsTheWayOfShowing();
+    void firstShow_centresOnTheParentWindow();
+    void firstShow_staysOnTheScreen_data();
+    void firstShow_staysOnTheScreen();
+    void laterShow_keepsThePlace();
+    void explicitPlace_isKept();
+    void dialog_staysAboveAnOnTopWindow_data();
+    void dialog_staysAboveAnOnTopWindow();
+    void dialog_isOrdinaryWithoutAnOnTopWindow();
+};
+
+void TestFramelessDialog::dialog_isFramelessWhateverTheFlags_data()
+{
+    QTest::addColumn<Qt::WindowFlags>("flags");
+    QTest::newRow("none") << Qt::WindowFlags();
+    QTest::newRow("dialog") << Qt::WindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+}
+
+void TestFramelessDialog::dialog_isFramelessWhateverTheFlags()
+{
+    QFETCH(Qt::WindowFlags, flags);
+    const SampleDialog dialog(nullptr, flags);
+    QCOMPARE(dialog.windowType(), Qt::Dialog);
+    QVERIFY(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
+    QCOMPARE(dialog.windowFlags() & flags, flags);
+}
+
+void TestFramelessDialog::windowTitle_showsInTheTitleBar()
+{
+    SampleDialog dialog;
+    dialog.resize(360, 200);
+    dialog.show();
+    dialog.setWindowTitle(QStringLiteral("高级设置"));
+    QCOMPARE(dialog.m_titleBar->title(), QStringLiteral("高级设置"));
+    QCOMPARE(dialog.m_titleBar->findChild<QLabel *>()->text(), QStringLiteral("高级设置"));
+}
+
+void TestFramelessDialog::layout_goesIntoTheContentArea()
+{
+    SampleDialog dialog;
+    auto *label = new QLabel(QStringLiteral("content"));
+    auto *layout = new QVBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(label);
+    dialog.setLayout(layout);
+    dialog.resize(360, 220);
+    dialog.show();
+
+    QCOMPARE(dialog.m_content->layout(), layout);
+    QCOMPARE(label->parentWidget(), dialog.m_content);
+    const QRect bar = dialog.areaOf(dialog.m_titleBar);
+    const QRect content = dialog.areaOf(dialog.m_content);
+    QCOMPARE(bar, QRect(0, 0, 360, 28));
+    QCOMPARE(content.topLeft(), QPoint(0, 28));
+    QCOMPARE(content.width(), 360);
+    QCOMPARE(dialog.areaOf(label), content);
+    QVERIFY(content.bottom() < dialog.areaOf(dialog.m_okButton).top());
+    QVERIFY(dialog.rect().contains(dialog.areaOf(dialog.m_okButton)));
+}
+
+void TestFramelessDialog::buttons_areVisibleAndNamed()
+{
+    SampleDialog dialog;
+    dialog.show();
+    QVERIFY(dialog.m_okButton->isVisible());
+    QVERIFY(dialog.m_cancelButton->isVisible());
+    QCOMPARE(dialog.m_okButton->text(), QStringLiteral("确定"));
+    QCOMPARE(dialog.m_cancelButton->text(), QStringLiteral("取消"));
+    QVERIFY(dialog.areaOf(dialog.m_okButton).right() < dialog.areaOf(dialog.m_cancelButton).left());
+    for (const QPushButton *button : {dialog.m_okButton, dialog.m_cancelButton}) {
+        QCOMPARE(button->objectName(), QStringLiteral("DialogPushBtn"));
+        QCOMPARE(button->minimumWidth(), 70);
+    }
+}
+
+void TestFramelessDialog::okButton_acceptsAndCancelRejects_data()
+{
+    QTest::addColumn<bool>("accepts");
+    QTest::newRow("OK") << true;
+    QTest::newRow("Cancel") << false;
+}
+
+void TestFramelessDialog::okButton_acceptsAndCancelRejects()
+{
+    QFETCH(bool, accepts);
+    SampleDialog dialog;
+    QPushButton *button = accepts ? dialog.m_okButton : dialog.m_cancelButton;
+    QTimer::singleShot(0, &dialog, [button] { QTest::mouseClick(button, Qt::LeftButton); });
+    QCOMPARE(dialog.exec(), int(accepts ? QDialog::Accepted : QDialog::Rejected));
+    QVERIFY(!dialog.isVisible());
+}
+
+void TestFramelessDialog::closeButton_rejects()
+{
+    SampleDialog dialog;
+    QWidget *close = dialog.m_titleBar->titleButton(TitleBar::CloseButton);
+    QSignalSpy rejected(&dialog, &QDialog::rejected);
+    QTimer::singleShot(0, &dialog, [close] { QTest::mouseClick(close, Qt::LeftButton); });
+    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+    QCOMPARE(rejected.count(), 1);
+}
+
+void TestFramelessDialog::buttonRow_goesWithTheLastButton_data()
+{
+    QTest::addColumn<bool>("ok");
+    QTest::addColumn<bool>("cancel");
+    QTest::newRow("both") << true << true;
+    QTest::newRow("OK alone") << true << false;
+    QTest::newRow("Cancel alone") << false << true;
+    QTest::newRow("none") << false << false;
+}
+
+void TestFramelessDialog::buttonRow_goesWithTheLastButton()
+{
+    QFETCH(bool, ok);
+    QFETCH(bool, cancel);
+    SampleDialog dialog;
+    dialog.setFixedSize(360, 220);
+    dialog.setOKButtonVisible(ok);
+    dialog.setCancelButtonVisible(cancel);
+    dialog.show();
+
+    QCOMPARE(dialog.m_okButton->isVisible(), ok);
+    QCOMPARE(dialog.m_cancelButton->isVisible(), cancel);
+    const bool contentReachesTheBottom = dialog.areaOf(dialog.m_content).bottom() == 219;
+    QCOMPARE(contentReachesTheBottom, !ok && !cancel);
+
+    dialog.setOKButtonVisible(true);
+    QTRY_VERIFY(dialog.areaOf(dialog.m_content).bottom() < 219);
+    QVERIFY(dialog.m_okButton->isVisible());
+}
+
+void TestFramelessDialog::focus_isOnTheDefaultButton_data()
+{
+    QTest::addColumn<bool>("ok");
+    QTest::newRow("OK") << true;
+    QTest::newRow("Cancel, without OK") << false;
+}
+
+void TestFramelessDialog::focus_isOnTheDefaultButton()
+{
+    QFETCH(bool, ok);
+    SampleDialog dialog;
+    auto *layout = new QVBoxLayout;
+    layout->addWidget(new QLineEdit);
+    dialog.setLayout(layout);
+    dialog.setOKButtonVisible(ok);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+
+    QCOMPARE(dialog.focusWidget(), ok ? dialog.m_okButton : dialog.m_cancelButton);
+    QCOMPARE(QApplication::focusWidget(), dialog.focusWidget());
+    QVERIFY(qobject_cast<QPushButton *>(dialog.focusWidget())->isDefault());
+}
+
+void TestFramelessDialog::focus_staysWhereTheSubclassSetIt()
+{
+    SampleDialog dialog;
+    auto *layout = new QVBoxLayout;
+    auto *first = new QPushButton;
+    layout->addWidget(first);
+    dialog.setLayout(layout);
+    first->setFocus();
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QCOMPARE(QApplication::focusWidget(), first);
+}
+
+void TestFramelessDialog::background_isFilledWithTheDefaultColor()
+{
+    QCOMPARE(FramelessDialog::m_defaultBackgroundColor, QColor(48, 50, 56));
+    SampleDialog dialog;
+    dialog.resize(360, 220);
+    dialog.show();
+    QCOMPARE(dialog.grab().toImage().pixelColor(180, 100), QColor(48, 50, 56));
+
+    FramelessDialog::m_defaultBackgroundColor = QColor(1, 2, 3);
+    const QImage changed = dialog.grab().toImage();
+    FramelessDialog::m_defaultBackgroundColor = QColor(48, 50, 56);
+    for (const QPoint &point : {QPoint(0, 0), QPoint(359, 219), QPoint(180, 100)})
+        QCOMPARE(changed.pixelColor(point), QColor(1, 2, 3));
+}
+
+static void dragThroughTheWindow(QWidget &window, const QPoint &delta, Qt::MouseButton button)
+{
+    const QPoint grip(40, 14);
+    QWindow *handle = window.windowHandle();
+    const QPoint from = window.mapToGlobal(grip);
+    QTest::mousePress(handle, button, Qt::NoModifier, grip);
+    QTest::mouseMove(handle, handle->mapFromGlobal(from + delta / 3));
+    QTest::mouseMove(handle, handle->mapFromGlobal(from + delta));
+    QTest::mouseRelease(handle, button, Qt::NoModifier, handle->mapFromGlobal(from + delta));
+}
+
+void TestFramelessDialog::drag_movesTheDialog()
+{
+    SampleDialog dialog;
+    dialog.setGeometry(200, 150, 360, 220);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    dragThroughTheWindow(dialog, QPoint(-23, 71), Qt::LeftButton);
+    QCOMPARE(dialog.geometry(), QRect(177, 221, 360, 220));
+}
+
+void TestFramelessDialog::drag_withTheRightButtonDoesNot()
+{
+    SampleDialog dialog;
+    dialog.setGeometry(200, 150, 360, 220);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    dragThroughTheWindow(dialog, QPoint(-23, 71), Qt::RightButton);
+    QCOMPARE(dialog.geometry(), QRect(200, 150, 360, 220));
+}
+
+void TestFramelessDialog::doubleClick_doesNotMaximise()
+{
+    SampleDialog dialog;
+    dialog.setGeometry(200, 150, 360, 220);
+    dialog.show();
+    QTest::mouseDClick(dialog.m_titleBar, Qt::LeftButton, Qt::NoModifier, QPoint(40, 14));
+    QVERIFY(!dialog.isMaximized());
+    QCOMPARE(dialog.geometry(), QRect(200, 150, 360, 220));
+}
+
+void TestFramelessDialog::modality_followsTheWayOfShowing()
+{
+    SampleDialog shown;
+    shown.show();
+    QVERIFY(!shown.isModal());
+
+    SampleDialog opened;
+    opened.open();
+    QVERIFY(opened.isVisible());
+    QCOMPARE(opened.windowModality(), Qt::WindowModal);
+
+    SampleDialog executed;
+    Qt::WindowModality modality = Qt::NonModal;
+    QTimer::singleShot(0, &executed, [&] {
+        modality = executed.windowModality();
+        executed.done(7);
+    });
+    QCOMPARE(executed.exec(), 7);
+    QCOMPARE(modality, Qt::ApplicationModal);
+}
+
+void TestFramelessDialog::firstShow_centresOnTheParentWindow()
+{
+    QWidget window(nullptr, Qt::FramelessWindowHint);
+    window.setGeometry(100, 120, 500, 300);
+    auto *panel = new QWidget(&window);
+    panel->setGeometry(300, 200, 50, 50);
+    window.show();
+    SampleDialog dialog(panel);
+    dialog.resize(300, 200);
+    dialog.show();
+    QCOMPARE(dialog.geometry(), QRect(200, 170, 300, 200));
+    QCOMPARE(dialog.placeWhenShown, QPoint(200, 170));
+}
+
+void TestFramelessDialog::firstShow_staysOnTheScreen_data()
+{
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    QTest::addColumn<QPoint>("parentPlace");
+    QTest::addColumn<QPoint>("expected");
+    QTest::newRow("top left") << area.topLeft() << area.topLeft();
+    QTest::newRow("bottom right") << area.bottomRight() - QPoint(60, 60)
+                                  << area.bottomRight() - QPoint(299, 199);
+}
+
+void TestFramelessDialog::firstShow_staysOnTheScreen()
+{
+    QFETCH(QPoint, parentPlace);
+    QFETCH(QPoint, expected);
+    QWidget window(nullptr, Qt::FramelessWindowHint);
+    window.setGeometry(QRect(parentPlace, QSize(60, 60)));
+    window.show();
+    SampleDialog dialog(&window);
+    dialog.resize(300, 200);
+    dialog.show();
+    QCOMPARE(dialog.geometry(), QRect(expected, QSize(300, 200)));
+}
+
+void TestFramelessDialog::laterShow_keepsThePlace()
+{
+    SampleDialog dialog;
+    dialog.show();
+    dialog.move(33, 44);
+    dialog.hide();
+    dialog.show();
+    QCOMPARE(dialog.pos(), QPoint(33, 44));
+}
+
+void TestFramelessDialog::explicitPlace_isKept()
+{
+    SampleDialog dialog;
+    dialog.move(33, 44);
+    dialog.show();
+    QCOMPARE(dialog.pos(), QPoint(33, 44));
+}
+
+void TestFramelessDialog::dialog_staysAboveAnOnTopWindow_data()
+{
+    QTest::addColumn<bool>("isParent");
+    QTest::newRow("its parent") << true;
+    QTest::newRow("another window") << false;
+}
+
+void TestFramelessDialog::dialog_staysAboveAnOnTopWindow()
+{
+    QFETCH(bool, isParent);
+    QWidget onTop(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    SampleDialog dialog(isParent ? &onTop : nullptr);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setWindowTitle(QStringLiteral("title"));
+    if (!isParent)
+        onTop.show();
+    QVERIFY(!dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    dialog.show();
+
+    QVERIFY(dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    QVERIFY(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(dialog.windowModality(), Qt::WindowModal);
+    QCOMPARE(dialog.m_titleBar->title(), QStringLiteral("title"));
+}
+
+void TestFramelessDialog::dialog_isOrdinaryWithoutAnOnTopWindow()
+{
+    QWidget hidden(nullptr, Qt::Tool | Qt::WindowStaysOnTopHint);
+    SampleDialog dialog;
+    dialog.show();
+    QVERIFY(!dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+}
+
+QTEST_MAIN(TestFramelessDialog)
+#include "tst_framelessdialog.moc"

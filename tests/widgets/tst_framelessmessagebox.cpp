@@ -1,0 +1,285 @@
+#include "framelessmessagebox.h"
+#include "titlebar.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QTimer>
+#include <QTranslator>
+#include <QtTest>
+
+using UX::Widgets::FramelessMessageBox;
+using UX::Widgets::TitleBar;
+
+Q_DECLARE_METATYPE(QMessageBox::Icon)
+Q_DECLARE_METATYPE(QMessageBox::StandardButton)
+Q_DECLARE_METATYPE(QMessageBox::StandardButtons)
+
+namespace {
+
+const QString warningText = QStringLiteral("混测设置：请至少选中一项！");
+
+// A message box whose title bar is in reach of the test.
+class SampleBox : public FramelessMessageBox
+{
+public:
+    using FramelessMessageBox::FramelessMessageBox;
+    using FramelessMessageBox::m_cancelButton;
+    using FramelessMessageBox::m_okButton;
+    using FramelessMessageBox::m_titleBar;
+
+    explicit SampleBox(QMessageBox::StandardButtons buttons)
+        : FramelessMessageBox(QMessageBox::Warning, QStringLiteral("提示"), warningText, buttons)
+    { }
+
+    QWidget *closeButton() const { return m_titleBar->titleButton(TitleBar::CloseButton); }
+    QLabel *textLabel() const { return findChild<QLabel *>(QStringLiteral("messageText")); }
+    QLabel *iconLabel() const { return findChild<QLabel *>(QStringLiteral("messageIcon")); }
+    QRect areaOf(const QWidget *part) const { return {part->mapTo(this, QPoint()), part->size()}; }
+};
+
+// Translates one source text of the message box.
+class OneTextTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        const bool isIt = qstrcmp(context, "UX::Widgets::FramelessMessageBox") == 0
+                          && QString::fromUtf8(sourceText) == QStringLiteral("确定");
+        return isIt ? QStringLiteral("Agreed") : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class TestFramelessMessageBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void box_showsTitleTextAndIcon();
+    void box_isModalAndFrameless();
+    void icon_followsItsKind_data();
+    void icon_followsItsKind();
+    void button_isFoundByStandardButton();
+    void noButtons_givesOk();
+    void buttons_haveTheProgramsTexts();
+    void newLanguage_changesTheButtonTexts();
+    void click_isTheResult_data();
+    void click_isTheResult();
+    void closing_givesTheEscapeButton_data();
+    void closing_givesTheEscapeButton();
+    void boxWithoutEscapeButton_cannotBeClosed();
+    void focus_isOnTheDefaultButton();
+    void enter_clicksTheDefaultButton();
+    void smallBox_showsTheWholeText();
+    void smallBox_growsForALongText();
+};
+
+void TestFramelessMessageBox::box_showsTitleTextAndIcon()
+{
+    SampleBox box(QMessageBox::Ok);
+    box.show();
+    QCOMPARE(box.m_titleBar->title(), QStringLiteral("提示"));
+    QCOMPARE(box.textLabel()->text(), warningText);
+    QVERIFY(box.textLabel()->isVisible());
+    QVERIFY(box.iconLabel()->isVisible());
+    QVERIFY(box.closeButton()->isVisible());
+    QVERIFY(!box.m_okButton->isVisible());
+    QVERIFY(!box.m_cancelButton->isVisible());
+}
+
+void TestFramelessMessageBox::box_isModalAndFrameless()
+{
+    const SampleBox box(QMessageBox::Ok);
+    QVERIFY(box.isModal());
+    QVERIFY(box.windowFlags().testFlag(Qt::FramelessWindowHint));
+    QVERIFY(box.windowFlags().testFlag(Qt::MSWindowsFixedSizeDialogHint));
+    QCOMPARE(box.windowType(), Qt::Dialog);
+}
+
+void TestFramelessMessageBox::icon_followsItsKind_data()
+{
+    QTest::addColumn<QMessageBox::Icon>("icon");
+    QTest::addColumn<int>("standardPixmap");
+    QTest::newRow("none") << QMessageBox::NoIcon << -1;
+    QTest::newRow("information") << QMessageBox::Information
+                                 << int(QStyle::SP_MessageBoxInformation);
+    QTest::newRow("warning") << QMessageBox::Warning << int(QStyle::SP_MessageBoxWarning);
+    QTest::newRow("critical") << QMessageBox::Critical << int(QStyle::SP_MessageBoxCritical);
+    QTest::newRow("question") << QMessageBox::Question << int(QStyle::SP_MessageBoxQuestion);
+}
+
+void TestFramelessMessageBox::icon_followsItsKind()
+{
+    QFETCH(QMessageBox::Icon, icon);
+    QFETCH(int, standardPixmap);
+    SampleBox box(icon, QString(), warningText, QMessageBox::Ok);
+    box.show();
+    QCOMPARE(box.iconLabel()->isVisible(), standardPixmap >= 0);
+    if (standardPixmap < 0)
+        return;
+    const int side = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    const QIcon expected = box.style()->standardIcon(QStyle::StandardPixmap(standardPixmap));
+    QCOMPARE(box.iconLabel()->property("pixmap").value<QPixmap>().toImage(),
+             expected.pixmap(side, side).toImage());
+}
+
+void TestFramelessMessageBox::button_isFoundByStandardButton()
+{
+    const SampleBox box(QMessageBox::Ok | QMessageBox::Cancel);
+    QVERIFY(box.button(QMessageBox::Ok));
+    QVERIFY(box.button(QMessageBox::Cancel));
+    QVERIFY(box.button(QMessageBox::Ok) != box.button(QMessageBox::Cancel));
+    QCOMPARE(box.button(QMessageBox::Yes), nullptr);
+    QCOMPARE(box.button(QMessageBox::Ok)->objectName(), QStringLiteral("DialogPushBtn"));
+    QCOMPARE(box.button(QMessageBox::Ok)->minimumWidth(), 70);
+}
+
+void TestFramelessMessageBox::noButtons_givesOk()
+{
+    const SampleBox box(QMessageBox::NoButton);
+    QVERIFY(box.button(QMessageBox::Ok));
+    QCOMPARE(box.findChild<QDialogButtonBox *>()->buttons().size(), 1);
+}
+
+void TestFramelessMessageBox::buttons_haveTheProgramsTexts()
+{
+    const SampleBox box(QMessageBox::Ok | QMessageBox::Cancel | QMessageBox::Yes | QMessageBox::No
+                        | QMessageBox::Close);
+    QCOMPARE(box.button(QMessageBox::Ok)->text(), QStringLiteral("确定"));
+    QCOMPARE(box.button(QMessageBox::Cancel)->text(), QStringLiteral("取消"));
+    QCOMPARE(box.button(QMessageBox::Yes)->text(), QStringLiteral("是"));
+    QCOMPARE(box.button(QMessageBox::No)->text(), QStringLiteral("否"));
+    QCOMPARE(box.button(QMessageBox::Close)->text(), QStringLiteral("关闭"));
+}
+
+void TestFramelessMessageBox::newLanguage_changesTheButtonTexts()
+{
+    const SampleBox box(QMessageBox::Ok | QMessageBox::Cancel);
+    OneTextTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    QTRY_COMPARE(box.button(QMessageBox::Ok)->text(), QStringLiteral("Agreed"));
+    QCOMPARE(box.button(QMessageBox::Cancel)->text(), QStringLiteral("取消"));
+}
+
+void TestFramelessMessageBox::click_isTheResult_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("which");
+    QTest::newRow("yes") << QMessageBox::Yes;
+    QTest::newRow("no") << QMessageBox::No;
+    QTest::newRow("cancel") << QMessageBox::Cancel;
+}
+
+void TestFramelessMessageBox::click_isTheResult()
+{
+    QFETCH(QMessageBox::StandardButton, which);
+    SampleBox box(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    QCOMPARE(box.clickedButton(), QMessageBox::NoButton);
+    QTimer::singleShot(0, &box, [&] { QTest::mouseClick(box.button(which), Qt::LeftButton); });
+    QCOMPARE(box.exec(), int(which));
+    QCOMPARE(box.clickedButton(), which);
+    QVERIFY(!box.isVisible());
+}
+
+void TestFramelessMessageBox::closing_givesTheEscapeButton_data()
+{
+    QTest::addColumn<QMessageBox::StandardButtons>("buttons");
+    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<QMessageBox::StandardButton>("expected");
+
+    using Buttons = QMessageBox::StandardButtons;
+    QTest::newRow("the only button") << Buttons(QMessageBox::Ok) << false << QMessageBox::Ok;
+    QTest::newRow("cancel") << Buttons(QMessageBox::Save | QMessageBox::Discard
+                                       | QMessageBox::Cancel)
+                            << false << QMessageBox::Cancel;
+    QTest::newRow("the one that rejects")
+        << Buttons(QMessageBox::Ok | QMessageBox::Abort) << false << QMessageBox::Abort;
+    QTest::newRow("no") << Buttons(QMessageBox::Yes | QMessageBox::No) << false << QMessageBox::No;
+    QTest::newRow("escape key") << Buttons(QMessageBox::Ok | QMessageBox::Cancel) << true
+                                << QMessageBox::Cancel;
+}
+
+void TestFramelessMessageBox::closing_givesTheEscapeButton()
+{
+    QFETCH(QMessageBox::StandardButtons, buttons);
+    QFETCH(bool, byKey);
+    QFETCH(QMessageBox::StandardButton, expected);
+    SampleBox box(buttons);
+    QTimer::singleShot(0, &box, [&] {
+        if (byKey)
+            QTest::keyClick(&box, Qt::Key_Escape);
+        else
+            QTest::mouseClick(box.closeButton(), Qt::LeftButton);
+    });
+    QCOMPARE(box.exec(), int(expected));
+    QCOMPARE(box.clickedButton(), expected);
+}
+
+void TestFramelessMessageBox::boxWithoutEscapeButton_cannotBeClosed()
+{
+    SampleBox box(QMessageBox::Save | QMessageBox::Discard);
+    box.show();
+    QVERIFY(!box.closeButton()->isVisible());
+    QVERIFY(!box.close());
+    QVERIFY(box.isVisible());
+    QCOMPARE(box.clickedButton(), QMessageBox::NoButton);
+
+    QTest::mouseClick(box.button(QMessageBox::Discard), Qt::LeftButton);
+    QVERIFY(!box.isVisible());
+    QCOMPARE(box.clickedButton(), QMessageBox::Discard);
+}
+
+void TestFramelessMessageBox::focus_isOnTheDefaultButton()
+{
+    SampleBox box(QMessageBox::No | QMessageBox::Yes);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowActive(&box));
+    QCOMPARE(QApplication::focusWidget(), box.button(QMessageBox::Yes));
+    QVERIFY(box.button(QMessageBox::Yes)->isDefault());
+    QVERIFY(!box.button(QMessageBox::No)->isDefault());
+}
+
+void TestFramelessMessageBox::enter_clicksTheDefaultButton()
+{
+    SampleBox box(QMessageBox::Ok | QMessageBox::Cancel);
+    QTimer::singleShot(0, &box, [&] { QTest::keyClick(&box, Qt::Key_Return); });
+    QCOMPARE(box.exec(), int(QMessageBox::Ok));
+}
+
+void TestFramelessMessageBox::smallBox_showsTheWholeText()
+{
+    SampleBox box(QMessageBox::Ok);
+    box.setStyleSheet(QStringLiteral("QPushButton { min-height: 30px; }"));
+    box.resize(206, 131);
+    box.show();
+
+    QCOMPARE(box.size(), QSize(206, 131));
+    const QLabel *text = box.textLabel();
+    QVERIFY(text->height() >= text->heightForWidth(text->width()));
+    QVERIFY(text->width() > text->fontMetrics().height() * 3);
+    const QRect textArea = box.areaOf(text);
+    const QRect buttonArea = box.areaOf(box.button(QMessageBox::Ok));
+    QVERIFY(box.rect().contains(textArea));
+    QVERIFY(box.rect().contains(buttonArea));
+    QVERIFY(!textArea.intersects(buttonArea));
+    QVERIFY(!textArea.intersects(box.areaOf(box.iconLabel())));
+    QVERIFY(buttonArea.height() >= 30);
+}
+
+void TestFramelessMessageBox::smallBox_growsForALongText()
+{
+    SampleBox box(QMessageBox::Warning, QString(), warningText.repeated(6), QMessageBox::Ok);
+    box.resize(206, 131);
+    box.show();
+
+    QCOMPARE(box.width(), 206);
+    QVERIFY(box.height() > 131);
+    const QLabel *text = box.textLabel();
+    QVERIFY(text->height() >= text->heightForWidth(text->width()));
+}
+
+QTEST_MAIN(TestFramelessMessageBox)
+#include "tst_framelessmessagebox.moc"

@@ -1,0 +1,142 @@
+#include "swatchbutton.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+namespace {
+
+constexpr QRgb fill = 0xff204080;
+
+// A swatch of 42 x 42, filled by its style sheet.
+void prepare(SwatchButton &button, const QString &text)
+{
+    button.resize(42, 42);
+    button.setText(text);
+    button.setStyleSheet(QStringLiteral("SwatchButton { background-color: #204080; color: white; }"
+                                        "SwatchButton::indicator { width: 0px; height: 0px; }"));
+}
+
+QImage rendered(SwatchButton &button)
+{
+    return button.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+// Where anything but the fill is to be seen.
+QRect inkOf(const QImage &image)
+{
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != fill)
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+} // namespace
+
+class TestSwatchButton : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void wholeArea_answersTheMouse_data();
+    void wholeArea_answersTheMouse();
+    void outside_doesNotAnswer();
+    void disabledButton_doesNotAnswer();
+    void click_onTheCheckedButtonKeepsItChecked();
+
+    void styleSheet_fillsTheWholeArea();
+    void text_standsInTheMiddle_data();
+    void text_standsInTheMiddle();
+};
+
+void TestSwatchButton::wholeArea_answersTheMouse_data()
+{
+    QTest::addColumn<QPoint>("position");
+    QTest::addColumn<QString>("text");
+    for (const char *text : {"", "R"}) {
+        const QString shown = QString::fromLatin1(text);
+        QTest::addRow("top left '%s'", text) << QPoint(0, 0) << shown;
+        QTest::addRow("top right '%s'", text) << QPoint(41, 0) << shown;
+        QTest::addRow("bottom left '%s'", text) << QPoint(0, 41) << shown;
+        QTest::addRow("bottom right '%s'", text) << QPoint(41, 41) << shown;
+        QTest::addRow("centre '%s'", text) << QPoint(21, 21) << shown;
+    }
+}
+
+void TestSwatchButton::wholeArea_answersTheMouse()
+{
+    QFETCH(const QPoint, position);
+    QFETCH(const QString, text);
+    SwatchButton button;
+    prepare(button, text);
+    QSignalSpy clicked(&button, &QAbstractButton::clicked);
+    QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, position);
+
+    QCOMPARE(clicked.count(), 1);
+    QVERIFY(button.isChecked());
+}
+
+void TestSwatchButton::outside_doesNotAnswer()
+{
+    SwatchButton button;
+    prepare(button, QStringLiteral("R"));
+    // Pressed inside, released outside: no click.
+    QTest::mousePress(&button, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    QTest::mouseRelease(&button, Qt::LeftButton, Qt::NoModifier, QPoint(60, 5));
+    QVERIFY(!button.isChecked());
+}
+
+void TestSwatchButton::disabledButton_doesNotAnswer()
+{
+    SwatchButton button;
+    prepare(button, QStringLiteral("R"));
+    button.setEnabled(false);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QVERIFY(!button.isChecked());
+}
+
+void TestSwatchButton::click_onTheCheckedButtonKeepsItChecked()
+{
+    SwatchButton button;
+    prepare(button, QStringLiteral("R"));
+    QSignalSpy toggled(&button, &QAbstractButton::toggled);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::mouseClick(&button, Qt::LeftButton);
+
+    QVERIFY(button.isChecked());
+    QCOMPARE(toggled.count(), 1);
+}
+
+void TestSwatchButton::styleSheet_fillsTheWholeArea()
+{
+    SwatchButton button;
+    prepare(button, QString());
+    QVERIFY(inkOf(rendered(button)).isNull());
+}
+
+void TestSwatchButton::text_standsInTheMiddle_data()
+{
+    QTest::addColumn<bool>("checked");
+    QTest::newRow("unchecked") << false;
+    QTest::newRow("checked") << true;
+}
+
+void TestSwatchButton::text_standsInTheMiddle()
+{
+    QFETCH(const bool, checked);
+    SwatchButton button;
+    // Neither ascends nor descends far, so that its ink is centred as its line is.
+    prepare(button, QStringLiteral("H"));
+    button.setChecked(checked);
+    const QRect ink = inkOf(rendered(button));
+
+    QVERIFY(ink.isValid());
+    QVERIFY2(qAbs(ink.center().x() - 20) <= 2, qPrintable(QString::number(ink.center().x())));
+    QVERIFY2(qAbs(ink.center().y() - 20) <= 4, qPrintable(QString::number(ink.center().y())));
+}
+
+QTEST_MAIN(TestSwatchButton)
+#include "tst_swatchbutton.moc"

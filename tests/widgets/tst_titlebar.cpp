@@ -1,0 +1,365 @@
+#include "titlebar.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QStyle>
+#include <QToolButton>
+#include <QTranslator>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <memory>
+
+using UX::Widgets::TitleBar;
+
+namespace {
+
+// A window with nothing but its title bar, as wide as asked.
+template<typename Window>
+struct Titled
+{
+    explicit Titled(int width = 400)
+    {
+        auto *layout = new QVBoxLayout(&window);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(bar, 0, Qt::AlignTop);
+        layout->setAlignment(bar, Qt::Alignment());
+        window.resize(width, 100);
+    }
+
+    QLabel *label() const { return bar->findChild<QLabel *>(); }
+    QToolButton *button(int id) const { return qobject_cast<QToolButton *>(bar->titleButton(id)); }
+    bool shows(int id) const { return !button(id)->isHidden(); }
+
+    Window window;
+    TitleBar *bar = new TitleBar(&window);
+};
+
+QIcon plainIcon(const QColor &color)
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(color);
+    return {pixmap};
+}
+
+QColor faceColor(const QToolButton *button)
+{
+    return button->icon().pixmap(16, 16).toImage().pixelColor(8, 8);
+}
+
+// Answers every source text of one context with "<text>!".
+class ShoutingTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        if (qstrcmp(context, "UX::Widgets::TitleBar") != 0)
+            return {};
+        return QString::fromUtf8(sourceText) + QLatin1Char('!');
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class TestTitleBar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void windowTitle_isShown();
+    void longTitle_isElidedAndWholeAsToolTip();
+    void title_thatFitsAgainLosesItsToolTip();
+    void title_isElidedAgainWhenTheWindowGetsNarrower();
+    void markup_isShownAsItIs();
+
+    void parts_carryTheStyleProperties_data();
+    void parts_carryTheStyleProperties();
+    void buttons_standInTheOrderOfTheirIds();
+    void buttons_takeNoFocus();
+    void unknownId_isIgnored_data();
+    void unknownId_isIgnored();
+    void buttonIcon_canBeSet();
+    void everyWindowButton_hasAnIcon();
+
+    void windowIcon_showsOnTheLogo();
+    void logo_hidesWithoutAnIcon();
+    void resizableWindow_offersMaximise();
+    void maximisedWindow_offersRestore();
+    void fixedSizeWindow_offersNeither_data();
+    void fixedSizeWindow_offersNeither();
+    void dialog_offersCloseAlone();
+    void requestedVisibility_staysThroughStateChanges();
+
+    void buttons_actOnTheWindow();
+    void newLanguage_changesTheToolTips();
+};
+
+void TestTitleBar::windowTitle_isShown()
+{
+    Titled<QWidget> titled;
+    titled.window.setWindowTitle(QStringLiteral("A title"));
+    titled.window.show();
+
+    QCOMPARE(titled.bar->title(), QStringLiteral("A title"));
+    QCOMPARE(titled.label()->text(), QStringLiteral("A title"));
+    QCOMPARE(titled.label()->toolTip(), QString());
+    QCOMPARE(titled.bar->height(), 28);
+}
+
+void TestTitleBar::longTitle_isElidedAndWholeAsToolTip()
+{
+    Titled<QWidget> titled(250);
+    titled.window.show();
+    const QString title = QStringLiteral("A very long title ").repeated(10);
+    titled.window.setWindowTitle(title);
+
+    const QString shown = titled.label()->text();
+    QVERIFY(shown.endsWith(QChar(0x2026)));
+    QVERIFY(title.startsWith(shown.left(shown.size() - 1)));
+    QVERIFY(shown.size() > 5);
+    QVERIFY(titled.label()->fontMetrics().boundingRect(shown).width() <= titled.label()->width());
+    QCOMPARE(titled.label()->toolTip(), title);
+    QCOMPARE(titled.bar->title(), title);
+    QCOMPARE(titled.window.width(), 250);
+}
+
+void TestTitleBar::title_thatFitsAgainLosesItsToolTip()
+{
+    Titled<QWidget> titled(250);
+    titled.window.show();
+    titled.bar->setTitle(QStringLiteral("A very long title ").repeated(10));
+    titled.bar->setTitle(QStringLiteral("Short"));
+
+    QCOMPARE(titled.label()->text(), QStringLiteral("Short"));
+    QCOMPARE(titled.label()->toolTip(), QString());
+}
+
+void TestTitleBar::title_isElidedAgainWhenTheWindowGetsNarrower()
+{
+    Titled<QWidget> titled(600);
+    titled.window.show();
+    const QString title = QStringLiteral("A title for a wide window");
+    titled.window.setWindowTitle(title);
+    QCOMPARE(titled.label()->text(), title);
+
+    titled.window.resize(180, 100);
+    QTRY_VERIFY(titled.label()->text().endsWith(QChar(0x2026)));
+    titled.window.resize(600, 100);
+    QTRY_COMPARE(titled.label()->text(), title);
+}
+
+void TestTitleBar::markup_isShownAsItIs()
+{
+    Titled<QWidget> titled;
+    titled.bar->setTitle(QStringLiteral("<b>bold</b>"));
+    QCOMPARE(titled.label()->textFormat(), Qt::PlainText);
+}
+
+void TestTitleBar::parts_carryTheStyleProperties_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<QByteArray>("property");
+
+    QTest::newRow("logo") << 0 << QByteArray("isTitleBarLogoButton");
+    QTest::newRow("minimise") << 1 << QByteArray("isTitleBarMinButton");
+    QTest::newRow("maximise") << 2 << QByteArray("isTitleBarMaxButton");
+    QTest::newRow("restore") << 3 << QByteArray("isTitleBarRestoreButton");
+    QTest::newRow("close") << 4 << QByteArray("isTitleBarCloseButton");
+}
+
+void TestTitleBar::parts_carryTheStyleProperties()
+{
+    QFETCH(int, id);
+    QFETCH(QByteArray, property);
+    Titled<QWidget> titled;
+
+    QCOMPARE(titled.button(id)->dynamicPropertyNames(), QList<QByteArray>{property});
+    QCOMPARE(titled.button(id)->property(property.constData()), QVariant(true));
+    QCOMPARE(titled.label()->property("isTitleBarTitle"), QVariant(true));
+    QCOMPARE(titled.bar->property("isTitleBar"), QVariant(true));
+}
+
+void TestTitleBar::buttons_standInTheOrderOfTheirIds()
+{
+    Titled<QWidget> titled;
+    for (int id = 0; id <= 4; ++id)
+        titled.bar->setTitleButtonVisible(id, true);
+    titled.window.show();
+
+    for (int id = 1; id <= 4; ++id)
+        QVERIFY(titled.button(id)->x() >= titled.button(id - 1)->geometry().right() + 1);
+    QVERIFY(titled.label()->x() > titled.button(0)->geometry().right());
+    QVERIFY(titled.label()->geometry().right() < titled.button(1)->x());
+    QCOMPARE(titled.button(0)->x(), 0);
+    QCOMPARE(titled.button(4)->geometry().right(), titled.bar->rect().right());
+}
+
+void TestTitleBar::buttons_takeNoFocus()
+{
+    Titled<QWidget> titled;
+    for (int id = 0; id <= 4; ++id)
+        QCOMPARE(titled.button(id)->focusPolicy(), Qt::NoFocus);
+}
+
+void TestTitleBar::unknownId_isIgnored_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::newRow("before the first") << -1;
+    QTest::newRow("after the last") << 5;
+}
+
+void TestTitleBar::unknownId_isIgnored()
+{
+    QFETCH(int, id);
+    Titled<QWidget> titled;
+    QCOMPARE(titled.bar->titleButton(id), nullptr);
+    titled.bar->setTitleButtonIcon(id, plainIcon(Qt::red));
+    titled.bar->setTitleButtonVisible(id, false);
+    QVERIFY(titled.shows(TitleBar::CloseButton));
+}
+
+void TestTitleBar::buttonIcon_canBeSet()
+{
+    Titled<QWidget> titled;
+    titled.bar->setTitleButtonIcon(4, plainIcon(Qt::cyan));
+    QCOMPARE(faceColor(titled.button(4)), QColor(Qt::cyan));
+    QVERIFY(faceColor(titled.button(1)) != QColor(Qt::cyan));
+}
+
+void TestTitleBar::everyWindowButton_hasAnIcon()
+{
+    Titled<QWidget> titled;
+    for (int id = 1; id <= 4; ++id)
+        QVERIFY(!titled.button(id)->icon().pixmap(16, 16).isNull());
+}
+
+void TestTitleBar::windowIcon_showsOnTheLogo()
+{
+    Titled<QWidget> titled;
+    titled.window.setWindowIcon(plainIcon(Qt::green));
+    QCOMPARE(faceColor(titled.button(0)), QColor(Qt::green));
+    QVERIFY(titled.shows(TitleBar::LogoButton));
+
+    titled.window.setWindowIcon(plainIcon(Qt::magenta));
+    QCOMPARE(faceColor(titled.button(0)), QColor(Qt::magenta));
+}
+
+void TestTitleBar::logo_hidesWithoutAnIcon()
+{
+    Titled<QWidget> titled;
+    QVERIFY(!titled.shows(TitleBar::LogoButton));
+}
+
+void TestTitleBar::resizableWindow_offersMaximise()
+{
+    Titled<QWidget> titled;
+    QVERIFY(TitleBar::canMaximize(&titled.window));
+    QVERIFY(titled.shows(TitleBar::MinButton));
+    QVERIFY(titled.shows(TitleBar::MaxButton));
+    QVERIFY(!titled.shows(TitleBar::RestoreButton));
+    QVERIFY(titled.shows(TitleBar::CloseButton));
+}
+
+void TestTitleBar::maximisedWindow_offersRestore()
+{
+    Titled<QWidget> titled;
+    titled.window.showMaximized();
+    QVERIFY(!titled.shows(TitleBar::MaxButton));
+    QVERIFY(titled.shows(TitleBar::RestoreButton));
+
+    titled.window.showNormal();
+    QVERIFY(titled.shows(TitleBar::MaxButton));
+    QVERIFY(!titled.shows(TitleBar::RestoreButton));
+}
+
+void TestTitleBar::fixedSizeWindow_offersNeither_data()
+{
+    QTest::addColumn<QSize>("minimum");
+    QTest::addColumn<QSize>("maximum");
+    const int most = QWIDGETSIZE_MAX;
+
+    QTest::newRow("both directions") << QSize(585, 245) << QSize(585, 245);
+    QTest::newRow("width") << QSize(585, 0) << QSize(585, most);
+    QTest::newRow("height") << QSize(0, 245) << QSize(most, 245);
+}
+
+void TestTitleBar::fixedSizeWindow_offersNeither()
+{
+    QFETCH(QSize, minimum);
+    QFETCH(QSize, maximum);
+    Titled<QWidget> titled;
+    titled.window.setMinimumSize(minimum);
+    titled.window.setMaximumSize(maximum);
+    titled.window.show();
+
+    QVERIFY(!TitleBar::canMaximize(&titled.window));
+    QVERIFY(titled.shows(TitleBar::MinButton));
+    QVERIFY(!titled.shows(TitleBar::MaxButton));
+    QVERIFY(!titled.shows(TitleBar::RestoreButton));
+    QVERIFY(titled.shows(TitleBar::CloseButton));
+}
+
+void TestTitleBar::dialog_offersCloseAlone()
+{
+    Titled<QDialog> titled;
+    titled.window.show();
+
+    QVERIFY(!TitleBar::canMaximize(&titled.window));
+    QVERIFY(!titled.shows(TitleBar::MinButton));
+    QVERIFY(!titled.shows(TitleBar::MaxButton));
+    QVERIFY(!titled.shows(TitleBar::RestoreButton));
+    QVERIFY(titled.shows(TitleBar::CloseButton));
+}
+
+void TestTitleBar::requestedVisibility_staysThroughStateChanges()
+{
+    Titled<QWidget> titled;
+    titled.window.setWindowIcon(plainIcon(Qt::green));
+    titled.bar->setTitleButtonVisible(TitleBar::LogoButton, false);
+    titled.bar->setTitleButtonVisible(TitleBar::RestoreButton, false);
+    titled.window.showMaximized();
+
+    QVERIFY(!titled.shows(TitleBar::LogoButton));
+    QVERIFY(!titled.shows(TitleBar::RestoreButton));
+    titled.bar->setTitleButtonVisible(TitleBar::LogoButton, true);
+    QVERIFY(titled.shows(TitleBar::LogoButton));
+}
+
+void TestTitleBar::buttons_actOnTheWindow()
+{
+    Titled<QWidget> titled;
+    titled.window.show();
+
+    titled.button(TitleBar::MaxButton)->click();
+    QVERIFY(titled.window.isMaximized());
+    titled.button(TitleBar::RestoreButton)->click();
+    QVERIFY(!titled.window.isMaximized());
+    titled.button(TitleBar::MinButton)->click();
+    QVERIFY(titled.window.isMinimized());
+    titled.window.showNormal();
+    titled.button(TitleBar::CloseButton)->click();
+    QVERIFY(!titled.window.isVisible());
+}
+
+void TestTitleBar::newLanguage_changesTheToolTips()
+{
+    Titled<QWidget> titled;
+    const QStringList names{QStringLiteral("最小化"), QStringLiteral("最大化"),
+                            QStringLiteral("还原"), QStringLiteral("关闭")};
+    for (int id = 1; id <= 4; ++id) {
+        QCOMPARE(titled.button(id)->toolTip(), names.at(id - 1));
+        QCOMPARE(titled.button(id)->accessibleName(), names.at(id - 1));
+    }
+
+    ShoutingTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    for (int id = 1; id <= 4; ++id) {
+        QTRY_COMPARE(titled.button(id)->toolTip(), names.at(id - 1) + QLatin1Char('!'));
+        QCOMPARE(titled.button(id)->accessibleName(), names.at(id - 1) + QLatin1Char('!'));
+    }
+}
+
+QTEST_MAIN(TestTitleBar)
+#include "tst_titlebar.moc"

@@ -1,0 +1,201 @@
+#include "windowdragger.h"
+
+#include <QDialog>
+#include <QMouseEvent>
+#include <QtTest>
+
+using UX::Widgets::WindowDragger;
+
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
+namespace {
+
+constexpr QPoint start(300, 200);
+
+// A mouse event somewhere on the desktop, as the title bar would see it.
+QMouseEvent mouse(QEvent::Type type, const QPoint &global, Qt::MouseButton button,
+                  Qt::MouseButtons buttons)
+{
+    return {type, QPointF(5, 5), QPointF(5, 5), global, button, buttons, Qt::NoModifier};
+}
+
+// A window with the dragger under test, and short words for what the mouse does to it.
+struct Dragged
+{
+    Dragged()
+    {
+        window.setGeometry(start.x(), start.y(), 240, 120);
+        window.show();
+    }
+
+    bool send(const QMouseEvent &event) { return dragger.handleEvent(&event); }
+    bool press(const QPoint &at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        return send(mouse(QEvent::MouseButtonPress, at, button, button));
+    }
+    bool moveTo(const QPoint &at, Qt::MouseButtons buttons = Qt::LeftButton)
+    {
+        return send(mouse(QEvent::MouseMove, at, Qt::NoButton, buttons));
+    }
+    bool release(const QPoint &at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        return send(mouse(QEvent::MouseButtonRelease, at, button, Qt::NoButton));
+    }
+    bool doubleClick(const QPoint &at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        return send(mouse(QEvent::MouseButtonDblClick, at, button, button));
+    }
+
+    QWidget window{nullptr, Qt::FramelessWindowHint};
+    WindowDragger dragger{&window};
+};
+
+const QPoint grip = start + QPoint(17, 9);
+
+} // namespace
+
+class TestWindowDragger : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void drag_movesByTheMouseDelta_data();
+    void drag_movesByTheMouseDelta();
+    void drag_endsWithTheRelease();
+    void drag_endsWhenTheReleaseWasMissed();
+    void otherButtons_doNotDrag_data();
+    void otherButtons_doNotDrag();
+    void rightReleaseDuringADrag_goesOn();
+    void maximisedWindow_isNotDragged();
+    void doubleClick_togglesMaximised();
+    void doubleClick_withTheRightButtonDoesNothing();
+    void doubleClick_onAFixedSizeDoesNothingButTakesHold();
+    void doubleClick_onADialogDoesNothing();
+    void otherEvents_areLeftAlone();
+};
+
+void TestWindowDragger::drag_movesByTheMouseDelta_data()
+{
+    QTest::addColumn<QPoint>("delta");
+    QTest::newRow("one pixel") << QPoint(1, 0);
+    QTest::newRow("right and down") << QPoint(130, 57);
+    QTest::newRow("left and up") << QPoint(-41, -63);
+    QTest::newRow("beyond the edge of the screen") << QPoint(-400, -250);
+}
+
+void TestWindowDragger::drag_movesByTheMouseDelta()
+{
+    QFETCH(QPoint, delta);
+    Dragged dragged;
+    QVERIFY(dragged.press(grip));
+    QVERIFY(dragged.moveTo(grip + delta / 2));
+    QVERIFY(dragged.moveTo(grip + delta));
+    QVERIFY(dragged.release(grip + delta));
+
+    QCOMPARE(dragged.window.pos(), start + delta);
+    QCOMPARE(dragged.window.size(), QSize(240, 120));
+}
+
+void TestWindowDragger::drag_endsWithTheRelease()
+{
+    Dragged dragged;
+    dragged.press(grip);
+    dragged.release(grip);
+    QVERIFY(!dragged.moveTo(grip + QPoint(50, 50)));
+    QCOMPARE(dragged.window.pos(), start);
+}
+
+void TestWindowDragger::drag_endsWhenTheReleaseWasMissed()
+{
+    Dragged dragged;
+    dragged.press(grip);
+    QVERIFY(!dragged.moveTo(grip + QPoint(50, 50), Qt::NoButton));
+    QVERIFY(!dragged.moveTo(grip + QPoint(60, 60)));
+    QCOMPARE(dragged.window.pos(), start);
+}
+
+void TestWindowDragger::otherButtons_doNotDrag_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("right") << Qt::RightButton;
+    QTest::newRow("middle") << Qt::MiddleButton;
+}
+
+void TestWindowDragger::otherButtons_doNotDrag()
+{
+    QFETCH(Qt::MouseButton, button);
+    Dragged dragged;
+    QVERIFY(!dragged.press(grip, button));
+    QVERIFY(!dragged.moveTo(grip + QPoint(50, 50), button));
+    QVERIFY(!dragged.release(grip + QPoint(50, 50), button));
+    QCOMPARE(dragged.window.pos(), start);
+}
+
+void TestWindowDragger::rightReleaseDuringADrag_goesOn()
+{
+    Dragged dragged;
+    dragged.press(grip);
+    QVERIFY(!dragged.release(grip, Qt::RightButton));
+    QVERIFY(dragged.moveTo(grip + QPoint(8, 4)));
+    QCOMPARE(dragged.window.pos(), start + QPoint(8, 4));
+}
+
+void TestWindowDragger::maximisedWindow_isNotDragged()
+{
+    Dragged dragged;
+    dragged.window.showMaximized();
+    const QPoint before = dragged.window.pos();
+    QVERIFY(!dragged.press(grip));
+    QVERIFY(!dragged.moveTo(grip + QPoint(50, 50)));
+    QCOMPARE(dragged.window.pos(), before);
+}
+
+void TestWindowDragger::doubleClick_togglesMaximised()
+{
+    Dragged dragged;
+    QVERIFY(dragged.doubleClick(grip));
+    QVERIFY(dragged.window.isMaximized());
+    QVERIFY(dragged.doubleClick(grip));
+    QVERIFY(!dragged.window.isMaximized());
+    QCOMPARE(dragged.window.geometry(), QRect(start, QSize(240, 120)));
+}
+
+void TestWindowDragger::doubleClick_withTheRightButtonDoesNothing()
+{
+    Dragged dragged;
+    QVERIFY(!dragged.doubleClick(grip, Qt::RightButton));
+    QVERIFY(!dragged.window.isMaximized());
+}
+
+void TestWindowDragger::doubleClick_onAFixedSizeDoesNothingButTakesHold()
+{
+    Dragged dragged;
+    dragged.window.setFixedSize(240, 120);
+    QVERIFY(dragged.doubleClick(grip));
+    QVERIFY(!dragged.window.isMaximized());
+    QCOMPARE(dragged.window.geometry(), QRect(start, QSize(240, 120)));
+
+    dragged.moveTo(grip + QPoint(3, 2));
+    QCOMPARE(dragged.window.pos(), start + QPoint(3, 2));
+}
+
+void TestWindowDragger::doubleClick_onADialogDoesNothing()
+{
+    QDialog dialog;
+    dialog.show();
+    WindowDragger dragger(&dialog);
+    const QMouseEvent event =
+        mouse(QEvent::MouseButtonDblClick, grip, Qt::LeftButton, Qt::LeftButton);
+    dragger.handleEvent(&event);
+    QVERIFY(!dialog.isMaximized());
+}
+
+void TestWindowDragger::otherEvents_areLeftAlone()
+{
+    Dragged dragged;
+    const QEvent event(QEvent::Enter);
+    QVERIFY(!dragged.dragger.handleEvent(&event));
+}
+
+QTEST_MAIN(TestWindowDragger)
+#include "tst_windowdragger.moc"

@@ -1,0 +1,200 @@
+#include "framelessdialog.h"
+
+#include "screenarea.h"
+#include "titlebar.h"
+#include "windowframe.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace UX::Widgets {
+
+namespace {
+
+constexpr int buttonMinimumWidth = 70;
+constexpr int buttonSpacing = 20;
+constexpr QMargins buttonRowMargins(20, 4, 20, 12);
+constexpr QRgb textColor = 0xffe6e6e6;
+
+bool isStaysOnTop(const QWidget *window)
+{
+    return window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+}
+
+} // namespace
+
+QColor FramelessDialog::m_defaultBackgroundColor(48, 50, 56);
+
+FramelessDialog::FramelessDialog(QWidget *parent, Qt::WindowFlags f)
+    : QDialog(parent, f | Qt::FramelessWindowHint)
+    , m_dragger(this)
+{
+    // Legible on the dark background without a style sheet as well.
+    QPalette dark = palette();
+    dark.setColor(QPalette::Window, m_defaultBackgroundColor);
+    dark.setColor(QPalette::WindowText, QColor(textColor));
+    setPalette(dark);
+    buildFrame();
+    retranslate();
+    m_titleBar->installEventFilter(this);
+}
+
+FramelessDialog::~FramelessDialog() = default;
+
+void FramelessDialog::buildFrame()
+{
+    auto *frame = new WindowFrame(this);
+    m_titleBar = frame->titleBar();
+
+    auto *body = new QWidget(frame);
+    m_content = new QWidget(body);
+    m_buttonRow = createButtonRow();
+    auto *bodyColumn = new QVBoxLayout(body);
+    bodyColumn->setContentsMargins(0, 0, 0, 0);
+    bodyColumn->setSpacing(0);
+    bodyColumn->addWidget(m_content, 1);
+    bodyColumn->addWidget(m_buttonRow);
+    frame->setContent(body);
+
+    auto *column = new QVBoxLayout;
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(frame);
+    QDialog::setLayout(column);
+}
+
+QWidget *FramelessDialog::createButtonRow()
+{
+    auto *row = new QWidget(this);
+    m_okButton = new QPushButton(row);
+    m_cancelButton = new QPushButton(row);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(buttonRowMargins);
+    layout->setSpacing(buttonSpacing);
+    layout->addStretch();
+    for (QPushButton *button : {m_okButton, m_cancelButton}) {
+        dressButton(button);
+        button->setVisible(true);
+        layout->addWidget(button);
+    }
+    layout->addStretch();
+    m_okButton->setDefault(true);
+    connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    return row;
+}
+
+void FramelessDialog::dressButton(QAbstractButton *button)
+{
+    button->setObjectName(QStringLiteral("DialogPushBtn"));
+    button->setMinimumWidth(buttonMinimumWidth);
+}
+
+void FramelessDialog::setLayout(QLayout *layout)
+{
+    m_content->setLayout(layout);
+}
+
+void FramelessDialog::setOKButtonVisible(bool visible)
+{
+    m_okButton->setVisible(visible);
+    m_okButton->setDefault(visible);
+    updateButtonRow();
+}
+
+void FramelessDialog::setCancelButtonVisible(bool visible)
+{
+    m_cancelButton->setVisible(visible);
+    updateButtonRow();
+}
+
+void FramelessDialog::updateButtonRow()
+{
+    m_buttonRow->setVisible(!m_okButton->isHidden() || !m_cancelButton->isHidden());
+}
+
+void FramelessDialog::setVisible(bool visible)
+{
+    if (visible && !isVisible())
+        prepareToShow();
+    QDialog::setVisible(visible);
+}
+
+void FramelessDialog::prepareToShow()
+{
+    // A change of the flags hides a window that is already shown.
+    if (belongsOnTop())
+        setWindowFlag(Qt::WindowStaysOnTopHint);
+    // A window manager reports a wrong place for a window that moves while it is being shown.
+    if (!testAttribute(Qt::WA_Moved))
+        centreOnParent();
+}
+
+int FramelessDialog::exec()
+{
+    return QDialog::exec();
+}
+
+void FramelessDialog::open()
+{
+    QDialog::open();
+}
+
+void FramelessDialog::show()
+{
+    QDialog::show();
+}
+
+bool FramelessDialog::belongsOnTop() const
+{
+    if (parentWidget() && isStaysOnTop(parentWidget()->window()))
+        return true;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.cbegin(), windows.cend(), [this](const QWidget *window) {
+        return window != this && window->isVisible() && isStaysOnTop(window);
+    });
+}
+
+bool FramelessDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_titleBar && m_dragger.handleEvent(event))
+        return true;
+    return QDialog::eventFilter(watched, event);
+}
+
+void FramelessDialog::paintEvent(QPaintEvent *event)
+{
+    QPainter(this).fillRect(event->rect(), m_defaultBackgroundColor);
+}
+
+void FramelessDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QDialog::changeEvent(event);
+}
+
+void FramelessDialog::retranslate()
+{
+    m_okButton->setText(tr("确定"));
+    m_cancelButton->setText(tr("取消"));
+}
+
+// QDialog does this too, but leaves room for a system frame that this dialog does not have.
+void FramelessDialog::centreOnParent()
+{
+    ensurePolished();
+    if (!testAttribute(Qt::WA_Resized))
+        adjustSize();
+    const QWidget *around =
+        parentWidget() ? parentWidget()->window() : QApplication::activeWindow();
+    const QRect area = ScreenArea::around(around ? around->geometry().center() : QPoint());
+    QRect place = rect();
+    place.moveCenter(around ? around->geometry().center() : area.center());
+    move(ScreenArea::movedInto(place, area).topLeft());
+}
+
+} // namespace UX::Widgets

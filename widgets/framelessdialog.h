@@ -1,0 +1,71 @@
+#pragma once
+
+#include "windowdragger.h"
+
+#include <QColor>
+#include <QDialog>
+
+class QAbstractButton;
+class QPushButton;
+
+namespace UX::Widgets {
+
+class TitleBar;
+
+// A dialog without a system frame: its own title bar, the subclass's content, and a button row.
+class FramelessDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // What every dialog of the program fills itself with.
+    static QColor m_defaultBackgroundColor;
+
+    // f is as for QDialog; the dialog is frameless whatever it says.
+    explicit FramelessDialog(QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags());
+    ~FramelessDialog() override;
+
+    // Takes ownership of layout and lays it out between the title bar and the button row. Like the
+    // function of QWidget that it hides, it works once.
+    void setLayout(QLayout *layout);
+    // The button row goes with the last visible button.
+    void setOKButtonVisible(bool visible);
+    void setCancelButtonVisible(bool visible);
+
+    // The first time, the dialog appears over the middle of its parent window. It opens above the
+    // program's windows that are always on top.
+    void setVisible(bool visible) override;
+
+    // As in QDialog. Every way to show the dialog passes through setVisible.
+    int exec() override;
+    void open() override;
+    void show();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+    // Gives button the look of the buttons in the row.
+    static void dressButton(QAbstractButton *button);
+
+    // All owned by the dialog and never null.
+    TitleBar *m_titleBar = nullptr;
+    QWidget *m_content = nullptr;
+    QPushButton *m_okButton = nullptr;
+    QPushButton *m_cancelButton = nullptr;
+
+private:
+    void buildFrame();
+    QWidget *createButtonRow();
+    void retranslate();
+    void updateButtonRow();
+    void prepareToShow();
+    bool belongsOnTop() const;
+    void centreOnParent();
+
+    QWidget *m_buttonRow = nullptr;
+    WindowDragger m_dragger;
+};
+
+} // namespace UX::Widgets

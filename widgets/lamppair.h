@@ -1,0 +1,20 @@
+#pragma once
+
+class QWidget;
+
+// The two status lamps of an automatic run, green and grey in one place: exactly one
+// of them is shown.
+class LampPair
+{
+public:
+    // The lamps are borrowed; the grey one is shown at first.
+    LampPair(QWidget *green, QWidget *grey);
+
+    void showGreen();
+    void showGrey();
+    void blink(); // the other one is shown
+
+private:
+    QWidget *m_green;
+    QWidget *m_grey;
+};

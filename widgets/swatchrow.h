@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+
+#include <array>
+
+class QAbstractButton;
+class QColor;
+
+// Seven checkable buttons as an exclusive row of the test colours, in the order of
+// the colour table.
+class SwatchRow : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Buttons = std::array<QAbstractButton *, 7>;
+
+    // The buttons are borrowed; they have to outlive the row.
+    SwatchRow(const Buttons &buttons, QObject *parent);
+
+    // The button of a test colour, null for any other colour.
+    QAbstractButton *button(const QColor &color) const;
+
+    // Names the buttons in the interface language: the text where it fits, the tool
+    // tip and the accessible name always.
+    void retranslate();
+
+signals:
+    // The button of this colour became checked, or was clicked and is checked: so a
+    // click that checks a button says so twice, one on the checked button once.
+    void selected(int index);
+
+private:
+    Buttons m_buttons;
+};

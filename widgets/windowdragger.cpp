@@ -1,0 +1,89 @@
+#include "windowdragger.h"
+
+#include "titlebar.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace UX::Widgets {
+
+WindowDragger::WindowDragger(QWidget *window)
+    : m_window(window)
+{ }
+
+bool WindowDragger::handleEvent(const QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        return takeHold(static_cast<const QMouseEvent *>(event));
+    case QEvent::MouseMove:
+        return drag(static_cast<const QMouseEvent *>(event));
+    case QEvent::MouseButtonRelease:
+        return letGo(static_cast<const QMouseEvent *>(event));
+    case QEvent::MouseButtonDblClick:
+        return doubleClick(static_cast<const QMouseEvent *>(event));
+    default:
+        return false;
+    }
+}
+
+bool WindowDragger::takeHold(const QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || m_window->isMaximized() || m_window->isFullScreen())
+        return false;
+    m_grip = event->globalPos() - m_window->pos();
+    m_isDragging = true;
+    return true;
+}
+
+bool WindowDragger::drag(const QMouseEvent *event)
+{
+    if (!m_isDragging)
+        return false;
+    if (!event->buttons().testFlag(Qt::LeftButton)) {
+        // The release went to somebody else.
+        m_isDragging = false;
+        return false;
+    }
+    if (startSystemMove())
+        m_isDragging = false;
+    else
+        m_window->move(event->globalPos() - m_grip);
+    return true;
+}
+
+bool WindowDragger::letGo(const QMouseEvent *event)
+{
+    if (!m_isDragging || event->button() != Qt::LeftButton)
+        return false;
+    m_isDragging = false;
+    return true;
+}
+
+bool WindowDragger::doubleClick(const QMouseEvent *event)
+{
+    if (!TitleBar::canMaximize(m_window))
+        return takeHold(event);
+    if (event->button() != Qt::LeftButton)
+        return false;
+    if (m_window->isMaximized())
+        m_window->showNormal();
+    else
+        m_window->showMaximized();
+    return true;
+}
+
+// Only where a program cannot place its own windows: elsewhere moving by hand is exact, and works
+// without a window manager too.
+bool WindowDragger::startSystemMove()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        return m_window->windowHandle() && m_window->windowHandle()->startSystemMove();
+#endif
+    return false;
+}
+
+} // namespace UX::Widgets

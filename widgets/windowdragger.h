@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPoint>
+
+class QEvent;
+class QMouseEvent;
+class QWidget;
+
+namespace UX::Widgets {
+
+// Does for a frameless window what a system title bar does with the mouse: the left button drags
+// the window, and a double click maximises or restores it if its size is not fixed.
+class WindowDragger
+{
+public:
+    // The window is not owned and must outlive the dragger.
+    explicit WindowDragger(QWidget *window);
+
+    // Takes an event of the title bar; true if it was one for the dragger and is dealt with.
+    bool handleEvent(const QEvent *event);
+
+private:
+    bool takeHold(const QMouseEvent *event);
+    bool drag(const QMouseEvent *event);
+    bool letGo(const QMouseEvent *event);
+    bool doubleClick(const QMouseEvent *event);
+    bool startSystemMove();
+
+    QWidget *m_window;
+    // Where the mouse holds the window, from the window's top left corner.
+    QPoint m_grip;
+    bool m_isDragging = false;
+};
+
+} // namespace UX::Widgets
