@@ -1,0 +1,305 @@
+#include "drawcontainer.h"
+#include "filldrawer.h"
+
+#include <QSignalSpy>
+#include <QTimer>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+constexpr QRect place(100, 100, 200, 150);
+
+bool showAt(DrawContainer &window, const QRect &geometry)
+{
+    window.setGeometry(geometry);
+    window.show();
+    return QTest::qWaitForWindowExposed(&window);
+}
+
+QImage picture(DrawContainer &window)
+{
+    return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+bool isAll(const QImage &image, const QColor &color)
+{
+    QImage expected(image.size(), QImage::Format_RGB32);
+    expected.fill(color);
+    return image == expected;
+}
+
+QList<QTimer *> refreshTimers(const DrawContainer &window)
+{
+    QList<QTimer *> timers;
+    const auto children = window.findChildren<QTimer *>();
+    for (QTimer *timer : children) {
+        if (timer->interval() == 100)
+            timers.append(timer);
+    }
+    return timers;
+}
+
+// Waits until a clock of its own has ticked so often at the window's pace.
+bool waitForTicks(int count)
+{
+    QTimer clock;
+    QSignalSpy ticks(&clock, &QTimer::timeout);
+    clock.start(100);
+    while (ticks.count() < count) {
+        if (!ticks.wait())
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+class TestDrawContainer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void constructor_makesABorderlessWindowOnTop();
+    void constructor_startsEmpty();
+    void destruction_leavesTheDrawersAlone();
+    void setDrawer_ofNullChangesNothing();
+    void setDrawer_setsTheActiveFlag();
+    void paint_withNoDrawerEverActiveIsNothing();
+    void paint_ofAnInactiveDrawerNeverHappens();
+    void paint_ofAnInactiveDrawerLeavesTheEarlierPattern();
+    void paint_ofTheShownDrawerGoesOnAfterItWasSwitchedOff();
+    void paint_alwaysAsksForThePattern();
+    void palette_winsOverTheStyleSheet();
+    void refresh_paintsOncePerTimeout();
+    void refresh_isTheOnlyReasonToPaint();
+    void updateContainer_repaints();
+};
+
+void TestDrawContainer::init()
+{
+    QCursor::setPos(0, 0); // off every window of the tests
+}
+
+void TestDrawContainer::constructor_makesABorderlessWindowOnTop()
+{
+    const DrawContainer window;
+
+    QCOMPARE(window.windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
+                                       | Qt::CustomizeWindowHint);
+    QVERIFY(window.testAttribute(Qt::WA_MouseTracking));
+    QCOMPARE(window.objectName(), QStringLiteral("DrawContainer"));
+    QCOMPARE(window.windowTitle(), QStringLiteral("Form"));
+    QCOMPARE(window.size(), QSize(0, 0));
+    QCOMPARE(window.minimumSize(), QSize(0, 0));
+    QVERIFY(window.isHidden());
+}
+
+void TestDrawContainer::constructor_startsEmpty()
+{
+    const DrawContainer window;
+
+    QVERIFY(!window.selectedDrawer());
+    QVERIFY(window.findChildren<QWidget *>().isEmpty());
+}
+
+void TestDrawContainer::destruction_leavesTheDrawersAlone()
+{
+    auto window = std::make_unique<DrawContainer>();
+    FillDrawer shown(window.get(), Qt::red);
+    FillDrawer selected(window.get(), Qt::green);
+    QSignalSpy shownGone(&shown, &QObject::destroyed);
+    QSignalSpy selectedGone(&selected, &QObject::destroyed);
+    window->setDrawer(&shown, true);
+    QVERIFY(showAt(*window, place));
+    QTRY_VERIFY(shown.draws > 0);
+    window->setDrawer(&selected, false);
+
+    window.reset();
+
+    QCOMPARE(shownGone.count(), 0);
+    QCOMPARE(selectedGone.count(), 0);
+    QVERIFY(shown.active);
+}
+
+void TestDrawContainer::setDrawer_ofNullChangesNothing()
+{
+    DrawContainer window;
+    QVERIFY(showAt(window, place));
+    FillDrawer drawer(&window, Qt::red);
+    window.setDrawer(&drawer, true);
+
+    window.setDrawer(nullptr, false);
+    window.setDrawer(nullptr, true);
+
+    QCOMPARE(window.selectedDrawer(), &drawer);
+    QVERIFY(drawer.active);
+    QVERIFY(isAll(picture(window), Qt::red));
+}
+
+void TestDrawContainer::setDrawer_setsTheActiveFlag()
+{
+    DrawContainer window;
+    FillDrawer drawer(&window, Qt::red);
+
+    window.setDrawer(&drawer, true);
+    QVERIFY(drawer.active);
+    window.setDrawer(&drawer, false);
+    QVERIFY(!drawer.active);
+    QCOMPARE(window.selectedDrawer(), &drawer);
+}
+
+void TestDrawContainer::paint_withNoDrawerEverActiveIsNothing()
+{
+    DrawContainer window;
+    window.setPalette(QPalette(Qt::darkCyan));
+    QVERIFY(showAt(window, place));
+    const QColor background = window.palette().color(QPalette::Window);
+    QVERIFY(isAll(picture(window), background));
+
+    FillDrawer drawer(&window, Qt::red);
+    window.setDrawer(&drawer, false);
+
+    QVERIFY(isAll(picture(window), background));
+    QCOMPARE(drawer.draws, 0);
+}
+
+void TestDrawContainer::paint_ofAnInactiveDrawerNeverHappens()
+{
+    DrawContainer window;
+    QVERIFY(showAt(window, place));
+    FillDrawer first(&window, Qt::red);
+    FillDrawer second(&window, Qt::green);
+    window.setDrawer(&first, true);
+    QVERIFY(isAll(picture(window), Qt::red));
+
+    window.setDrawer(&second, false);
+    QVERIFY(waitForTicks(3));
+
+    QCOMPARE(second.draws + second.refusals, 0);
+}
+
+void TestDrawContainer::paint_ofAnInactiveDrawerLeavesTheEarlierPattern()
+{
+    DrawContainer window;
+    QVERIFY(showAt(window, place));
+    FillDrawer first(&window, Qt::red);
+    FillDrawer second(&window, Qt::green);
+    FillDrawer third(&window, Qt::blue);
+    window.setDrawer(&first, true);
+    QVERIFY(isAll(picture(window), Qt::red));
+
+    window.setDrawer(&second, false);
+    QVERIFY(isAll(picture(window), Qt::red));
+    window.setDrawer(&third, false);
+    QVERIFY(isAll(picture(window), Qt::red));
+    first.color = Qt::yellow; // still painted afresh each time
+    QVERIFY(isAll(picture(window), Qt::yellow));
+    third.active = true;
+    QVERIFY(isAll(picture(window), Qt::blue));
+    window.setDrawer(&second, false);
+    QVERIFY(isAll(picture(window), Qt::blue));
+}
+
+void TestDrawContainer::paint_ofTheShownDrawerGoesOnAfterItWasSwitchedOff()
+{
+    DrawContainer window;
+    QVERIFY(showAt(window, place));
+    FillDrawer drawer(&window, Qt::red);
+    window.setDrawer(&drawer, true);
+    QVERIFY(isAll(picture(window), Qt::red));
+
+    window.setDrawer(&drawer, false);
+
+    QVERIFY(isAll(picture(window), Qt::red));
+}
+
+void TestDrawContainer::paint_alwaysAsksForThePattern()
+{
+    DrawContainer window;
+    QVERIFY(showAt(window, place));
+    FillDrawer drawer(&window, Qt::red);
+    window.setDrawer(&drawer, true);
+    QTRY_VERIFY(drawer.draws >= 3);
+    window.setDrawer(&drawer, false);
+    QTRY_VERIFY(drawer.draws >= 6);
+
+    QCOMPARE(drawer.refusals, 0);
+}
+
+void TestDrawContainer::palette_winsOverTheStyleSheet()
+{
+    DrawContainer window;
+    QVERIFY(showAt(window, place));
+    window.setStyleSheet(QStringLiteral("QWidget{background-color:#ff0000;}"));
+    QVERIFY(isAll(picture(window), Qt::red));
+
+    QPalette palette = window.palette();
+    palette.setBrush(QPalette::Window, Qt::blue);
+    window.setPalette(palette);
+
+    QVERIFY(isAll(picture(window), Qt::blue));
+}
+
+void TestDrawContainer::refresh_paintsOncePerTimeout()
+{
+    DrawContainer window;
+    FillDrawer drawer(&window, Qt::red);
+    window.setDrawer(&drawer, true);
+    QVERIFY(showAt(window, place));
+    QCOMPARE(refreshTimers(window).count(), 1);
+    QTimer *timer = refreshTimers(window).constFirst();
+    QVERIFY(timer->isActive());
+    QVERIFY(!timer->isSingleShot());
+    timer->stop();
+    QVERIFY(waitForTicks(2));
+
+    drawer.draws = 0;
+    QSignalSpy timeouts(timer, &QTimer::timeout);
+    connect(timer, &QTimer::timeout, timer, [&] {
+        if (timeouts.count() == 5)
+            timer->stop();
+    });
+    timer->start();
+    QTRY_COMPARE(timeouts.count(), 5);
+    QVERIFY(waitForTicks(2));
+
+    QCOMPARE(timeouts.count(), 5);
+    QCOMPARE(drawer.draws, 5);
+}
+
+void TestDrawContainer::refresh_isTheOnlyReasonToPaint()
+{
+    DrawContainer window;
+    FillDrawer drawer(&window, Qt::red);
+    window.setDrawer(&drawer, true);
+    QVERIFY(showAt(window, place));
+    refreshTimers(window).constFirst()->stop();
+    QVERIFY(waitForTicks(2));
+    drawer.draws = 0;
+
+    QVERIFY(waitForTicks(5));
+
+    QCOMPARE(drawer.draws, 0);
+}
+
+void TestDrawContainer::updateContainer_repaints()
+{
+    DrawContainer window;
+    FillDrawer drawer(&window, Qt::red);
+    window.setDrawer(&drawer, true);
+    QVERIFY(showAt(window, place));
+    refreshTimers(window).constFirst()->stop();
+    QVERIFY(waitForTicks(2));
+    drawer.draws = 0;
+
+    window.slot_updateContainer();
+
+    QCOMPARE(drawer.draws, 0);
+    QTRY_COMPARE(drawer.draws, 1);
+}
+
+QTEST_MAIN(TestDrawContainer)
+#include "tst_drawcontainer.moc"

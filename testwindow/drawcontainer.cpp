@@ -1,0 +1,303 @@
+#include "drawcontainer.h"
+
+#include "ui_drawcontainer.h"
+
+#include "commonhelper.h"
+#include "drawerbase.h"
+#include "form.h"
+#include "testcolor.h"
+#include "textwidth.h"
+#include "windowedge.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCursor>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+#include <QToolTip>
+
+namespace {
+
+constexpr int refreshIntervalMs = 100;
+constexpr QPoint mousePosOffset(20, 10); // up and left of the window's centre
+constexpr int helperInfoMargin = 10; // right of the reminder
+constexpr int helperInfoHeight = 190; // from the reminder's top to the window's bottom
+constexpr int toolTipRise = 20; // the tool tip's place above the lower right corner
+constexpr QSize toolTipRect(130, 60);
+
+int widestLine(const QString &text, const QFontMetrics &metrics)
+{
+    int widest = 0;
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString &line : lines)
+        widest = qMax(widest, textWidth(metrics, line));
+    return widest;
+}
+
+QPoint globalPosition(const QMouseEvent &event)
+{
+    return event.screenPos().toPoint();
+}
+
+} // namespace
+
+DrawContainer::DrawContainer(QWidget *parent)
+    : QWidget(parent)
+    , ui(makeForm<Ui::DrawContainer>(this))
+{
+    setAttribute(Qt::WA_MouseTracking);
+    // A tool window of an inactive program would vanish from a Mac's screen.
+    setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+    // As a mere utility window some X11 window managers would not let it fill the screen.
+    setAttribute(Qt::WA_X11NetWmWindowTypeDialog);
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
+                   | Qt::CustomizeWindowHint);
+    slot_setScreenMaxSize(width(), height());
+    initContextMenu();
+    // In use until setKeyHelper() names the program's one helper, idle from then on.
+    keyHelper = new CommonHelper(this);
+    connect(keyHelper, &CommonHelper::signal_keyShiftFPressed, this,
+            &DrawContainer::slot_keyShiftFPressed);
+    initRefreshTimer();
+    updateLanguage();
+}
+
+DrawContainer::~DrawContainer() = default;
+
+void DrawContainer::initContextMenu()
+{
+    hideAction = new QAction(this);
+    addAction(hideAction);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(hideAction, &QAction::triggered, this, &DrawContainer::slot_hideWindow);
+}
+
+// Repaints whatever happens, which keeps the pointer's position in the overlay current.
+void DrawContainer::initRefreshTimer()
+{
+    refreshTimer = new QTimer(this);
+    connect(refreshTimer, &QTimer::timeout, this, &DrawContainer::slot_updateContainer);
+    refreshTimer->start(refreshIntervalMs);
+}
+
+void DrawContainer::setDrawer(DrawerBase *drawer, bool active)
+{
+    if (!drawer)
+        return;
+    drawer->active = active;
+    currentDrawer = drawer;
+}
+
+void DrawContainer::updateLanguage()
+{
+    helpText = tr("[Fn+←]:显示/隐藏窗口右下角处提示\n"
+                  "[Fn+→]:显示/隐藏窗口中心处提示\n"
+                  "[Fn+↑]:功能向上切换\n"
+                  "[Fn+↓]:功能向下切换\n"
+                  "[⇧+↑↓←→]:窗口大小\n"
+                  "[⇧+F/双击]:全屏/取消全屏\n"
+                  "[⌘+↑↓←→]:窗口位置\n"
+                  "[↑↓←→]:灰度调节\n"
+                  "[Fn+Enter/Delete]:自动增加/减少灰度\n"
+                  "[⇧+H]:显示/隐藏窗口\n");
+    hideAction->setText(tr(" 隐藏"));
+    if (colourIndex > 0)
+        colourName = TestColor::translatedName(colourIndex - 1);
+}
+
+void DrawContainer::slot_keyHomePressed()
+{
+    showHelperInfo = !showHelperInfo;
+}
+
+void DrawContainer::slot_keyEndPressed()
+{
+    showMousePos = !showMousePos;
+}
+
+// Space does nothing, on purpose.
+void DrawContainer::slot_keySpacePressed() { }
+
+void DrawContainer::slot_keyShiftFPressed()
+{
+    if (windowState() == Qt::WindowFullScreen)
+        showNormal();
+    else
+        showFullScreen();
+}
+
+void DrawContainer::slot_keyShiftHPressed()
+{
+    if (isVisible()) {
+        slot_hideWindow();
+    } else {
+        show();
+        emit signal_containerWidgetShow();
+    }
+}
+
+void DrawContainer::slot_hideWindow()
+{
+    hide();
+    emit signal_containerWidgetHide();
+}
+
+void DrawContainer::slot_updateContainer()
+{
+    update();
+}
+
+// Only an untranslated name is recognised, so the index follows the colour in Chinese; in
+// another language the name is shown all the same and the index stays.
+void DrawContainer::slot_changeSelectedDrawColor(const QColor &color)
+{
+    colourName = CommonHelper::getColorName(color);
+    for (int index = 0; index < TestColor::count; ++index) {
+        if (colourName != TestColor::sourceName(index))
+            continue;
+        colourIndex = index + 1;
+        colourName = TestColor::translatedName(index);
+        return;
+    }
+}
+
+void DrawContainer::slot_changeSelectedDrawGrey(const QString &grey)
+{
+    greyText = grey;
+}
+
+void DrawContainer::slot_setScreenMaxSize(int width, int height)
+{
+    maxWidth = width;
+    maxHeight = height;
+}
+
+void DrawContainer::paintEvent(QPaintEvent * /*event*/)
+{
+    // An inactive drawer leaves the pattern before it on the screen.
+    if (currentDrawer && currentDrawer->active)
+        shownDrawer = currentDrawer;
+    if (currentDrawer && shownDrawer)
+        shownDrawer->draw(true);
+    if (showMousePos)
+        drawMousePos();
+    if (showHelperInfo)
+        drawHelperInfo();
+}
+
+void DrawContainer::drawMousePos()
+{
+    QPainter painter(this);
+    painter.setPen(Qt::white);
+    const QPoint pointer = mapFromGlobal(QCursor::pos());
+    QString text;
+    // One pixel beyond the last column and row still counts as inside.
+    if (QRect(0, 0, width() + 1, height() + 1).contains(pointer))
+        text = QStringLiteral("(%1,%2)").arg(pointer.x()).arg(pointer.y());
+    text += QStringLiteral("%1:%2").arg(colourName, greyText);
+    const QPoint centre(width() / 2, height() / 2);
+    painter.drawText(QRect(centre - mousePosOffset, size()), 0, text);
+}
+
+void DrawContainer::drawHelperInfo()
+{
+    const int widest = widestLine(helpText, fontMetrics());
+    if (width() < widest + helperInfoMargin)
+        return;
+    QPainter painter(this);
+    painter.setPen(Qt::white);
+    const QPoint topLeft(width() - widest - helperInfoMargin, height() - helperInfoHeight);
+    painter.drawText(QRect(topLeft, size()), 0, helpText);
+}
+
+void DrawContainer::findWidgetEdge(const QPoint &pointer)
+{
+    edge = WindowEdge::at(frameGeometry(), pointer, edgeMargin);
+    setCursor(WindowEdge::cursor(edge));
+}
+
+void DrawContainer::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_dragging = true;
+    setCursor(Qt::PointingHandCursor);
+    dragOffset = globalPosition(*event) - pos();
+}
+
+void DrawContainer::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint pointer = globalPosition(*event);
+    if (!(event->buttons() & Qt::LeftButton)) {
+        findWidgetEdge(pointer);
+        return;
+    }
+    // A full screen has no borders to drag; and after a double click the window is no longer
+    // where it was pressed.
+    if (!m_dragging || isFullScreen())
+        return;
+    if (edge != WindowEdge::None)
+        resizeTo(pointer);
+    else
+        moveTo(pointer);
+    showGeometryToolTip();
+}
+
+void DrawContainer::resizeTo(const QPoint &pointer)
+{
+    const QRect frame = frameGeometry();
+    const QRect wanted = WindowEdge::resized(frame, edge, pointer, {minimumSize(), maximumSize()},
+                                             {maxWidth, maxHeight});
+    if (wanted == frame)
+        return;
+    setGeometry(wanted);
+    emit signal_drawWidgetSizeChange(frameGeometry().width(), frameGeometry().height());
+}
+
+void DrawContainer::moveTo(const QPoint &pointer)
+{
+    move(pointer - dragOffset);
+    emit signal_drawWidgetPositionChange(pos().x(), pos().y());
+}
+
+void DrawContainer::showGeometryToolTip()
+{
+    const QRect now = geometry();
+    // Width and height are shown one less than they are, as they always have been.
+    const QString text = tr("窗口信息：")
+                         + QStringLiteral("\n(X,Y):(%1,%2)\n(W,H):(%3,%4)")
+                               .arg(now.x())
+                               .arg(now.y())
+                               .arg(now.right() - now.left())
+                               .arg(now.bottom() - now.top());
+    const QPoint place = pos() + QPoint(width(), height() - toolTipRise);
+    QToolTip::showText(place, text, this, QRect(QPoint(width(), height()), toolTipRect));
+}
+
+void DrawContainer::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_dragging = false;
+    if (edge != WindowEdge::None)
+        findWidgetEdge(globalPosition(*event));
+}
+
+void DrawContainer::mouseDoubleClickEvent(QMouseEvent * /*event*/)
+{
+    m_dragging = false;
+    slot_keyShiftFPressed();
+}
+
+// Closed from outside, by the window manager, it is as good as hidden by its own menu.
+void DrawContainer::closeEvent(QCloseEvent *event)
+{
+    QWidget::closeEvent(event);
+    if (event->spontaneous())
+        emit signal_containerWidgetHide();
+}
+
+void DrawContainer::keyPressEvent(QKeyEvent *event)
+{
+    keyHelper->dealKeyPressEvent(event);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+// A test pattern. A drawer paints its whole pattern onto the test window when the
+// test window asks for it; its panel owns it and sets its parameters.
+class DrawerBase : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `target` is the test window; it is painted on and not owned.
+    explicit DrawerBase(QWidget *target);
+
+    // Paints the complete pattern on the test window, inside that window's own
+    // paint event; paints nothing when `paint` is false.
+    virtual void draw(bool paint) = 0;
+
+    // Asks the test window for a repaint on the next turn of the event loop.
+    virtual void update();
+
+    // Whether the test window has this drawer selected, shown yet or not. Always
+    // true on a target that is not a test window.
+    bool isSelected() const;
+
+    // The drawer has something to show. The test window goes on painting the drawer
+    // that was shown before until the selected one is active.
+    bool active = false;
+
+    QWidget *targetWidget;
+};
