@@ -1,0 +1,361 @@
+#include "scrpurityctrldialog.h"
+
+#include "ui_scrpurityctrldialog.h"
+
+#include "commonhelper.h"
+#include "form.h"
+#include "puritykeys.h"
+#include "savesoon.h"
+#include "settingsrules.h"
+#include "sliderspinboxpair.h"
+#include "swatchrow.h"
+#include "testcolor.h"
+
+#include <QButtonGroup>
+#include <QScopedValueRollback>
+#include <QSettings>
+#include <QSignalBlocker>
+#include <QTimer>
+
+namespace {
+
+constexpr int maximumGrey = 255;
+constexpr int minimumSpeed = 1;
+constexpr int maximumSpeed = 100;
+constexpr int spinBoxHeight = 20; // pixels
+
+// At speed 100 a step every 100 ms, at speed 1 one every 10 s.
+constexpr int stepIntervalMs(int speed)
+{
+    return (maximumSpeed + 1 - speed) * 100;
+}
+
+// The grey level after `grey`, round and round within 0 to 255.
+constexpr int wrappedGrey(int grey)
+{
+    return (grey + maximumGrey + 1) % (maximumGrey + 1);
+}
+
+} // namespace
+
+ScrPurityCtrlDialog::ScrPurityCtrlDialog(QWidget *testWindow, QSettings *settings_, QWidget *parent)
+    : QWidget(parent)
+    , ui(makeForm<Ui::ScrPurityCtrlDialog>(this))
+    , drawer(testWindow)
+    , settings(settings_)
+    , m_lamps(ui->signalGreenButton, ui->signalGreyButton)
+    , m_swatches(new SwatchRow({ui->radioButtonRed, ui->radioButtonGreen, ui->radioButtonBlue,
+                                ui->radioButtonWhite, ui->radioButtonYellow, ui->radioButtonCyan,
+                                ui->radioButtonPurple},
+                               this))
+    , m_saveSoon(new SaveSoon([this] { saveScrPurityInfo(); }, this))
+{
+    initSlots();
+    initSaving();
+    initCtrls();
+    initPurityStatus();
+}
+
+ScrPurityCtrlDialog::~ScrPurityCtrlDialog()
+{
+    saveScrPurityInfo();
+}
+
+void ScrPurityCtrlDialog::initSlots()
+{
+    const auto valueChanged = qOverload<int>(&QSpinBox::valueChanged);
+    using Panel = ScrPurityCtrlDialog;
+
+    connect(ui->spinBoxAutoScale, valueChanged, this, &Panel::slot_AutoScaleChanged);
+    connect(ui->spinBoxScale, valueChanged, this, &Panel::slot_AutoScaleChanged);
+    connect(this, &Panel::signal_colorChanged, &drawer, &ScrPurity::slot_colorChanged);
+    connect(m_swatches, &SwatchRow::selected, this, &Panel::selectColor);
+
+    connect(ui->hScrollBarScale, &QSlider::valueChanged, &drawer, &ScrPurity::slot_AlphaChanged);
+    connect(ui->spinBoxScale, valueChanged, &drawer, &ScrPurity::slot_AlphaChanged);
+    connect(ui->spinBoxAutoScale, valueChanged, &drawer, &ScrPurity::slot_AlphaChanged);
+    SliderSpinBoxPair::link(ui->hScrollBarScale, ui->spinBoxScale);
+    connect(this, &Panel::signal_switchToMal, &drawer, &ScrPurity::slot_AlphaChanged);
+    connect(&drawer, &ScrPurity::signal_puritySelect, this, &Panel::slot_puritySelect);
+
+    connect(ui->radioButtonMual, &QRadioButton::toggled, this, &Panel::slot_MalPushed);
+    connect(ui->radioButtonAuto, &QRadioButton::toggled, this, &Panel::slot_AutoPushed);
+    connect(ui->buttonPauseResume, &QPushButton::clicked, this, &Panel::slot_PauseResume);
+
+    SliderSpinBoxPair::link(ui->hScrollBarSpeed, ui->spinBoxSpeed);
+    connect(ui->spinBoxSpeed, valueChanged, this, &Panel::slot_SpeedChanged);
+}
+
+void ScrPurityCtrlDialog::initSaving()
+{
+    for (QSpinBox *spinBox : {ui->spinBoxScale, ui->spinBoxSpeed, ui->spinBoxAutoScale})
+        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), this,
+                &ScrPurityCtrlDialog::saveSoon);
+    connect(ui->radioButtonAuto, &QRadioButton::toggled, this, &ScrPurityCtrlDialog::saveSoon);
+}
+
+void ScrPurityCtrlDialog::initCtrls()
+{
+    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    ui->buttonPauseResume->setObjectName(QStringLiteral("beginPushBtn"));
+    SliderSpinBoxPair::setRange(ui->hScrollBarSpeed, ui->spinBoxSpeed, minimumSpeed, maximumSpeed);
+    SliderSpinBoxPair::setRange(ui->hScrollBarScale, ui->spinBoxScale, 0, maximumGrey);
+    ui->spinBoxAutoScale->setRange(0, maximumGrey);
+    for (QSpinBox *spinBox : {ui->spinBoxScale, ui->spinBoxSpeed, ui->spinBoxAutoScale}) {
+        SliderSpinBoxPair::prepare(spinBox);
+        spinBox->setFixedHeight(spinBoxHeight);
+    }
+    auto *modes = new QButtonGroup(this);
+    modes->addButton(ui->radioButtonAuto);
+    modes->addButton(ui->radioButtonMual);
+    enableControls(ui->radioButtonAuto->isChecked());
+}
+
+// Restoring is not a change by the operator: it starts no run, writes nothing and leaves
+// puritySelected unset.
+void ScrPurityCtrlDialog::initPurityStatus()
+{
+    if (!settings)
+        return;
+    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const QColor stored = SettingsRules::color(*settings, SharedKey::baseColor);
+    slot_changeSelectedPurityColor(stored.isValid() ? stored : QColor(Qt::red));
+    restoreControls();
+    const bool automatic = ui->radioButtonAuto->isChecked();
+    enableControls(automatic);
+    autoRunning = automatic;
+    const int grey = (automatic ? ui->spinBoxAutoScale : ui->spinBoxScale)->value();
+    drawer.slot_AlphaChanged(grey);
+    emit signal_greyChanged(QString::number(grey));
+    puritySelected = false;
+}
+
+void ScrPurityCtrlDialog::restoreControls()
+{
+    using SettingsRules::positiveInt;
+    ui->hScrollBarScale->setValue(
+        positiveInt(*settings, PurityKey::manualGrey, PurityKey::defaultGrey));
+    ui->hScrollBarSpeed->setValue(
+        positiveInt(*settings, PurityKey::speed, PurityKey::defaultSpeed));
+    ui->spinBoxAutoScale->setValue(
+        positiveInt(*settings, PurityKey::autoGrey, PurityKey::defaultGrey));
+    const QSignalBlocker quietAuto(ui->radioButtonAuto);
+    const QSignalBlocker quietManual(ui->radioButtonMual);
+    const bool automatic = settings->value(PurityKey::autoMode).toBool();
+    (automatic ? ui->radioButtonAuto : ui->radioButtonMual)->setChecked(true);
+}
+
+DrawerBase *ScrPurityCtrlDialog::getDrawer()
+{
+    return &drawer;
+}
+
+void ScrPurityCtrlDialog::saveSoon()
+{
+    if (!m_savingHeld)
+        m_saveSoon->schedule();
+}
+
+void ScrPurityCtrlDialog::saveScrPurityInfo()
+{
+    if (!settings)
+        return;
+    SettingsRules::store(*settings, PurityKey::autoMode, ui->radioButtonAuto->isChecked());
+    SettingsRules::store(*settings, PurityKey::manualGrey, ui->spinBoxScale->value());
+    SettingsRules::store(*settings, PurityKey::speed, ui->spinBoxSpeed->value());
+    SettingsRules::store(*settings, PurityKey::autoGrey, ui->spinBoxAutoScale->value());
+}
+
+void ScrPurityCtrlDialog::updateLanguage()
+{
+    m_swatches->retranslate();
+    CommonHelper::setQRadioButtonText(ui->radioButtonAuto, tr("自动"));
+    CommonHelper::setQRadioButtonText(ui->radioButtonMual, tr("手动"));
+    CommonHelper::setQLabelText(ui->label, tr("当前灰度"));
+    CommonHelper::setQLabelText(ui->label_3, tr("灰度"));
+    CommonHelper::setQLabelText(ui->label_4, tr("速度"));
+    CommonHelper::setQPushButtonText(ui->buttonPauseResume, autoTimer ? tr("暂停") : tr("开始"));
+    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarScale, ui->spinBoxScale, tr("灰度"));
+    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarSpeed, ui->spinBoxSpeed, tr("速度"));
+    ui->spinBoxAutoScale->setAccessibleName(tr("当前灰度"));
+}
+
+void ScrPurityCtrlDialog::selectColor(int index)
+{
+    colorIndex = index;
+    const QColor color = TestColor::at(index);
+    if (settings && !m_savingHeld)
+        SettingsRules::store(*settings, SharedKey::baseColor, color);
+    emit signal_colorChanged(color);
+    if (!firstColorPending)
+        puritySelected = true;
+    firstColorPending = false;
+}
+
+void ScrPurityCtrlDialog::slot_changeSelectedPurityColor(const QColor &color)
+{
+    QAbstractButton *button = m_swatches->button(color);
+    if (!button)
+        return;
+    button->setChecked(true);
+    // White is where the page keys come in from above, with its button still checked then: only
+    // the click makes it select its colour again.
+    if (color == Qt::white)
+        button->click();
+    if (settings && !m_savingHeld)
+        SettingsRules::store(*settings, SharedKey::baseColor, color);
+}
+
+void ScrPurityCtrlDialog::slot_changeColorByPageUpDown()
+{
+    if (colorIndex >= 0 && colorIndex < TestColor::pageColorCount)
+        slot_changeSelectedPurityColor(TestColor::at(colorIndex));
+}
+
+void ScrPurityCtrlDialog::canclePageUpDownSelect()
+{
+    if (ui->radioButtonWhite->isChecked())
+        ui->radioButtonWhite->setChecked(false);
+}
+
+void ScrPurityCtrlDialog::slot_keyUpPressed()
+{
+    ui->hScrollBarScale->setValue(wrappedGrey(ui->hScrollBarScale->value() + 1));
+}
+
+void ScrPurityCtrlDialog::slot_keyDownPressed()
+{
+    ui->hScrollBarScale->setValue(wrappedGrey(ui->hScrollBarScale->value() - 1));
+}
+
+void ScrPurityCtrlDialog::slot_keyLeftPressed()
+{
+    slot_keyDownPressed();
+}
+
+void ScrPurityCtrlDialog::slot_keyRightPressed()
+{
+    slot_keyUpPressed();
+}
+
+void ScrPurityCtrlDialog::slot_keyInsertPressed()
+{
+    stepAutomatically(true);
+}
+
+void ScrPurityCtrlDialog::slot_keyDeletePressed()
+{
+    stepAutomatically(false);
+}
+
+// In automatic mode the direction changes; otherwise the run starts, in the direction of before.
+void ScrPurityCtrlDialog::stepAutomatically(bool up)
+{
+    if (!drawer.isSelected())
+        return;
+    if (ui->radioButtonAuto->isChecked()) {
+        stepUp = up;
+        stepDown = !up;
+        return;
+    }
+    ui->radioButtonAuto->setChecked(true);
+    emit signal_purityAutoChange();
+    autoRunning = true;
+    slot_SpeedChanged(ui->hScrollBarSpeed->value());
+}
+
+void ScrPurityCtrlDialog::slot_AutoScaleChanged(int grey)
+{
+    emit signal_greyChanged(QString::number(grey));
+}
+
+void ScrPurityCtrlDialog::slot_SpeedChanged(int speed)
+{
+    if (!ui->radioButtonAuto->isChecked() || !autoRunning)
+        return;
+    delete autoTimer;
+    autoTimer = new QTimer(this);
+    connect(autoTimer, &QTimer::timeout, this, &ScrPurityCtrlDialog::slot_AutoTimerFinished);
+    autoTimer->start(stepIntervalMs(speed));
+    CommonHelper::setQPushButtonText(ui->buttonPauseResume, tr("暂停"));
+}
+
+void ScrPurityCtrlDialog::slot_PauseResume()
+{
+    if (autoTimer) {
+        stopTimer();
+        stepUp = true; // after a pause the levels rise
+        stepDown = false;
+        return;
+    }
+    emit signal_purityAutoChange();
+    autoRunning = true;
+    slot_SpeedChanged(ui->hScrollBarSpeed->value());
+}
+
+void ScrPurityCtrlDialog::slot_stopChangeGrey()
+{
+    if (autoTimer)
+        stopTimer();
+}
+
+// May run inside the timer's own timeout, so the timer goes when that is over.
+void ScrPurityCtrlDialog::stopTimer()
+{
+    autoTimer->stop();
+    autoTimer->deleteLater();
+    autoTimer = nullptr;
+    autoRunning = false;
+    m_lamps.showGrey();
+    CommonHelper::setQPushButtonText(ui->buttonPauseResume, tr("开始"));
+}
+
+void ScrPurityCtrlDialog::slot_MalPushed(bool checked)
+{
+    if (!checked)
+        return;
+    slot_PauseResume();
+    enableControls(false);
+    emit signal_switchToMal(ui->spinBoxScale->value());
+    emit signal_greyChanged(QString::number(ui->spinBoxScale->value()));
+    puritySelected = true;
+}
+
+void ScrPurityCtrlDialog::slot_AutoPushed(bool checked)
+{
+    if (!checked)
+        return;
+    slot_PauseResume();
+    enableControls(true);
+    emit signal_greyChanged(QString::number(ui->spinBoxAutoScale->value()));
+}
+
+void ScrPurityCtrlDialog::enableControls(bool automatic)
+{
+    ui->buttonPauseResume->setEnabled(automatic);
+    ui->hScrollBarSpeed->setEnabled(automatic);
+    ui->spinBoxSpeed->setEnabled(automatic);
+    ui->spinBoxAutoScale->setEnabled(automatic);
+    ui->hScrollBarScale->setEnabled(!automatic);
+    ui->spinBoxScale->setEnabled(!automatic);
+}
+
+void ScrPurityCtrlDialog::slot_AutoTimerFinished()
+{
+    // The run's own steps are not worth a write each.
+    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    int grey = ui->spinBoxAutoScale->value();
+    if (stepUp)
+        grey = wrappedGrey(grey + 1);
+    if (stepDown)
+        grey = wrappedGrey(grey - 1);
+    m_lamps.blink();
+    CommonHelper::setQPushButtonText(ui->buttonPauseResume, tr("暂停"));
+    drawer.slot_AlphaChanged(grey);
+    ui->spinBoxAutoScale->setValue(grey);
+}
+
+void ScrPurityCtrlDialog::slot_puritySelect(bool flag)
+{
+    puritySelected = flag;
+}
