@@ -1,0 +1,12 @@
+#pragma once
+
+// What has to be settled about the display before the application object exists.
+namespace DisplayEnvironment {
+
+// One pattern pixel is one screen pixel: switches Qt's scaling off, whatever the
+// desktop or the environment asks for. And since Wayland lets no program place its
+// own windows, a Wayland session is asked for its X server first, unless
+// QT_QPA_PLATFORM says otherwise.
+void prepare();
+
+} // namespace DisplayEnvironment

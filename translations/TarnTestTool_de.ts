@@ -1,0 +1,244 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="zh_CN">
+<context>
+    <name>CommonHelper</name>
+    <message>
+        <source>红</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Magenta</translation>
+    </message>
+</context>
+<context>
+    <name>DrawContainer</name>
+    <message>
+        <source>[Fn+←]:显示/隐藏窗口右下角处提示
+[Fn+→]:显示/隐藏窗口中心处提示
+[Fn+↑]:功能向上切换
+[Fn+↓]:功能向下切换
+[⇧+↑↓←→]:窗口大小
+[⇧+F/双击]:全屏/取消全屏
+[⌘+↑↓←→]:窗口位置
+[↑↓←→]:灰度调节
+[Fn+Enter/Delete]:自动增加/减少灰度
+[⇧+H]:显示/隐藏窗口
+</source>
+        <translation>[Pos1 | Fn+←]: diese Hilfe ein/aus
+[Ende | Fn+→]: Hinweis in der Mitte ein/aus
+[Bild↑ | Fn+↑]: voriges Testbild
+[Bild↓ | Fn+↓]: nächstes Testbild
+[⇧+↑↓←→]: Fenstergröße
+[⇧+F | Doppelklick]: Vollbild ein/aus
+[Strg | ⌘ +↑↓←→]: Fensterposition
+[↑↓←→]: Graustufe
+[Enter (Ziffernblock) | Rücktaste]: Graustufe automatisch +/−
+[⇧+H]: Fenster ein/aus
+</translation>
+    </message>
+    <message>
+        <source> 隐藏</source>
+        <translation> Ausblenden</translation>
+    </message>
+    <message>
+        <source>窗口信息：</source>
+        <translation>Fenster:</translation>
+    </message>
+</context>
+<context>
+    <name>DrawCtrlForm</name>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>宽</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>Ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>窗口</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>纯色</source>
+        <translation>Reinheit</translation>
+    </message>
+    <message>
+        <source>渐变</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>网格</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>显示屏测试工具-Tarn</source>
+        <translation>LED-Bildschirm-Testwerkzeug - Tarn</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
+    <message>
+        <source>红</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>当前灰度</source>
+        <translation>Akt. Grau</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>手动</source>
+        <translation>Manuell</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessDialog</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessMessageBox</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::TitleBar</name>
+    <message>
+        <source>最小化</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>还原</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,244 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="zh_CN">
+<context>
+    <name>CommonHelper</name>
+    <message>
+        <source>红</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Purple</translation>
+    </message>
+</context>
+<context>
+    <name>DrawContainer</name>
+    <message>
+        <source>[Fn+←]:显示/隐藏窗口右下角处提示
+[Fn+→]:显示/隐藏窗口中心处提示
+[Fn+↑]:功能向上切换
+[Fn+↓]:功能向下切换
+[⇧+↑↓←→]:窗口大小
+[⇧+F/双击]:全屏/取消全屏
+[⌘+↑↓←→]:窗口位置
+[↑↓←→]:灰度调节
+[Fn+Enter/Delete]:自动增加/减少灰度
+[⇧+H]:显示/隐藏窗口
+</source>
+        <translation>[Home | Fn+←]: show/hide this reminder
+[End | Fn+→]: show/hide the hint at the centre
+[PageUp | Fn+↑]: previous pattern
+[PageDown | Fn+↓]: next pattern
+[⇧+↑↓←→]: window size
+[⇧+F | double click]: full screen on/off
+[Ctrl | ⌘ +↑↓←→]: window position
+[↑↓←→]: grey level
+[Keypad Enter | Backspace]: grey up/down automatically
+[⇧+H]: show/hide the window
+</translation>
+    </message>
+    <message>
+        <source> 隐藏</source>
+        <translation> Hide</translation>
+    </message>
+    <message>
+        <source>窗口信息：</source>
+        <translation>Window:</translation>
+    </message>
+</context>
+<context>
+    <name>DrawCtrlForm</name>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>宽</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>Height</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>Hide</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>窗口</source>
+        <translation>Window</translation>
+    </message>
+    <message>
+        <source>纯色</source>
+        <translation>Purity</translation>
+    </message>
+    <message>
+        <source>渐变</source>
+        <translation>Gradient</translation>
+    </message>
+    <message>
+        <source>网格</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>显示屏测试工具-Tarn</source>
+        <translation>LED Screen Test Tool - Tarn</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
+    <message>
+        <source>红</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Purple</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>当前灰度</source>
+        <translation>Current grey</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>手动</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Grey</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessDialog</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessMessageBox</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::TitleBar</name>
+    <message>
+        <source>最小化</source>
+        <translation>Minimise</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>Maximise</translation>
+    </message>
+    <message>
+        <source>还原</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+</TS>

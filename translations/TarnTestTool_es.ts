@@ -1,0 +1,244 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="zh_CN">
+<context>
+    <name>CommonHelper</name>
+    <message>
+        <source>红</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>Blanco</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Magenta</translation>
+    </message>
+</context>
+<context>
+    <name>DrawContainer</name>
+    <message>
+        <source>[Fn+←]:显示/隐藏窗口右下角处提示
+[Fn+→]:显示/隐藏窗口中心处提示
+[Fn+↑]:功能向上切换
+[Fn+↓]:功能向下切换
+[⇧+↑↓←→]:窗口大小
+[⇧+F/双击]:全屏/取消全屏
+[⌘+↑↓←→]:窗口位置
+[↑↓←→]:灰度调节
+[Fn+Enter/Delete]:自动增加/减少灰度
+[⇧+H]:显示/隐藏窗口
+</source>
+        <translation>[Inicio | Fn+←]: mostrar/ocultar esta ayuda
+[Fin | Fn+→]: mostrar/ocultar la indicación central
+[RePág | Fn+↑]: patrón anterior
+[AvPág | Fn+↓]: patrón siguiente
+[⇧+↑↓←→]: tamaño de la ventana
+[⇧+F | doble clic]: pantalla completa sí/no
+[Ctrl | ⌘ +↑↓←→]: posición de la ventana
+[↑↓←→]: nivel de gris
+[Intro num. | Retroceso]: gris automático +/−
+[⇧+H]: mostrar/ocultar la ventana
+</translation>
+    </message>
+    <message>
+        <source> 隐藏</source>
+        <translation> Ocultar</translation>
+    </message>
+    <message>
+        <source>窗口信息：</source>
+        <translation>Ventana:</translation>
+    </message>
+</context>
+<context>
+    <name>DrawCtrlForm</name>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>宽</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>Ocultar</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>窗口</source>
+        <translation>Ventana</translation>
+    </message>
+    <message>
+        <source>纯色</source>
+        <translation>Pureza</translation>
+    </message>
+    <message>
+        <source>渐变</source>
+        <translation>Degradado</translation>
+    </message>
+    <message>
+        <source>网格</source>
+        <translation>Rejilla</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Diseño</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>显示屏测试工具-Tarn</source>
+        <translation>Herramienta de prueba de pantallas LED - Tarn</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
+    <message>
+        <source>红</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>Blanco</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>当前灰度</source>
+        <translation>Gris actual</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>手动</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pausa</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessDialog</name>
+    <message>
+        <source>确定</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessMessageBox</name>
+    <message>
+        <source>确定</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::TitleBar</name>
+    <message>
+        <source>最小化</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>还原</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,244 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="zh_CN">
+<context>
+    <name>CommonHelper</name>
+    <message>
+        <source>红</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Magenta</translation>
+    </message>
+</context>
+<context>
+    <name>DrawContainer</name>
+    <message>
+        <source>[Fn+←]:显示/隐藏窗口右下角处提示
+[Fn+→]:显示/隐藏窗口中心处提示
+[Fn+↑]:功能向上切换
+[Fn+↓]:功能向下切换
+[⇧+↑↓←→]:窗口大小
+[⇧+F/双击]:全屏/取消全屏
+[⌘+↑↓←→]:窗口位置
+[↑↓←→]:灰度调节
+[Fn+Enter/Delete]:自动增加/减少灰度
+[⇧+H]:显示/隐藏窗口
+</source>
+        <translation>[Début | Fn+←] : afficher/masquer cet aide-mémoire
+[Fin | Fn+→] : afficher/masquer l&apos;indication au centre
+[Page préc. | Fn+↑] : mire précédente
+[Page suiv. | Fn+↓] : mire suivante
+[⇧+↑↓←→] : taille de la fenêtre
+[⇧+F | double clic] : plein écran oui/non
+[Ctrl | ⌘ +↑↓←→] : position de la fenêtre
+[↑↓←→] : niveau de gris
+[Entrée pavé num. | Retour arr.] : gris auto +/−
+[⇧+H] : afficher/masquer la fenêtre
+</translation>
+    </message>
+    <message>
+        <source> 隐藏</source>
+        <translation> Masquer</translation>
+    </message>
+    <message>
+        <source>窗口信息：</source>
+        <translation>Fenêtre :</translation>
+    </message>
+</context>
+<context>
+    <name>DrawCtrlForm</name>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>宽</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>Masquer</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>窗口</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>纯色</source>
+        <translation>Pureté</translation>
+    </message>
+    <message>
+        <source>渐变</source>
+        <translation>Dégradé</translation>
+    </message>
+    <message>
+        <source>网格</source>
+        <translation>Grille</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>显示屏测试工具-Tarn</source>
+        <translation>Outil de test d&apos;écran LED - Tarn</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
+    <message>
+        <source>红</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>当前灰度</source>
+        <translation>Gris actuel</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>手动</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessDialog</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessMessageBox</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::TitleBar</name>
+    <message>
+        <source>最小化</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>还原</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+</TS>

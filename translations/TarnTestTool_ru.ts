@@ -1,0 +1,244 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="zh_CN">
+<context>
+    <name>CommonHelper</name>
+    <message>
+        <source>红</source>
+        <translation>Красный</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Зелёный</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Синий</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>Белый</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Жёлтый</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Голубой</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Пурпурный</translation>
+    </message>
+</context>
+<context>
+    <name>DrawContainer</name>
+    <message>
+        <source>[Fn+←]:显示/隐藏窗口右下角处提示
+[Fn+→]:显示/隐藏窗口中心处提示
+[Fn+↑]:功能向上切换
+[Fn+↓]:功能向下切换
+[⇧+↑↓←→]:窗口大小
+[⇧+F/双击]:全屏/取消全屏
+[⌘+↑↓←→]:窗口位置
+[↑↓←→]:灰度调节
+[Fn+Enter/Delete]:自动增加/减少灰度
+[⇧+H]:显示/隐藏窗口
+</source>
+        <translation>[Home | Fn+←]: показать/скрыть эту подсказку
+[End | Fn+→]: показать/скрыть подсказку в центре
+[PageUp | Fn+↑]: предыдущий тест
+[PageDown | Fn+↓]: следующий тест
+[⇧+↑↓←→]: размер окна
+[⇧+F | двойной щелчок]: полный экран вкл/выкл
+[Ctrl | ⌘ +↑↓←→]: положение окна
+[↑↓←→]: уровень серого
+[Enter (цифр.) | Backspace]: серый автоматически +/−
+[⇧+H]: показать/скрыть окно
+</translation>
+    </message>
+    <message>
+        <source> 隐藏</source>
+        <translation> Скрыть</translation>
+    </message>
+    <message>
+        <source>窗口信息：</source>
+        <translation>Окно:</translation>
+    </message>
+</context>
+<context>
+    <name>DrawCtrlForm</name>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>宽</source>
+        <translation>Ширина</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>Высота</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Показать</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>Скрыть</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>窗口</source>
+        <translation>Окно</translation>
+    </message>
+    <message>
+        <source>纯色</source>
+        <translation>Чистота</translation>
+    </message>
+    <message>
+        <source>渐变</source>
+        <translation>Градиент</translation>
+    </message>
+    <message>
+        <source>网格</source>
+        <translation>Сетка</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Раскладка</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Справка</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>显示屏测试工具-Tarn</source>
+        <translation>Инструмент проверки LED-экранов - Tarn</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
+    <message>
+        <source>红</source>
+        <translation>Красный</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Зелёный</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Синий</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>Белый</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>Жёлтый</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>Голубой</translation>
+    </message>
+    <message>
+        <source>紫</source>
+        <translation>Пурпурный</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Авто</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>当前灰度</source>
+        <translation>Тек. серый</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Старт</translation>
+    </message>
+    <message>
+        <source>手动</source>
+        <translation>Ручной</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Серый</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Пауза</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessDialog</name>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::FramelessMessageBox</name>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>UX::Widgets::TitleBar</name>
+    <message>
+        <source>最小化</source>
+        <translation>Свернуть</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>Развернуть</translation>
+    </message>
+    <message>
+        <source>还原</source>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+</TS>
