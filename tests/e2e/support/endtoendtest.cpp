@@ -1,0 +1,94 @@
+#include "endtoendtest.h"
+
+#include "waiting.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTest>
+
+namespace {
+/// Clear of a test window of the default size in the upper left corner.
+constexpr QPoint ControlWindowPlace = QPoint(600, 480);
+} // namespace
+
+std::unique_ptr<VirtualDesktop> EndToEndTest::createDesktop() const
+{
+    return std::make_unique<VirtualDesktop>();
+}
+
+void EndToEndTest::initTestCase()
+{
+    m_desktop = createDesktop();
+    QVERIFY2(m_desktop->start(), qPrintable(m_desktop->problem()));
+}
+
+void EndToEndTest::cleanup()
+{
+    if (QTest::currentTestFailed())
+        saveScreenshot();
+    m_tool.reset();
+}
+
+ToolProcess &EndToEndTest::tool()
+{
+    return m_tool ? *m_tool : newTool();
+}
+
+ToolProcess &EndToEndTest::newTool()
+{
+    m_tool = std::make_unique<ToolProcess>(*m_desktop);
+    return *m_tool;
+}
+
+bool EndToEndTest::startTool(ToolProcess::TestWindow testWindow)
+{
+    // The pointer rests where no window comes to be.
+    m_desktop->mouse().move(m_desktop->screen().rect().bottomRight());
+    if (!tool().start(testWindow)) {
+        qWarning("%s", qPrintable(tool().problem()));
+        return false;
+    }
+    const WindowId control = tool().controlWindow().id;
+    m_desktop->windows().move(control, ControlWindowPlace);
+    const auto isInPlace = [&] {
+        return m_desktop->windows().info(control).geometry.topLeft() == ControlWindowPlace;
+    };
+    if (!waitFor(isInPlace) || !tool().focusControlWindow()) {
+        qWarning("The control window takes neither place nor keyboard");
+        return false;
+    }
+    return true;
+}
+
+bool EndToEndTest::isTestWindowFilled(QRgb colour)
+{
+    const WindowInfo window = tool().testWindow();
+    return window.isMapped && m_desktop->screen().isFilled(window.geometry, colour);
+}
+
+bool EndToEndTest::testWindowTurns(QRgb colour)
+{
+    if (waitFor([&] { return isTestWindowFilled(colour); }))
+        return true;
+    const WindowInfo window = tool().testWindow();
+    const QRgb there = m_desktop->screen().pixel(window.geometry.center());
+    qWarning("The test window, %smapped, shows #%06x at its centre and not #%06x",
+             window.isMapped ? "" : "not ", there & RGB_MASK, colour & RGB_MASK);
+    return false;
+}
+
+void EndToEndTest::saveScreenshot()
+{
+    if (!m_desktop || m_desktop->displayName().isEmpty())
+        return;
+    const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/e2e-failures");
+    QDir().mkpath(folder);
+    QString name = QString::fromLatin1(metaObject()->className()) + QLatin1Char('-')
+                   + QString::fromLatin1(QTest::currentTestFunction());
+    if (const char *row = QTest::currentDataTag())
+        name +=
+            QLatin1Char('-') + QString::fromUtf8(row).replace(QLatin1Char('/'), QLatin1Char('_'));
+    const QString path = folder + QLatin1Char('/') + name + QStringLiteral(".png");
+    if (m_desktop->screen().grab().save(path))
+        qWarning("The screen at that moment: %s", qPrintable(path));
+}

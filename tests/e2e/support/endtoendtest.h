@@ -1,0 +1,46 @@
+#pragma once
+
+#include "toolprocess.h"
+#include "virtualdesktop.h"
+
+#include <QObject>
+
+#include <memory>
+
+/// Base of the end-to-end tests: one desktop for all functions of a test, and
+/// a fresh program for each function.
+class EndToEndTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    VirtualDesktop &desktop() { return *m_desktop; }
+    /// The program of this test function, made at the first call.
+    ToolProcess &tool();
+    /// Ends that program and makes a new one in a new application directory.
+    ToolProcess &newTool();
+
+    /// The desktop that the test runs on; a single screen if not overridden.
+    virtual std::unique_ptr<VirtualDesktop> createDesktop() const;
+
+    /// Starts tool(), moves the control window clear of the test window's
+    /// default place and gives it the keyboard. False, with the reason logged,
+    /// if that fails.
+    bool startTool(ToolProcess::TestWindow testWindow = ToolProcess::TestWindow::Shown);
+
+    /// Whether every pixel of the test window's place shows this colour.
+    bool isTestWindowFilled(QRgb colour);
+    /// The same, once it has come to be so within the usual deadline; logs what
+    /// is there instead if not.
+    bool testWindowTurns(QRgb colour);
+
+private slots:
+    void initTestCase();
+    void cleanup();
+
+private:
+    void saveScreenshot();
+
+    std::unique_ptr<VirtualDesktop> m_desktop;
+    std::unique_ptr<ToolProcess> m_tool;
+};

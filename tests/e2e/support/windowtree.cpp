@@ -1,0 +1,144 @@
+#include "windowtree.h"
+
+#include "waiting.h"
+
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+
+namespace {
+/// Root, frame, a layer inside the frame, client.
+constexpr int DeepestTopLevel = 3;
+/// The source indication of a pager: acts without asking for the user's time.
+constexpr long FromPager = 2;
+} // namespace
+
+WindowTree::WindowTree(XConnection &connection)
+    : m_connection(connection)
+{
+    // Answers to pings go to the root window.
+    XSelectInput(m_connection.display(), m_connection.root(),
+                 StructureNotifyMask | SubstructureNotifyMask);
+    m_ownWindow =
+        XCreateSimpleWindow(m_connection.display(), m_connection.root(), 0, 0, 1, 1, 0, 0, 0);
+}
+
+QVector<WindowInfo> WindowTree::ofProcess(qint64 processId) const
+{
+    QVector<WindowInfo> found;
+    if (processId > 0)
+        collect(m_connection.root(), 0, processId, found);
+    return found;
+}
+
+void WindowTree::collect(WindowId parent, int depth, qint64 processId,
+                         QVector<WindowInfo> &found) const
+{
+    Window root = 0;
+    Window above = 0;
+    Window *children = nullptr;
+    unsigned int count = 0;
+    if (!XQueryTree(m_connection.display(), parent, &root, &above, &children, &count))
+        return;
+    for (unsigned int i = 0; i < count; ++i) {
+        const WindowInfo child = info(children[i]);
+        if (child.processId == processId)
+            found.append(child);
+        else if (depth + 1 < DeepestTopLevel)
+            collect(children[i], depth + 1, processId, found);
+    }
+    if (children)
+        XFree(children);
+}
+
+WindowInfo WindowTree::info(WindowId window) const
+{
+    WindowInfo result;
+    XWindowAttributes attributes;
+    if (!XGetWindowAttributes(m_connection.display(), window, &attributes))
+        return result;
+    int x = 0;
+    int y = 0;
+    Window child = 0;
+    XTranslateCoordinates(m_connection.display(), window, m_connection.root(), 0, 0, &x, &y,
+                          &child);
+    result.id = window;
+    result.title = QString::fromUtf8(m_connection.property(window, "_NET_WM_NAME"));
+    result.processId = static_cast<qint64>(m_connection.firstItem(window, "_NET_WM_PID"));
+    result.geometry = QRect(x, y, attributes.width, attributes.height);
+    result.isMapped = attributes.map_state == IsViewable;
+    result.isPopup = attributes.override_redirect != 0;
+    return result;
+}
+
+WindowId WindowTree::active() const
+{
+    return m_connection.firstItem(m_connection.root(), "_NET_ACTIVE_WINDOW");
+}
+
+void WindowTree::activate(WindowId window)
+{
+    askWindowManager(window, "_NET_ACTIVE_WINDOW", FromPager, CurrentTime);
+}
+
+void WindowTree::close(WindowId window)
+{
+    askWindowManager(window, "_NET_CLOSE_WINDOW", CurrentTime, FromPager);
+}
+
+void WindowTree::move(WindowId window, const QPoint &position)
+{
+    XMoveWindow(m_connection.display(), window, position.x(), position.y());
+    m_connection.sync();
+}
+
+void WindowTree::askWindowManager(WindowId window, const char *message, long first, long second)
+{
+    XEvent event = {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window;
+    event.xclient.message_type = m_connection.atom(message);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = first;
+    event.xclient.data.l[1] = second;
+    XSendEvent(m_connection.display(), m_connection.root(), False,
+               SubstructureNotifyMask | SubstructureRedirectMask, &event);
+    m_connection.sync();
+}
+
+bool WindowTree::answersPing(WindowId window, int deadlineMs)
+{
+    XEvent ping = {};
+    ping.xclient.type = ClientMessage;
+    ping.xclient.window = window;
+    ping.xclient.message_type = m_connection.atom("WM_PROTOCOLS");
+    ping.xclient.format = 32;
+    ping.xclient.data.l[0] = static_cast<long>(m_connection.atom("_NET_WM_PING"));
+    ping.xclient.data.l[1] = ++m_pingNumber;
+    ping.xclient.data.l[2] = static_cast<long>(window);
+    XSendEvent(m_connection.display(), window, False, NoEventMask, &ping);
+    m_connection.sync();
+
+    const auto isAnswered = [&] {
+        XEvent answer;
+        while (XCheckTypedEvent(m_connection.display(), ClientMessage, &answer)) {
+            if (answer.xclient.data.l[0] == ping.xclient.data.l[0]
+                && answer.xclient.data.l[1] == m_pingNumber)
+                return true;
+        }
+        return false;
+    };
+    return waitFor(isAnswered, deadlineMs);
+}
+
+bool WindowTree::hasWindowManager() const
+{
+    return m_connection.firstItem(m_connection.root(), "_NET_SUPPORTING_WM_CHECK") != 0;
+}
+
+bool WindowTree::syncWithWindowManager()
+{
+    XDeleteProperty(m_connection.display(), m_ownWindow, m_connection.atom("_NET_FRAME_EXTENTS"));
+    askWindowManager(m_ownWindow, "_NET_REQUEST_FRAME_EXTENTS", 0, 0);
+    return waitFor(
+        [this] { return !m_connection.property(m_ownWindow, "_NET_FRAME_EXTENTS").isEmpty(); });
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "xconnection.h"
+
+#include <QRect>
+#include <QString>
+#include <QVector>
+
+/// A top-level window of some client, as the X server knew it when asked.
+struct WindowInfo
+{
+    /// 0 when there is no such window.
+    WindowId id = 0;
+    QString title;
+    qint64 processId = 0;
+    /// The client's own area without the window manager's frame, in root
+    /// coordinates.
+    QRect geometry;
+    /// Whether it and all windows around it are mapped.
+    bool isMapped = false;
+    /// A menu or tool tip, which no window manager places.
+    bool isPopup = false;
+};
+
+/// Finds the windows of a program and asks the window manager to act on them.
+class WindowTree
+{
+public:
+    /// \a connection must outlive it.
+    explicit WindowTree(XConnection &connection);
+
+    /// The top-level windows that carry this process id, menus and tool tips
+    /// included, hidden ones too.
+    QVector<WindowInfo> ofProcess(qint64 processId) const;
+    WindowInfo info(WindowId window) const;
+
+    WindowId active() const;
+    /// Gives a window the keyboard; wait until active() says so.
+    void activate(WindowId window);
+    /// Asks it to close, as the close button of a frame does.
+    void close(WindowId window);
+    /// Moves its client area to this place in root coordinates.
+    void move(WindowId window, const QPoint &position);
+
+    /// Whether the program behind the window handles its events: sends a ping
+    /// and waits for the answer, but no longer than \a deadlineMs (scaled).
+    bool answersPing(WindowId window, int deadlineMs = 10000);
+
+    bool hasWindowManager() const;
+    /// Returns when the window manager has handled all events until now; false
+    /// if it does not within the usual deadline.
+    bool syncWithWindowManager();
+
+private:
+    void collect(WindowId parent, int depth, qint64 processId, QVector<WindowInfo> &found) const;
+    void askWindowManager(WindowId window, const char *message, long first, long second);
+
+    XConnection &m_connection;
+    /// Never mapped; asking about it is how to know that the window manager answers.
+    WindowId m_ownWindow = 0;
+    long m_pingNumber = 0;
+};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "childprocess.h"
+
+#include <QSize>
+#include <QString>
+
+/// An X server of the test's own; subclasses say which program serves, with
+/// which screens.
+class XServer
+{
+public:
+    XServer() = default;
+    virtual ~XServer() = default;
+    Q_DISABLE_COPY(XServer)
+
+    /// Starts the server on a free display number. False, with problem() set,
+    /// when it does not come up.
+    bool start();
+
+    /// The DISPLAY value to reach it by; empty before start().
+    QString displayName() const { return m_displayName; }
+    QString problem() const { return m_problem; }
+
+protected:
+    virtual QString program() const = 0;
+    /// The arguments; the server must write its display number to the standard
+    /// output ("-displayfd 1").
+    virtual QStringList arguments() const = 0;
+
+private:
+    bool readDisplayNumber();
+
+    ChildProcess m_process;
+    QString m_displayName;
+    QString m_problem;
+};
+
+/// A virtual frame buffer with a single screen.
+class XvfbServer : public XServer
+{
+public:
+    explicit XvfbServer(const QSize &size)
+        : m_size(size)
+    { }
+
+protected:
+    QString program() const override;
+    QStringList arguments() const override;
+
+private:
+    QSize m_size;
+};

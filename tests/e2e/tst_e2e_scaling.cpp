@@ -1,0 +1,53 @@
+#include "endtoendtest.h"
+#include "waiting.h"
+
+#include <QTest>
+
+/// One pixel of a pattern is one pixel of the screen, however the desktop is
+/// set to scale.
+class tst_e2e_scaling : public EndToEndTest
+{
+    Q_OBJECT
+
+private slots:
+    void windowOf256_covers256ScreenPixels_data();
+    void windowOf256_covers256ScreenPixels();
+};
+
+void tst_e2e_scaling::windowOf256_covers256ScreenPixels_data()
+{
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<QString>("value");
+
+    const auto row = [](const char *name, const char *variable, const char *value) {
+        QTest::newRow(name) << QString::fromLatin1(variable) << QString::fromLatin1(value);
+    };
+    row("not scaled", "QT_SCALE_FACTOR", "1");
+    row("factor for all", "QT_SCALE_FACTOR", "1.5");
+    row("factor for the screen", "QT_SCREEN_SCALE_FACTORS", "2");
+    row("chosen by the screen", "QT_AUTO_SCREEN_SCALE_FACTOR", "1");
+    row("chosen by the screen, newer name", "QT_ENABLE_HIGHDPI_SCALING", "1");
+    row("ratio for all, older name", "QT_DEVICE_PIXEL_RATIO", "2");
+}
+
+void tst_e2e_scaling::windowOf256_covers256ScreenPixels()
+{
+    QFETCH(QString, variable);
+    QFETCH(QString, value);
+    tool().setEnvironment(variable, value);
+    QVERIFY(startTool());
+
+    // A green that no control of the program has: one grey level below full.
+    constexpr QRgb Green254 = qRgb(0, 254, 0);
+    desktop().keyboard().key("Next");
+    desktop().keyboard().key("Down");
+    QVERIFY(testWindowTurns(Green254));
+
+    const QRect place(0, 0, 256, 256);
+    QCOMPARE(tool().testWindow().geometry, place);
+    QVERIFY(desktop().screen().isFilled(place, Green254));
+    QCOMPARE(desktop().screen().count(desktop().screen().rect(), Green254), 256 * 256);
+}
+
+QTEST_GUILESS_MAIN(tst_e2e_scaling)
+#include "tst_e2e_scaling.moc"
