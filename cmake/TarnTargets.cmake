@@ -13,7 +13,8 @@ if(MSVC)
   target_compile_options(tarn_build_options INTERFACE /W4 /utf-8 $<$<BOOL:${TARN_WARNINGS_AS_ERRORS}>:/WX>)
 else()
   target_compile_options(tarn_build_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wno-sign-conversion
+    -Wno-gnu-zero-variadic-macro-arguments
     $<$<BOOL:${TARN_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 if(TARN_SANITIZERS)
@@ -37,6 +38,12 @@ function(tarn_add_library name)
   target_link_libraries(${name} PUBLIC ${ARG_LINKS} Qt5::Widgets PRIVATE tarn_build_options)
 endfunction()
 
+# Seconds that one test program may take; sanitizers make it several times slower.
+set(TARN_TEST_TIMEOUT 180)
+if(TARN_SANITIZERS)
+  set(TARN_TEST_TIMEOUT 900)
+endif()
+
 # tarn_add_test(<name> LINKS <library>... [SOURCES <file>...])
 #
 # Builds <name>.cpp, a QtTest program without a display, and registers it. Each stands
@@ -49,6 +56,6 @@ function(tarn_add_test name)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     LABELS unit
-    TIMEOUT 120
+    TIMEOUT ${TARN_TEST_TIMEOUT}
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${TARN_TEST_RUNTIME_DIR};LC_ALL=C.UTF-8")
 endfunction()

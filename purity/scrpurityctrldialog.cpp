@@ -169,6 +169,7 @@ void ScrPurityCtrlDialog::saveScrPurityInfo()
 void ScrPurityCtrlDialog::updateLanguage()
 {
     m_swatches->retranslate();
+    m_lamps.retranslate();
     CommonHelper::setQRadioButtonText(ui->radioButtonAuto, tr("自动"));
     CommonHelper::setQRadioButtonText(ui->radioButtonMual, tr("手动"));
     CommonHelper::setQLabelText(ui->label, tr("当前灰度"));

@@ -4,6 +4,7 @@
 
 #include "commonhelper.h"
 #include "form.h"
+#include "latin1.h"
 #include "savesoon.h"
 #include "settingsrules.h"
 #include "sliderspinboxpair.h"
@@ -17,18 +18,18 @@
 namespace {
 
 namespace Key {
-constexpr QLatin1String x("/setting/testWindowPointX");
-constexpr QLatin1String y("/setting/testWindowPointY");
-constexpr QLatin1String width("/setting/testWindowWidth");
-constexpr QLatin1String height("/setting/testWindowHeight");
+constexpr QLatin1String x = latin1("/setting/testWindowPointX");
+constexpr QLatin1String y = latin1("/setting/testWindowPointY");
+constexpr QLatin1String width = latin1("/setting/testWindowWidth");
+constexpr QLatin1String height = latin1("/setting/testWindowHeight");
 // Named the other way round than it is used: true means hidden, on reading and on writing.
-constexpr QLatin1String hidden("/setting/testWindowVisible");
+constexpr QLatin1String hidden = latin1("/setting/testWindowVisible");
 } // namespace Key
 
 constexpr int defaultSize = 256;
 constexpr int sizeWithoutSettings = 200;
 
-constexpr QLatin1String buttonStyleName("normalContentPushBtn");
+constexpr QLatin1String buttonStyleName = latin1("normalContentPushBtn");
 
 void step(QSlider *slider, int by)
 {
@@ -177,6 +178,7 @@ void DrawCtrlForm::place(const QRect &rectangle)
     applyControls();
 }
 
+// All four values at once: the window's own idea of its place may lag behind the window manager.
 // A full screen is left alone, since it would not come back from full screen as it was: what
 // changes meanwhile is applied when it ends.
 void DrawCtrlForm::applyControls()
@@ -268,33 +270,29 @@ void DrawCtrlForm::slot_disableShowButton()
 
 void DrawCtrlForm::slot_MoveX(int x)
 {
-    if (!testWindow->isFullScreen())
-        testWindow->move(x, testWindow->y());
-    m_placement.moveLeft(x);
+    QRect rectangle = m_placement;
+    rectangle.moveLeft(x);
+    place(rectangle);
     m_saveSoon->schedule();
 }
 
 void DrawCtrlForm::slot_MoveY(int y)
 {
-    if (!testWindow->isFullScreen())
-        testWindow->move(testWindow->x(), y);
-    m_placement.moveTop(y);
+    QRect rectangle = m_placement;
+    rectangle.moveTop(y);
+    place(rectangle);
     m_saveSoon->schedule();
 }
 
 void DrawCtrlForm::slot_resetWidth(unsigned int width)
 {
-    if (!testWindow->isFullScreen())
-        testWindow->resize(static_cast<int>(width), ui->hScrollBarHeight->value());
-    m_placement.setWidth(static_cast<int>(width));
+    place({m_placement.topLeft(), QSize(static_cast<int>(width), m_placement.height())});
     m_saveSoon->schedule();
 }
 
 void DrawCtrlForm::slot_resetHeight(unsigned int height)
 {
-    if (!testWindow->isFullScreen())
-        testWindow->resize(ui->hScrollBarWidth->value(), static_cast<int>(height));
-    m_placement.setHeight(static_cast<int>(height));
+    place({m_placement.topLeft(), QSize(m_placement.width(), static_cast<int>(height))});
     m_saveSoon->schedule();
 }
 

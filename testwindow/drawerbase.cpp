@@ -7,9 +7,11 @@ DrawerBase::DrawerBase(QWidget *target)
     , targetWidget(target)
 { }
 
+// A grid that scrolls behind another pattern must not have that one painted for nothing.
 void DrawerBase::update()
 {
-    targetWidget->update();
+    if (isSelected())
+        targetWidget->update();
 }
 
 bool DrawerBase::isSelected() const

@@ -18,7 +18,8 @@ public:
     // paint event; paints nothing when `paint` is false.
     virtual void draw(bool paint) = 0;
 
-    // Asks the test window for a repaint on the next turn of the event loop.
+    // Asks the test window, if it has this drawer selected, for a repaint on the next
+    // turn of the event loop.
     virtual void update();
 
     // Whether the test window has this drawer selected, shown yet or not. Always

@@ -1,5 +1,6 @@
 #include "lamppair.h"
 
+#include <QCoreApplication>
 #include <QWidget>
 
 LampPair::LampPair(QWidget *green, QWidget *grey)
@@ -27,4 +28,11 @@ void LampPair::blink()
         showGreen();
     else
         showGrey();
+}
+
+void LampPair::retranslate()
+{
+    const QString name = QCoreApplication::translate("LampPair", "运行指示灯");
+    m_green->setAccessibleName(name);
+    m_grey->setAccessibleName(name);
 }

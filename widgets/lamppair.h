@@ -14,6 +14,9 @@ public:
     void showGrey();
     void blink(); // the other one is shown
 
+    // Names the lamps for assistive technology, in the interface language.
+    void retranslate();
+
 private:
     QWidget *m_green;
     QWidget *m_grey;

@@ -74,7 +74,7 @@ bool CommonHelper::emitIf(Row row, QKeyEvent *event)
     if (event->key() != combination.key
         || (event->modifiers() & combination.modifiers) != combination.modifiers)
         return false;
-    emit(this->*combination.signal)();
+    Q_EMIT(this->*combination.signal)();
     return true;
 }
 

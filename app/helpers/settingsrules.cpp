@@ -2,12 +2,16 @@
 
 #include <QSettings>
 
+#include <limits>
+
 namespace SettingsRules {
 
 int positiveInt(const QSettings &settings, QLatin1String key, int defaultValue)
 {
-    const int value = settings.value(key).toInt();
-    return value < 1 ? defaultValue : value;
+    // Read with room to spare: what is beyond an int must not come round as something else.
+    const qlonglong value = settings.value(key).toLongLong();
+    return value < 1 || value > std::numeric_limits<int>::max() ? defaultValue
+                                                                : static_cast<int>(value);
 }
 
 QColor color(const QSettings &settings, QLatin1String key)

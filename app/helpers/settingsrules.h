@@ -1,7 +1,8 @@
 #pragma once
 
+#include "latin1.h"
+
 #include <QColor>
-#include <QLatin1String>
 #include <QVariant>
 
 class QSettings;
@@ -9,8 +10,8 @@ class QSettings;
 // The keys that more than one panel reads or writes. Every other key stands
 // beside the panel that owns it.
 namespace SharedKey {
-constexpr QLatin1String baseColor("/setting/testWindowBaseColor");
-constexpr QLatin1String gradientColor("/setting/gradualChangeColor");
+constexpr QLatin1String baseColor = latin1("/setting/testWindowBaseColor");
+constexpr QLatin1String gradientColor = latin1("/setting/gradualChangeColor");
 } // namespace SharedKey
 
 // How values are read from and written to the settings file. Keys begin with

@@ -95,7 +95,7 @@ constexpr Combination combinations[] = {
 
 QKeyEvent press(int key, int modifiers)
 {
-    return QKeyEvent(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers));
+    return {QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers)};
 }
 
 // Every set of modifiers there is.

@@ -22,7 +22,7 @@ class TestSaveSoon : public QObject
 private slots:
     void delay_isLessThanASecond();
     void newHelper_savesNothing();
-    void change_isSavedOnceAndLater();
+    void change_isSavedLater();
     void changesTogether_areOneSave();
     void endlessChanges_doNotPutTheSaveOff();
     void changeAfterASave_isSavedToo();
@@ -46,19 +46,15 @@ void TestSaveSoon::newHelper_savesNothing()
     QCOMPARE(saves, 0);
 }
 
-void TestSaveSoon::change_isSavedOnceAndLater()
+void TestSaveSoon::change_isSavedLater()
 {
     int saves = 0;
     SaveSoon saveSoon([&] { ++saves; }, nullptr);
     saveSoon.schedule();
     QVERIFY(saveSoon.isDue());
     QCOMPARE(saves, 0);
-    QElapsedTimer timer;
-    timer.start();
     QTRY_COMPARE(saves, 1);
     QVERIFY(!saveSoon.isDue());
-    QTRY_VERIFY(longTimeAfter(timer));
-    QCOMPARE(saves, 1);
 }
 
 void TestSaveSoon::changesTogether_areOneSave()

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr QLatin1String key("/setting/value");
+const QLatin1String key("/setting/value");
 
 // A settings file whose "value" is spelled as given.
 std::unique_ptr<TestSettings> withValue(const QByteArray &spelled)
@@ -72,7 +72,7 @@ void TestSettingsRules::positiveInt_data()
     QTest::newRow("number and text") << QByteArray("12px") << 50;
     QTest::newRow("list") << QByteArray("12, 13") << 50;
     QTest::newRow("more than any integer") << QByteArray("99999999999999999999999") << 50;
-    QTest::newRow("binary") << QByteArray("@ByteArray(\\0\\x1\\xff)") << 50;
+    QTest::newRow("binary") << QByteArray(R"(@ByteArray(\0\x1\xff))") << 50;
     QTest::newRow("invalid") << QByteArray("@Invalid()") << 50;
     QTest::newRow("size") << QByteArray("@Size(12 12)") << 50;
 }
@@ -103,11 +103,11 @@ void TestSettingsRules::color_data()
     QTest::newRow("text") << QByteArray("no colour") << QColor();
     QTest::newRow("list") << QByteArray("1, 2, 3") << QColor();
     QTest::newRow("number") << QByteArray("12") << QColor();
-    QTest::newRow("binary") << QByteArray("@ByteArray(\\0\\x1\\xff)") << QColor();
+    QTest::newRow("binary") << QByteArray(R"(@ByteArray(\0\x1\xff))") << QColor();
     QTest::newRow("invalid") << QByteArray("@Invalid()") << QColor();
     QTest::newRow("size") << QByteArray("@Size(12 12)") << QColor();
     QTest::newRow("invalid colour")
-        << QByteArray("@Variant(\\0\\0\\0\\x43\\0\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)") << QColor();
+        << QByteArray(R"(@Variant(\0\0\0\x43\0\xff\xff\0\0\0\0\0\0\0\0))") << QColor();
 }
 
 void TestSettingsRules::color()

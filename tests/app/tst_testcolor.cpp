@@ -9,15 +9,15 @@ namespace {
 
 struct Entry
 {
-    Qt::GlobalColor color;
     const char *name;
+    Qt::GlobalColor color;
     int red, green, blue; // which channels are lit
 };
 
 constexpr Entry entries[] = {
-    {Qt::red, "红", 1, 0, 0},     {Qt::green, "绿", 0, 1, 0},  {Qt::blue, "蓝", 0, 0, 1},
-    {Qt::white, "白", 1, 1, 1},   {Qt::yellow, "黄", 1, 1, 0}, {Qt::cyan, "青", 0, 1, 1},
-    {Qt::magenta, "紫", 1, 0, 1},
+    {"红", Qt::red, 1, 0, 0},     {"绿", Qt::green, 0, 1, 0},  {"蓝", Qt::blue, 0, 0, 1},
+    {"白", Qt::white, 1, 1, 1},   {"黄", Qt::yellow, 1, 1, 0}, {"青", Qt::cyan, 0, 1, 1},
+    {"紫", Qt::magenta, 1, 0, 1},
 };
 
 // Answers the source texts of one context with "<text>!".

@@ -102,7 +102,7 @@ QVariant PurityRig::inFile(const QString &key) const
     const QTemporaryDir folder;
     QFile copy(folder.filePath(QStringLiteral("copy.ini")));
     if (!copy.open(QIODevice::WriteOnly))
-        return QVariant();
+        return {};
     copy.write(fileBytes());
     copy.close();
     const QSettings file(copy.fileName(), QSettings::IniFormat);
@@ -112,22 +112,16 @@ QVariant PurityRig::inFile(const QString &key) const
 QString PurityTranslator::translate(const char * /*context*/, const char *sourceText,
                                     const char * /*disambiguation*/, int /*n*/) const
 {
-    static const QHash<QString, QString> texts = {
-        {QStringLiteral("红"), QStringLiteral("R")},
-        {QStringLiteral("绿"), QStringLiteral("G")},
-        {QStringLiteral("蓝"), QStringLiteral("B")},
-        {QStringLiteral("白"), QStringLiteral("W")},
-        {QStringLiteral("黄"), QStringLiteral("Y")},
-        {QStringLiteral("青"), QStringLiteral("C")},
-        {QStringLiteral("紫"), QStringLiteral("P")},
-        {QStringLiteral("当前灰度"), QStringLiteral("Now")},
-        {QStringLiteral("速度"), QStringLiteral("Speed")},
-        {QStringLiteral("灰度"), QStringLiteral("Grey")},
-        {QStringLiteral("自动"), QStringLiteral("Auto")},
-        {QStringLiteral("手动"), QStringLiteral("Hand")},
-        {QStringLiteral("开始"), QStringLiteral("Go")},
-        {QStringLiteral("暂停"), QStringLiteral("Stop")},
+    static const char *const texts[][2] = {
+        {"红", "R"},       {"绿", "G"},      {"蓝", "B"},      {"白", "W"},
+        {"黄", "Y"},       {"青", "C"},      {"紫", "P"},      {"当前灰度", "Now"},
+        {"速度", "Speed"}, {"灰度", "Grey"}, {"自动", "Auto"}, {"手动", "Hand"},
+        {"开始", "Go"},    {"暂停", "Stop"},
     };
-    const QString text = texts.value(QString::fromUtf8(sourceText));
+    QString text;
+    for (const auto &entry : texts) {
+        if (qstrcmp(sourceText, entry[0]) == 0)
+            text = QString::fromLatin1(entry[1]);
+    }
     return m_lengthy && !text.isEmpty() ? text + QStringLiteral(" and on").repeated(9) : text;
 }

@@ -6,7 +6,11 @@
 
 namespace {
 
-const QVariantMap automaticMode = {{QStringLiteral("AutoTest"), true}};
+QVariantMap automaticMode()
+{
+    return {{QStringLiteral("AutoTest"), true}};
+}
+
 const QString begin = QStringLiteral("开始");
 const QString pause = QStringLiteral("暂停");
 
@@ -72,7 +76,7 @@ void TestScrPurityCtrlDialogModes::modeClick_toManualStopsTheRun()
 
 void TestScrPurityCtrlDialogModes::modeClick_fromAPausedRunLeavesNoTimer()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     rig.click(rig.manual());
 
     QVERIFY(rig.hasControlsOf(false));
@@ -199,7 +203,7 @@ void TestScrPurityCtrlDialogModes::keysThatStartTheRun_leaveTheDirectionAlone()
 
 void TestScrPurityCtrlDialogModes::keysInAutomaticMode_onlySetTheDirection()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     startRun(rig, 50);
     const QTimer *timer = rig.timer();
     QSignalSpy started(rig.panel.get(), &ScrPurityCtrlDialog::signal_purityAutoChange);
@@ -217,7 +221,7 @@ void TestScrPurityCtrlDialogModes::keysInAutomaticMode_onlySetTheDirection()
 
 void TestScrPurityCtrlDialogModes::keysInAPausedRun_startNothing()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     QSignalSpy started(rig.panel.get(), &ScrPurityCtrlDialog::signal_purityAutoChange);
     rig.panel->slot_keyInsertPressed();
     rig.panel->slot_keyDeletePressed();

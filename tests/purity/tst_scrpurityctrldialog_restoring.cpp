@@ -74,10 +74,10 @@ void TestScrPurityCtrlDialogRestoring::restore_ofAWrongIntGivesTheDefault_data()
     QTest::newRow("number and text") << QByteArray("12px");
     QTest::newRow("list") << QByteArray("1, 2, 3");
     QTest::newRow("huge") << QByteArray("99999999999999999999999");
-    QTest::newRow("binary") << QByteArray("@ByteArray(\\0\\x1\\xff\\0)");
+    QTest::newRow("binary") << QByteArray(R"(@ByteArray(\0\x1\xff\0))");
     QTest::newRow("invalid") << QByteArray("@Invalid()");
     QTest::newRow("rectangle") << QByteArray("@Rect(9 9 9 9)");
-    QTest::newRow("broken variant") << QByteArray("@Variant(\\0\\0\\0\\x7f)");
+    QTest::newRow("broken variant") << QByteArray(R"(@Variant(\0\0\0\x7f))");
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_ofAWrongIntGivesTheDefault()
@@ -130,8 +130,8 @@ void TestScrPurityCtrlDialogRestoring::restore_ofAWrongModeStaysConsistent_data(
     QTest::newRow("text") << QByteArray("automatic");
     QTest::newRow("list") << QByteArray("true, false");
     QTest::newRow("huge") << QByteArray("99999999999999999999999");
-    QTest::newRow("binary") << QByteArray("@ByteArray(\\0\\x1\\xff\\0)");
-    QTest::newRow("broken variant") << QByteArray("@Variant(\\0\\0\\0\\x7f)");
+    QTest::newRow("binary") << QByteArray(R"(@ByteArray(\0\x1\xff\0))");
+    QTest::newRow("broken variant") << QByteArray(R"(@Variant(\0\0\0\x7f))");
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_ofAWrongModeStaysConsistent()
@@ -177,10 +177,10 @@ void TestScrPurityCtrlDialogRestoring::restore_ofAWrongColourGivesRed_data()
     QTest::newRow("not a settings file") << QByteArray("\x7f"
                                                        "ELF\0\1\2\3 garbage ]][[==",
                                                        24);
-    for (const char *value : {"", "no colour", "1, 2, 3", "-7", "99999999999999999999999",
-                              "@ByteArray(\\0\\x1\\xff\\0)", "@Invalid()", "@Rect(9 9 9 9)",
-                              "@Variant(\\0\\0\\0\\x43\\0\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)",
-                              "@Variant(\\0\\0\\0\\x7f)"})
+    for (const char *value :
+         {"", "no colour", "1, 2, 3", "-7", "99999999999999999999999", R"(@ByteArray(\0\x1\xff\0))",
+          "@Invalid()", "@Rect(9 9 9 9)", R"(@Variant(\0\0\0\x43\0\xff\xff\0\0\0\0\0\0\0\0))",
+          R"(@Variant(\0\0\0\x7f))"})
         QTest::newRow(value) << iniLine("testWindowBaseColor", value);
 }
 

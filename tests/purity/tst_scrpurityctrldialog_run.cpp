@@ -5,7 +5,11 @@
 
 namespace {
 
-const QVariantMap automaticMode = {{QStringLiteral("AutoTest"), true}};
+QVariantMap automaticMode()
+{
+    return {{QStringLiteral("AutoTest"), true}};
+}
+
 const QString begin = QStringLiteral("开始");
 const QString pause = QStringLiteral("暂停");
 
@@ -81,7 +85,7 @@ void TestScrPurityCtrlDialogRun::speed100_ticksEvery100Ms_speed1Every10S()
 
 void TestScrPurityCtrlDialogRun::speedChange_replacesTheTimer()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     startRun(rig, 50);
     for (const int speed : {10, 90, 30})
         rig.speedSlider()->setValue(speed);
@@ -105,7 +109,7 @@ void TestScrPurityCtrlDialogRun::speedChange_inManualModeStartsNothing()
 
 void TestScrPurityCtrlDialogRun::speedChange_afterAPauseStartsNothing()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     startRun(rig, 50);
     rig.panel->slot_PauseResume();
     rig.speedSpinBox()->setValue(99);
@@ -116,7 +120,7 @@ void TestScrPurityCtrlDialogRun::speedChange_afterAPauseStartsNothing()
 
 void TestScrPurityCtrlDialogRun::speedChange_startsARestoredAutomaticRun()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     QVERIFY(!rig.timer());
     rig.speedSpinBox()->setValue(99);
 
@@ -196,7 +200,7 @@ void TestScrPurityCtrlDialogRun::tick_paintsTheGreyAndTellsIt()
 
 void TestScrPurityCtrlDialogRun::tick_blinks()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     startRun(rig, 50);
     QVERIFY(isShown(rig.greyLamp(), rig.greenLamp()));
     rig.panel->slot_AutoTimerFinished();
@@ -207,7 +211,7 @@ void TestScrPurityCtrlDialogRun::tick_blinks()
 
 void TestScrPurityCtrlDialogRun::tick_namesTheButtonPause()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     QCOMPARE(rig.beginButton()->text(), begin);
     rig.panel->slot_AutoTimerFinished();
     QCOMPARE(rig.beginButton()->text(), pause);
@@ -215,7 +219,7 @@ void TestScrPurityCtrlDialogRun::tick_namesTheButtonPause()
 
 void TestScrPurityCtrlDialogRun::pauseButton_pausesAndResumes()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     QSignalSpy started(rig.panel.get(), &ScrPurityCtrlDialog::signal_purityAutoChange);
     QTest::mouseClick(rig.beginButton(), Qt::LeftButton);
     QVERIFY(rig.timer());
@@ -235,7 +239,7 @@ void TestScrPurityCtrlDialogRun::pauseButton_pausesAndResumes()
 
 void TestScrPurityCtrlDialogRun::pause_turnsTheDirectionUpward()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     startRun(rig, 50);
     rig.panel->slot_keyDeletePressed();
     QCOMPARE(rig.tick(), 49);
@@ -246,7 +250,7 @@ void TestScrPurityCtrlDialogRun::pause_turnsTheDirectionUpward()
 
 void TestScrPurityCtrlDialogRun::pause_showsTheGreyLamp()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     startRun(rig, 50);
     rig.panel->slot_AutoTimerFinished();
     QVERIFY(isShown(rig.greenLamp(), rig.greyLamp()));
@@ -256,7 +260,7 @@ void TestScrPurityCtrlDialogRun::pause_showsTheGreyLamp()
 
 void TestScrPurityCtrlDialogRun::stop_endsTheRunAndKeepsTheDirection()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     startRun(rig, 50);
     rig.panel->slot_keyDeletePressed();
     QCOMPARE(rig.tick(), 49);
@@ -277,7 +281,7 @@ void TestScrPurityCtrlDialogRun::stop_endsTheRunAndKeepsTheDirection()
 
 void TestScrPurityCtrlDialogRun::stop_withoutATimerChangesNothing()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     rig.panel->slot_stopChangeGrey();
     QCOMPARE(rig.beginButton()->text(), begin);
     // The restored mode still waits for its first speed change.
@@ -287,7 +291,7 @@ void TestScrPurityCtrlDialogRun::stop_withoutATimerChangesNothing()
 
 void TestScrPurityCtrlDialogRun::language_keepsTheMeaningOfThePauseButton()
 {
-    const PurityRig rig(automaticMode);
+    const PurityRig rig(automaticMode());
     startRun(rig, 50);
     PurityTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));

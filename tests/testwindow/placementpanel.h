@@ -73,7 +73,7 @@ public:
     // The rectangle that the sliders show.
     QRect controls() const
     {
-        return QRect(x()->value(), y()->value(), width()->value(), height()->value());
+        return {x()->value(), y()->value(), width()->value(), height()->value()};
     }
 
     // The buttons have one object name for the two of them; they stand side by side.

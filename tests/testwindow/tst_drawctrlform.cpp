@@ -209,6 +209,7 @@ void TestDrawCtrlForm::ranges_thatGrowAgainBringThePlacementBack()
     panel.x()->setValue(placement.x());
     panel.y()->setValue(placement.y());
     panel.width()->setValue(placement.width());
+    panel.target.show(); // a hidden window hears of its changes later
     panel.height()->setValue(placement.height());
     PlacementCounter counter(&panel.target);
     // As a small desktop would leave the controls.

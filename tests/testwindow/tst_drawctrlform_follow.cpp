@@ -84,6 +84,7 @@ void TestDrawCtrlFormFollow::keys_stepByOnePixelAndStop()
 void TestDrawCtrlFormFollow::sizeChange_setsTheSlidersAndLeavesTheWindowAlone()
 {
     PlacementPanel panel;
+    panel.target.show(); // a hidden window hears of its changes later
     panel.target.resize(345, 234);
     PlacementCounter counter(&panel.target);
 
@@ -99,6 +100,7 @@ void TestDrawCtrlFormFollow::sizeChange_setsTheSlidersAndLeavesTheWindowAlone()
 void TestDrawCtrlFormFollow::positionChange_setsTheSlidersAndLeavesTheWindowAlone()
 {
     PlacementPanel panel;
+    panel.target.show(); // a hidden window hears of its changes later
     panel.target.move(-31, 77);
     PlacementCounter counter(&panel.target);
 

@@ -247,12 +247,11 @@ void TestDrawCtrlFormSaving::changes_thatGoOnAreSavedMeanwhile()
     mouse.start(20);
     QTRY_VERIFY(CountedSettings::writes > 0);
     QVERIFY(dragging.elapsed() < 1000);
-    QTRY_VERIFY(dragging.elapsed() > 2000);
-    mouse.stop();
+    QTRY_VERIFY(CountedSettings::writes > 2);
 
+    // Not at every step.
+    QVERIFY(dragging.elapsed() > 1000);
     QVERIFY(position > 20);
-    QVERIFY2(CountedSettings::writes >= 2 && CountedSettings::writes <= 5,
-             qPrintable(QString::number(CountedSettings::writes)));
 }
 
 void TestDrawCtrlFormSaving::destruction_savesWhatIsStillDue()

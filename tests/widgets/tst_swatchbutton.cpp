@@ -7,11 +7,16 @@ namespace {
 
 constexpr QRgb fill = 0xff204080;
 
-// A swatch of 42 x 42, filled by its style sheet.
 void prepare(SwatchButton &button, const QString &text)
 {
     button.resize(42, 42);
     button.setText(text);
+}
+
+// As above, filled by its style sheet.
+void prepareFilled(SwatchButton &button, const QString &text)
+{
+    prepare(button, text);
     button.setStyleSheet(QStringLiteral("SwatchButton { background-color: #204080; color: white; }"
                                         "SwatchButton::indicator { width: 0px; height: 0px; }"));
 }
@@ -113,7 +118,7 @@ void TestSwatchButton::click_onTheCheckedButtonKeepsItChecked()
 void TestSwatchButton::styleSheet_fillsTheWholeArea()
 {
     SwatchButton button;
-    prepare(button, QString());
+    prepareFilled(button, QString());
     QVERIFY(inkOf(rendered(button)).isNull());
 }
 
@@ -129,7 +134,7 @@ void TestSwatchButton::text_standsInTheMiddle()
     QFETCH(const bool, checked);
     SwatchButton button;
     // Neither ascends nor descends far, so that its ink is centred as its line is.
-    prepare(button, QStringLiteral("H"));
+    prepareFilled(button, QStringLiteral("H"));
     button.setChecked(checked);
     const QRect ink = inkOf(rendered(button));
 

@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -51,8 +52,8 @@ QStringList sourceNames()
 class MarkingTranslator : public QTranslator
 {
 public:
-    explicit MarkingTranslator(const QString &rest)
-        : m_rest(rest)
+    explicit MarkingTranslator(QString rest)
+        : m_rest(std::move(rest))
     { }
     QString translate(const char *, const char *sourceText, const char *, int) const override
     {
