@@ -1,0 +1,245 @@
+#include "gradualchangectrlwidget.h"
+
+#include "ui_gradualchangectrlwidget.h"
+
+#include "commonhelper.h"
+#include "form.h"
+#include "latin1.h"
+#include "savesoon.h"
+#include "settingsrules.h"
+#include "swatchrow.h"
+#include "testcolor.h"
+
+#include <QScopedValueRollback>
+#include <QSettings>
+
+#include <limits>
+#include <utility>
+
+namespace {
+
+constexpr QLatin1String levelKey = latin1("/setting/gradualChangeColorLevel");
+
+struct Level
+{
+    qint16 count;
+    const char *text;
+};
+
+constexpr Level levels[] = {
+    {32, QT_TRANSLATE_NOOP("GradualChangeCtrlWidget", "32级")},
+    {64, QT_TRANSLATE_NOOP("GradualChangeCtrlWidget", "64级")},
+    {128, QT_TRANSLATE_NOOP("GradualChangeCtrlWidget", "128级")},
+    {256, QT_TRANSLATE_NOOP("GradualChangeCtrlWidget", "256级")},
+};
+
+constexpr qint16 defaultLevel = 256;
+
+// Also for a value that no level can have.
+qint16 storedLevel(const QSettings &settings)
+{
+    const int level = SettingsRules::positiveInt(settings, levelKey, defaultLevel);
+    return level <= std::numeric_limits<qint16>::max() ? qint16(level) : defaultLevel;
+}
+
+// Red when there is none, and an invalid colour when what is there names none.
+QColor storedColor(const QSettings &settings)
+{
+    const QString name = settings.value(SharedKey::gradientColor).toString();
+    return name.isEmpty() ? QColor(Qt::red) : QVariant(name).value<QColor>();
+}
+
+} // namespace
+
+GradualChangeCtrlWidget::GradualChangeCtrlWidget(QWidget *drawWidget, QSettings *settings,
+                                                 QWidget *parent)
+    : QWidget(parent)
+    , ui(makeForm<Ui::GradualChangeCtrlWidget>(this))
+    , m_drawer(drawWidget)
+    , m_settings(settings)
+    , m_levelButtons{ui->buttonFirstLevel, ui->buttonSecondLevel, ui->buttonThirdLevel,
+                     ui->buttonFirthLevel}
+    , m_swatches(new SwatchRow({ui->radioButtonRed, ui->radioButtonGreen, ui->radioButtonBlue,
+                                ui->radioButtonWhite, ui->radioButtonYellow, ui->radioButtonCyan,
+                                ui->radioButtonPurple},
+                               this))
+    , m_saveSoon(new SaveSoon([this] { saveGradualChangeInfo(); }, this))
+{
+    for (QPushButton *button : m_levelButtons)
+        button->setObjectName(QStringLiteral("levelPushBtn"));
+    initConnection();
+    initGradualChangeStatus();
+}
+
+GradualChangeCtrlWidget::~GradualChangeCtrlWidget()
+{
+    saveGradualChangeInfo();
+}
+
+// A change of colour runs the slot of the old button and then that of the new one, whose colour
+// stays.
+void GradualChangeCtrlWidget::initConnection()
+{
+    using Panel = GradualChangeCtrlWidget;
+    using Slot = void (Panel::*)();
+
+    const std::pair<QAbstractButton *, Slot> levelSlots[] = {
+        {ui->buttonFirstLevel, &Panel::slot_changeGradualColorFirst},
+        {ui->buttonSecondLevel, &Panel::slot_changeGradualColorSecond},
+        {ui->buttonThirdLevel, &Panel::slot_changeGradualColorThird},
+        {ui->buttonFirthLevel, &Panel::slot_changeGradualColorFirth},
+    };
+    for (const auto &[button, slot] : levelSlots)
+        connect(button, &QAbstractButton::clicked, this, slot);
+
+    const std::pair<QAbstractButton *, Slot> colorSlots[] = {
+        {ui->radioButtonRed, &Panel::slot_changeGradualColorRed},
+        {ui->radioButtonGreen, &Panel::slot_changeGradualColorGreen},
+        {ui->radioButtonBlue, &Panel::slot_changeGradualColorBlue},
+        {ui->radioButtonWhite, &Panel::slot_changeGradualColorWhite},
+        {ui->radioButtonYellow, &Panel::slot_changeGradualColorYellow},
+        {ui->radioButtonCyan, &Panel::slot_changeGradualColorCyan},
+        {ui->radioButtonPurple, &Panel::slot_changeGradualColorPurple},
+    };
+    for (const auto &[button, slot] : colorSlots) {
+        connect(button, &QAbstractButton::toggled, this, slot);
+        // A click alone: a colour that another panel sends is not sent back to it.
+        connect(button, &QAbstractButton::clicked, this, &Panel::slot_updateSelectedColor);
+    }
+}
+
+// Restoring is not a change by the operator and writes nothing. The stored level stays out of
+// the drawer until the next change of level or colour; wanted.
+void GradualChangeCtrlWidget::initGradualChangeStatus()
+{
+    if (!m_settings)
+        return;
+    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const QColor color = storedColor(*m_settings);
+    slot_changeSelectedGradualColor(color);
+    m_colorIndex = CommonHelper::getColorIndex(color);
+    m_level = storedLevel(*m_settings);
+}
+
+DrawerBase *GradualChangeCtrlWidget::getDrawer()
+{
+    return &m_drawer;
+}
+
+void GradualChangeCtrlWidget::saveGradualChangeInfo()
+{
+    if (!m_settings)
+        return;
+    SettingsRules::store(*m_settings, SharedKey::gradientColor, m_color);
+    SettingsRules::store(*m_settings, levelKey, int(m_level));
+}
+
+void GradualChangeCtrlWidget::updateLanguage()
+{
+    m_swatches->retranslate();
+    for (std::size_t row = 0; row < levelCount; ++row)
+        CommonHelper::setQPushButtonText(m_levelButtons.at(row), tr(levels[row].text));
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorFirst()
+{
+    selectLevel(0);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorSecond()
+{
+    selectLevel(1);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorThird()
+{
+    selectLevel(2);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorFirth()
+{
+    selectLevel(3);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorRed()
+{
+    selectColor(0);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorGreen()
+{
+    selectColor(1);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorBlue()
+{
+    selectColor(2);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorWhite()
+{
+    selectColor(3);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorYellow()
+{
+    selectColor(4);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorCyan()
+{
+    selectColor(5);
+}
+
+void GradualChangeCtrlWidget::slot_changeGradualColorPurple()
+{
+    selectColor(6);
+}
+
+void GradualChangeCtrlWidget::selectLevel(int row)
+{
+    m_level = levels[row].count;
+    emit signal_greyChanged(QString::fromUtf8(levels[row].text));
+    apply();
+    m_userChanged = true;
+}
+
+void GradualChangeCtrlWidget::selectColor(int index)
+{
+    m_color = TestColor::at(index);
+    m_colorIndex = index;
+    apply();
+    if (!m_firstToggle)
+        m_userChanged = true;
+    m_firstToggle = false;
+}
+
+void GradualChangeCtrlWidget::apply()
+{
+    m_drawer.slot_gradualChangeColor(m_level, m_color);
+    if (!m_savingHeld)
+        m_saveSoon->schedule();
+}
+
+void GradualChangeCtrlWidget::slot_updateSelectedColor()
+{
+    emit signal_selectColorChanged(m_color);
+}
+
+void GradualChangeCtrlWidget::slot_changeSelectedGradualColor(const QColor &color)
+{
+    QAbstractButton *button = m_swatches->button(color);
+    if (!button)
+        return;
+    button->setChecked(true);
+    m_color = color;
+}
+
+void GradualChangeCtrlWidget::slot_changeColorByPageDown()
+{
+    if (m_colorIndex < 0 || m_colorIndex >= TestColor::pageColorCount)
+        return;
+    slot_changeSelectedGradualColor(TestColor::at(m_colorIndex));
+    // A button that was checked already has not said so, and the levels may be new.
+    apply();
+}
