@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QColor>
+#include <QLatin1String>
+#include <QVector>
+
+#include <array>
+
+class QSettings;
+
+// What the merged test shows: any of the seven test colours and of the four line families.
+class MixSelection
+{
+public:
+    // The colours in the order of the colour table, then the families.
+    enum Item {
+        Red,
+        Green,
+        Blue,
+        White,
+        Yellow,
+        Cyan,
+        Purple,
+        Vertical,
+        Horizontal,
+        SlantLeft,
+        SlantRight,
+        itemCount
+    };
+
+    struct Entry
+    {
+        Item item;
+        QLatin1String key; // the stored value is true where the item is not selected
+        const char *text; // in the context MixSetting
+    };
+
+    // Every item once, in the order in which the settings are read and written.
+    static const std::array<Entry, itemCount> &entries();
+
+    // The selection that is stored. Whatever is not, is selected; so everything is, where there
+    // are no settings.
+    static MixSelection stored(const QSettings *settings);
+    void store(QSettings &settings) const;
+
+    bool contains(Item item) const { return m_selected.at(item); }
+    void set(Item item, bool selected) { m_selected.at(item) = selected; }
+    bool isEmpty() const;
+
+    // The selected colours, in the order of the colour table.
+    QVector<QColor> colors() const;
+    // Horizontal, vertical, slant left and slant right.
+    std::array<bool, 4> lines() const;
+
+private:
+    std::array<bool, itemCount> m_selected{};
+};

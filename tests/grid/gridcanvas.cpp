@@ -1,0 +1,76 @@
+#include "gridcanvas.h"
+
+using namespace GridColor;
+
+namespace {
+
+// Whether a line one pixel wide runs through the pixel, worked out from its coordinates.
+bool isOnLine(const QPoint &pixel, const QSize &size, int families, int distance, int offset)
+{
+    const auto isLine = [=](int position) {
+        return position >= offset && (position - offset) % distance == 0;
+    };
+    const int side = qMax(size.width(), size.height());
+    const int rightward = side + pixel.x() - pixel.y();
+    return ((families & Horizontal) && isLine(pixel.y()))
+           || ((families & Vertical) && isLine(pixel.x()))
+           || ((families & SlantLeft) && isLine(pixel.x() + pixel.y()))
+           || ((families & SlantRight) && rightward < 2 * side && isLine(rightward));
+}
+
+} // namespace
+
+GridCanvas::GridCanvas(const QSize &size)
+    : canvas(size)
+    , drawer(&canvas)
+{
+    canvas.setDrawer(&drawer);
+}
+
+void GridCanvas::enable(int families)
+{
+    drawer.setHoriLinesEnabled(families & Horizontal);
+    drawer.setVertLinesEnabled(families & Vertical);
+    drawer.setSlantLeftLinesEnabled(families & SlantLeft);
+    drawer.setSlantRightLinesEnabled(families & SlantRight);
+}
+
+void GridCanvas::showRedOnBlue(int families)
+{
+    drawer.slot_colorChanged(Qt::red);
+    drawer.slot_changeBgColor(Qt::blue);
+    enable(families);
+}
+
+void GridCanvas::scroll(int steps)
+{
+    for (int step = 0; step < steps; ++step)
+        drawer.scrollLines();
+}
+
+QString difference(const QImage &image, int families, int distance, int offset)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const bool line = isOnLine({x, y}, image.size(), families, distance, offset);
+            if (image.pixel(x, y) != (line ? red : blue))
+                return QStringLiteral("wrong at (%1, %2) of %3 x %4")
+                    .arg(x)
+                    .arg(y)
+                    .arg(image.width())
+                    .arg(image.height());
+        }
+    }
+    return image.isNull() ? QStringLiteral("no image") : QString();
+}
+
+bool everyPixelIs(const QImage &image, QRgb expected)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != expected)
+                return false;
+        }
+    }
+    return !image.isNull();
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "canvas.h"
+#include "griddrawer.h"
+
+#include <QImage>
+#include <QString>
+
+enum Family {
+    Horizontal = 1,
+    Vertical = 2,
+    SlantLeft = 4,
+    SlantRight = 8,
+    EveryFamily = 15,
+};
+
+namespace GridColor {
+
+constexpr QRgb backdrop = 0xff0a141e; // what stands on the canvas before it is painted
+constexpr QRgb black = 0xff000000;
+constexpr QRgb red = 0xffff0000;
+constexpr QRgb blue = 0xff0000ff;
+
+} // namespace GridColor
+
+// A grid drawer on a canvas that shows it.
+struct GridCanvas
+{
+    explicit GridCanvas(const QSize &size = QSize(33, 17));
+
+    // These families (bits of Family) and no others, without touching the background.
+    void enable(int families);
+    void showRedOnBlue(int families);
+    void scroll(int steps);
+    QImage painted() { return canvas.painted(GridColor::backdrop); }
+
+    Canvas canvas;
+    GridDrawer drawer;
+};
+
+// Empty if the image shows exactly these families, one pixel wide and red on blue; otherwise
+// says where it does not. Worked out from coordinates alone.
+QString difference(const QImage &image, int families, int distance, int offset);
+
+bool everyPixelIs(const QImage &image, QRgb expected);

@@ -1,0 +1,67 @@
+#include "colordialog.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDesktopWidget>
+#include <QTimer>
+#include <QtTest>
+
+class TestColorDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { ColorDialog::setAnswer({}); }
+
+    void answer_isAskedWithTheInitialColour();
+    void withoutAnswer_theOperatorIsAskedAboveAllWindows_data();
+    void withoutAnswer_theOperatorIsAskedAboveAllWindows();
+};
+
+void TestColorDialog::answer_isAskedWithTheInitialColour()
+{
+    QList<QColor> asked;
+    ColorDialog::setAnswer([&asked](const QColor &initial) {
+        asked << initial;
+        return QColor(1, 2, 3);
+    });
+
+    QCOMPARE(ColorDialog::getColor(Qt::green), QColor(1, 2, 3));
+    QCOMPARE(ColorDialog::getColor(Qt::blue), QColor(1, 2, 3));
+    QCOMPARE(asked, (QList<QColor>{Qt::green, Qt::blue}));
+}
+
+void TestColorDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows_data()
+{
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("chosen") << true;
+    QTest::newRow("cancelled") << false;
+}
+
+void TestColorDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows()
+{
+    QFETCH(const bool, accepted);
+    ColorDialog::setAnswer([](const QColor &) { return QColor(1, 2, 3); });
+    ColorDialog::setAnswer({});
+    QColor shown;
+    bool onTop = false;
+    const QWidget *parent = QApplication::desktop(); // anything but none
+    QTimer::singleShot(0, this, [&] {
+        auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        shown = dialog->currentColor();
+        parent = dialog->parentWidget();
+        onTop = dialog->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+        dialog->setCurrentColor(Qt::magenta);
+        accepted ? dialog->accept() : dialog->reject();
+    });
+    const QColor chosen = ColorDialog::getColor(Qt::green);
+
+    QCOMPARE(shown, QColor(Qt::green));
+    QVERIFY(!parent);
+    QVERIFY(onTop);
+    QCOMPARE(chosen, accepted ? QColor(Qt::magenta) : QColor());
+}
+
+QTEST_MAIN(TestColorDialog)
+#include "tst_colordialog.moc"
