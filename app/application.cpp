@@ -20,6 +20,15 @@ void Application::initTermination()
     connect(this, &QGuiApplication::commitDataRequest, &m_mainWindow, &MainWindow::saveSettings);
 }
 
+// Qt would close all windows first, and the test window would be remembered as hidden.
+bool Application::event(QEvent *event)
+{
+    if (event->type() != QEvent::Quit)
+        return QApplication::event(event);
+    exit();
+    return true;
+}
+
 bool Application::notify(QObject *receiver, QEvent *event)
 {
     switch (event->type()) {

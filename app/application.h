@@ -30,6 +30,9 @@ signals:
     // The event lives only as long as the emission.
     void signal_keyPress(QKeyEvent *event);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void initTermination();
 

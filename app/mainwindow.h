@@ -2,6 +2,7 @@
 
 #include "appmainwindow.h"
 #include "drawcontainer.h"
+#include "latin1.h"
 
 #include <QString>
 #include <QTimer>
@@ -13,8 +14,11 @@
 class CommonHelper;
 class DrawCtrlForm;
 class DrawerBase;
+class GradualChangeCtrlWidget;
+class GridDrawer;
 class QKeyEvent;
 class QSettings;
+class ScrGridCtrlDialog;
 class ScrPurityCtrlDialog;
 
 namespace Ui {
@@ -58,6 +62,20 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
+    // The panels' places among the tabs.
+    enum Tab {
+        PlacementTab,
+        PurityTab,
+        GradientTab,
+        GridTab,
+        CabinetTab,
+        HelpTab,
+        AboutTab,
+        TabCount
+    };
+
+    static constexpr QLatin1String currentTabKey = latin1("/setting/currentTabIndex");
+
     void initCtrls();
     void initTitleBar();
     void initSlots();
@@ -71,9 +89,17 @@ private:
     void addTab(QWidget *panel, DrawerBase *drawer);
     void makeTabCurrent(int index);
     void grayScaleChange(int index);
+    void settleGrid();
+    void dealGridInitStatus();
     void pauseGridStatus();
+
+    bool isOnWalk() const;
     void setPurityCtrlPageDownEvent();
+    void setGradualChangePageDownEvent();
+    void setGridCtrlPageDownEvent();
     void setPurityCtrlPageUpEvent();
+    void setGradualChangePageUpEvent();
+    void setGridCtrlPageUpEvent();
 
     template<typename Panel>
     void connectArrowKeys(Panel *panel, bool on);
@@ -85,7 +111,10 @@ private:
     std::map<int, std::pair<QWidget *, DrawerBase *>> tabTable;
     std::unique_ptr<CommonHelper> keyHelper;
     DrawCtrlForm *placementPanel = nullptr;
+    ScrGridCtrlDialog *gridPanel = nullptr;
     ScrPurityCtrlDialog *purityPanel = nullptr;
+    GradualChangeCtrlWidget *gradientPanel = nullptr;
+    GridDrawer *spareGridDrawer = nullptr; // used by nothing; part of the window all the same
     qint16 cycleTab = 0; // where the page keys stand
     int currentTabIndex = 0;
     QSettings *settings;

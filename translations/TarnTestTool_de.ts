@@ -95,6 +95,32 @@
     </message>
 </context>
 <context>
+    <name>GradualChangeCtrlWidget</name>
+    <message>
+        <source>32级</source>
+        <translation>32 Stufen</translation>
+    </message>
+    <message>
+        <source>64级</source>
+        <translation>64 Stufen</translation>
+    </message>
+    <message>
+        <source>128级</source>
+        <translation>128 Stufen</translation>
+    </message>
+    <message>
+        <source>256级</source>
+        <translation>256 Stufen</translation>
+    </message>
+</context>
+<context>
+    <name>LampPair</name>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Betriebslampe</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>窗口</source>
@@ -130,35 +156,161 @@
     </message>
 </context>
 <context>
-    <name>ScrPurityCtrlDialog</name>
+    <name>MixSetting</name>
     <message>
-        <source>红</source>
-        <translation>Rot</translation>
-    </message>
-    <message>
-        <source>绿</source>
-        <translation>Grün</translation>
-    </message>
-    <message>
-        <source>蓝</source>
+        <source>蓝色</source>
         <translation>Blau</translation>
     </message>
     <message>
-        <source>白</source>
-        <translation>Weiß</translation>
-    </message>
-    <message>
-        <source>黄</source>
-        <translation>Gelb</translation>
-    </message>
-    <message>
-        <source>青</source>
+        <source>青色</source>
         <translation>Cyan</translation>
     </message>
     <message>
-        <source>紫</source>
+        <source>绿色</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>横线</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>紫色</source>
         <translation>Magenta</translation>
     </message>
+    <message>
+        <source>红色</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Links /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Rechts \</translation>
+    </message>
+    <message>
+        <source>竖线</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>白色</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>黄色</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>网格设置</source>
+        <translation>Rastereinstellungen</translation>
+    </message>
+    <message>
+        <source>背景色</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>线条宽度</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
+        <source>线条间距</source>
+        <translation>Linienabstand</translation>
+    </message>
+    <message>
+        <source>混测设置</source>
+        <translation>Mischtest</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Alle wählen</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>混测设置：请至少选中一项！</source>
+        <translation>Mischtest: Bitte mindestens einen Punkt wählen!</translation>
+    </message>
+</context>
+<context>
+    <name>ScrGridCtrlDialog</name>
+    <message>
+        <source>显示屏测试工具-网格</source>
+        <translation>LED-Bildschirm-Testwerkzeug - Raster</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>网格叠加</source>
+        <translation>Überlagern</translation>
+    </message>
+    <message>
+        <source>混测</source>
+        <translation>Gemischt</translation>
+    </message>
+    <message>
+        <source>老化</source>
+        <translation>Alterung</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Betriebslampe</translation>
+    </message>
+    <message>
+        <source>横</source>
+        <translation>Horiz.</translation>
+    </message>
+    <message>
+        <source>竖</source>
+        <translation>Vert.</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Links /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Rechts \</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
     <message>
         <source>自动</source>
         <translation>Auto</translation>

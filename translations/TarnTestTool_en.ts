@@ -95,6 +95,32 @@
     </message>
 </context>
 <context>
+    <name>GradualChangeCtrlWidget</name>
+    <message>
+        <source>32级</source>
+        <translation>32 levels</translation>
+    </message>
+    <message>
+        <source>64级</source>
+        <translation>64 levels</translation>
+    </message>
+    <message>
+        <source>128级</source>
+        <translation>128 levels</translation>
+    </message>
+    <message>
+        <source>256级</source>
+        <translation>256 levels</translation>
+    </message>
+</context>
+<context>
+    <name>LampPair</name>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Run lamp</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>窗口</source>
@@ -130,35 +156,161 @@
     </message>
 </context>
 <context>
-    <name>ScrPurityCtrlDialog</name>
+    <name>MixSetting</name>
     <message>
-        <source>红</source>
-        <translation>Red</translation>
-    </message>
-    <message>
-        <source>绿</source>
-        <translation>Green</translation>
-    </message>
-    <message>
-        <source>蓝</source>
+        <source>蓝色</source>
         <translation>Blue</translation>
     </message>
     <message>
-        <source>白</source>
-        <translation>White</translation>
-    </message>
-    <message>
-        <source>黄</source>
-        <translation>Yellow</translation>
-    </message>
-    <message>
-        <source>青</source>
+        <source>青色</source>
         <translation>Cyan</translation>
     </message>
     <message>
-        <source>紫</source>
+        <source>绿色</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>横线</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>紫色</source>
         <translation>Purple</translation>
     </message>
+    <message>
+        <source>红色</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Left /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Right \</translation>
+    </message>
+    <message>
+        <source>竖线</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>白色</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>黄色</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Advanced</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>网格设置</source>
+        <translation>Grid settings</translation>
+    </message>
+    <message>
+        <source>背景色</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>线条宽度</source>
+        <translation>Line width</translation>
+    </message>
+    <message>
+        <source>线条间距</source>
+        <translation>Line spacing</translation>
+    </message>
+    <message>
+        <source>混测设置</source>
+        <translation>Merged test settings</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>混测设置：请至少选中一项！</source>
+        <translation>Merged test: select at least one item!</translation>
+    </message>
+</context>
+<context>
+    <name>ScrGridCtrlDialog</name>
+    <message>
+        <source>显示屏测试工具-网格</source>
+        <translation>LED Screen Test Tool - Grid</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Grey</translation>
+    </message>
+    <message>
+        <source>网格叠加</source>
+        <translation>Overlay</translation>
+    </message>
+    <message>
+        <source>混测</source>
+        <translation>Merged</translation>
+    </message>
+    <message>
+        <source>老化</source>
+        <translation>Aging</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Advanced</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Run lamp</translation>
+    </message>
+    <message>
+        <source>横</source>
+        <translation>Horiz.</translation>
+    </message>
+    <message>
+        <source>竖</source>
+        <translation>Vert.</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Left /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Right \</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
     <message>
         <source>自动</source>
         <translation>Auto</translation>

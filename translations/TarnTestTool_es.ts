@@ -95,6 +95,32 @@
     </message>
 </context>
 <context>
+    <name>GradualChangeCtrlWidget</name>
+    <message>
+        <source>32级</source>
+        <translation>32 niveles</translation>
+    </message>
+    <message>
+        <source>64级</source>
+        <translation>64 niveles</translation>
+    </message>
+    <message>
+        <source>128级</source>
+        <translation>128 niveles</translation>
+    </message>
+    <message>
+        <source>256级</source>
+        <translation>256 niveles</translation>
+    </message>
+</context>
+<context>
+    <name>LampPair</name>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Testigo de marcha</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>窗口</source>
@@ -130,35 +156,161 @@
     </message>
 </context>
 <context>
-    <name>ScrPurityCtrlDialog</name>
+    <name>MixSetting</name>
     <message>
-        <source>红</source>
-        <translation>Rojo</translation>
-    </message>
-    <message>
-        <source>绿</source>
-        <translation>Verde</translation>
-    </message>
-    <message>
-        <source>蓝</source>
+        <source>蓝色</source>
         <translation>Azul</translation>
     </message>
     <message>
-        <source>白</source>
-        <translation>Blanco</translation>
-    </message>
-    <message>
-        <source>黄</source>
-        <translation>Amarillo</translation>
-    </message>
-    <message>
-        <source>青</source>
+        <source>青色</source>
         <translation>Cian</translation>
     </message>
     <message>
-        <source>紫</source>
+        <source>绿色</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>横线</source>
+        <translation>Horizontales</translation>
+    </message>
+    <message>
+        <source>紫色</source>
         <translation>Magenta</translation>
     </message>
+    <message>
+        <source>红色</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Izq. /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Der. \</translation>
+    </message>
+    <message>
+        <source>竖线</source>
+        <translation>Verticales</translation>
+    </message>
+    <message>
+        <source>白色</source>
+        <translation>Blanco</translation>
+    </message>
+    <message>
+        <source>黄色</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Avanzado</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>网格设置</source>
+        <translation>Ajustes de la rejilla</translation>
+    </message>
+    <message>
+        <source>背景色</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>线条宽度</source>
+        <translation>Grosor de línea</translation>
+    </message>
+    <message>
+        <source>线条间距</source>
+        <translation>Separación de líneas</translation>
+    </message>
+    <message>
+        <source>混测设置</source>
+        <translation>Prueba combinada</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Vaciar</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>混测设置：请至少选中一项！</source>
+        <translation>Prueba combinada: ¡elija al menos un elemento!</translation>
+    </message>
+</context>
+<context>
+    <name>ScrGridCtrlDialog</name>
+    <message>
+        <source>显示屏测试工具-网格</source>
+        <translation>Herramienta de prueba de pantallas LED - Rejilla</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>网格叠加</source>
+        <translation>Superponer</translation>
+    </message>
+    <message>
+        <source>混测</source>
+        <translation>Combin.</translation>
+    </message>
+    <message>
+        <source>老化</source>
+        <translation>Envejec.</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Avanzado</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Testigo de marcha</translation>
+    </message>
+    <message>
+        <source>横</source>
+        <translation>Horiz.</translation>
+    </message>
+    <message>
+        <source>竖</source>
+        <translation>Vert.</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Izq. /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Der. \</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pausa</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
     <message>
         <source>自动</source>
         <translation>Auto</translation>

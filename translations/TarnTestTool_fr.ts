@@ -95,6 +95,32 @@
     </message>
 </context>
 <context>
+    <name>GradualChangeCtrlWidget</name>
+    <message>
+        <source>32级</source>
+        <translation>32 niveaux</translation>
+    </message>
+    <message>
+        <source>64级</source>
+        <translation>64 niveaux</translation>
+    </message>
+    <message>
+        <source>128级</source>
+        <translation>128 niveaux</translation>
+    </message>
+    <message>
+        <source>256级</source>
+        <translation>256 niveaux</translation>
+    </message>
+</context>
+<context>
+    <name>LampPair</name>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Voyant de marche</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>窗口</source>
@@ -130,35 +156,161 @@
     </message>
 </context>
 <context>
-    <name>ScrPurityCtrlDialog</name>
+    <name>MixSetting</name>
     <message>
-        <source>红</source>
-        <translation>Rouge</translation>
-    </message>
-    <message>
-        <source>绿</source>
-        <translation>Vert</translation>
-    </message>
-    <message>
-        <source>蓝</source>
+        <source>蓝色</source>
         <translation>Bleu</translation>
     </message>
     <message>
-        <source>白</source>
-        <translation>Blanc</translation>
-    </message>
-    <message>
-        <source>黄</source>
-        <translation>Jaune</translation>
-    </message>
-    <message>
-        <source>青</source>
+        <source>青色</source>
         <translation>Cyan</translation>
     </message>
     <message>
-        <source>紫</source>
+        <source>绿色</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>横线</source>
+        <translation>Horizontales</translation>
+    </message>
+    <message>
+        <source>紫色</source>
         <translation>Magenta</translation>
     </message>
+    <message>
+        <source>红色</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Gauche /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Droite \</translation>
+    </message>
+    <message>
+        <source>竖线</source>
+        <translation>Verticales</translation>
+    </message>
+    <message>
+        <source>白色</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>黄色</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Avancé</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>网格设置</source>
+        <translation>Réglages de la grille</translation>
+    </message>
+    <message>
+        <source>背景色</source>
+        <translation>Fond</translation>
+    </message>
+    <message>
+        <source>线条宽度</source>
+        <translation>Épaisseur des lignes</translation>
+    </message>
+    <message>
+        <source>线条间距</source>
+        <translation>Espacement des lignes</translation>
+    </message>
+    <message>
+        <source>混测设置</source>
+        <translation>Test combiné</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Tout cocher</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Avis</translation>
+    </message>
+    <message>
+        <source>混测设置：请至少选中一项！</source>
+        <translation>Test combiné : choisissez au moins un élément !</translation>
+    </message>
+</context>
+<context>
+    <name>ScrGridCtrlDialog</name>
+    <message>
+        <source>显示屏测试工具-网格</source>
+        <translation>Outil de test d&apos;écran LED - Grille</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>网格叠加</source>
+        <translation>Superposer</translation>
+    </message>
+    <message>
+        <source>混测</source>
+        <translation>Combiné</translation>
+    </message>
+    <message>
+        <source>老化</source>
+        <translation>Vieillis.</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Avancé</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Voyant de marche</translation>
+    </message>
+    <message>
+        <source>横</source>
+        <translation>Horiz.</translation>
+    </message>
+    <message>
+        <source>竖</source>
+        <translation>Vert.</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Gauche /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Droite \</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
     <message>
         <source>自动</source>
         <translation>Auto</translation>

@@ -95,6 +95,32 @@
     </message>
 </context>
 <context>
+    <name>GradualChangeCtrlWidget</name>
+    <message>
+        <source>32级</source>
+        <translation>32 ур.</translation>
+    </message>
+    <message>
+        <source>64级</source>
+        <translation>64 ур.</translation>
+    </message>
+    <message>
+        <source>128级</source>
+        <translation>128 ур.</translation>
+    </message>
+    <message>
+        <source>256级</source>
+        <translation>256 ур.</translation>
+    </message>
+</context>
+<context>
+    <name>LampPair</name>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Индикатор работы</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>窗口</source>
@@ -130,35 +156,161 @@
     </message>
 </context>
 <context>
-    <name>ScrPurityCtrlDialog</name>
+    <name>MixSetting</name>
     <message>
-        <source>红</source>
-        <translation>Красный</translation>
-    </message>
-    <message>
-        <source>绿</source>
-        <translation>Зелёный</translation>
-    </message>
-    <message>
-        <source>蓝</source>
+        <source>蓝色</source>
         <translation>Синий</translation>
     </message>
     <message>
-        <source>白</source>
-        <translation>Белый</translation>
-    </message>
-    <message>
-        <source>黄</source>
-        <translation>Жёлтый</translation>
-    </message>
-    <message>
-        <source>青</source>
+        <source>青色</source>
         <translation>Голубой</translation>
     </message>
     <message>
-        <source>紫</source>
+        <source>绿色</source>
+        <translation>Зелёный</translation>
+    </message>
+    <message>
+        <source>横线</source>
+        <translation>Горизонт.</translation>
+    </message>
+    <message>
+        <source>紫色</source>
         <translation>Пурпурный</translation>
     </message>
+    <message>
+        <source>红色</source>
+        <translation>Красный</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Влево /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Вправо \</translation>
+    </message>
+    <message>
+        <source>竖线</source>
+        <translation>Вертик.</translation>
+    </message>
+    <message>
+        <source>白色</source>
+        <translation>Белый</translation>
+    </message>
+    <message>
+        <source>黄色</source>
+        <translation>Жёлтый</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Ещё…</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>网格设置</source>
+        <translation>Настройки сетки</translation>
+    </message>
+    <message>
+        <source>背景色</source>
+        <translation>Фон</translation>
+    </message>
+    <message>
+        <source>线条宽度</source>
+        <translation>Толщина линий</translation>
+    </message>
+    <message>
+        <source>线条间距</source>
+        <translation>Шаг линий</translation>
+    </message>
+    <message>
+        <source>混测设置</source>
+        <translation>Смешанный тест</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Выбрать все</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Внимание</translation>
+    </message>
+    <message>
+        <source>混测设置：请至少选中一项！</source>
+        <translation>Смешанный тест: выберите хотя бы один пункт!</translation>
+    </message>
+</context>
+<context>
+    <name>ScrGridCtrlDialog</name>
+    <message>
+        <source>显示屏测试工具-网格</source>
+        <translation>Инструмент проверки LED-экранов - Сетка</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>Серый</translation>
+    </message>
+    <message>
+        <source>网格叠加</source>
+        <translation>Наложение</translation>
+    </message>
+    <message>
+        <source>混测</source>
+        <translation>Смешан.</translation>
+    </message>
+    <message>
+        <source>老化</source>
+        <translation>Прогон</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Ещё…</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Старт</translation>
+    </message>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Индикатор работы</translation>
+    </message>
+    <message>
+        <source>横</source>
+        <translation>Гориз.</translation>
+    </message>
+    <message>
+        <source>竖</source>
+        <translation>Верт.</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>Влево /</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>Вправо \</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Пауза</translation>
+    </message>
+</context>
+<context>
+    <name>ScrPurityCtrlDialog</name>
     <message>
         <source>自动</source>
         <translation>Авто</translation>

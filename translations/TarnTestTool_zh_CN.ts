@@ -95,6 +95,32 @@
     </message>
 </context>
 <context>
+    <name>GradualChangeCtrlWidget</name>
+    <message>
+        <source>32级</source>
+        <translation>32级</translation>
+    </message>
+    <message>
+        <source>64级</source>
+        <translation>64级</translation>
+    </message>
+    <message>
+        <source>128级</source>
+        <translation>128级</translation>
+    </message>
+    <message>
+        <source>256级</source>
+        <translation>256级</translation>
+    </message>
+</context>
+<context>
+    <name>LampPair</name>
+    <message>
+        <source>运行指示灯</source>
+        <translation>运行指示灯</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>窗口</source>
@@ -130,35 +156,161 @@
     </message>
 </context>
 <context>
+    <name>MixSetting</name>
+    <message>
+        <source>蓝色</source>
+        <translation>蓝色</translation>
+    </message>
+    <message>
+        <source>青色</source>
+        <translation>青色</translation>
+    </message>
+    <message>
+        <source>绿色</source>
+        <translation>绿色</translation>
+    </message>
+    <message>
+        <source>横线</source>
+        <translation>横线</translation>
+    </message>
+    <message>
+        <source>紫色</source>
+        <translation>紫色</translation>
+    </message>
+    <message>
+        <source>红色</source>
+        <translation>红色</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>左斜</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>右斜</translation>
+    </message>
+    <message>
+        <source>竖线</source>
+        <translation>竖线</translation>
+    </message>
+    <message>
+        <source>白色</source>
+        <translation>白色</translation>
+    </message>
+    <message>
+        <source>黄色</source>
+        <translation>黄色</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>高级设置</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>网格设置</source>
+        <translation>网格设置</translation>
+    </message>
+    <message>
+        <source>背景色</source>
+        <translation>背景色</translation>
+    </message>
+    <message>
+        <source>线条宽度</source>
+        <translation>线条宽度</translation>
+    </message>
+    <message>
+        <source>线条间距</source>
+        <translation>线条间距</translation>
+    </message>
+    <message>
+        <source>混测设置</source>
+        <translation>混测设置</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>混测设置：请至少选中一项！</source>
+        <translation>混测设置：请至少选中一项！</translation>
+    </message>
+</context>
+<context>
+    <name>ScrGridCtrlDialog</name>
+    <message>
+        <source>显示屏测试工具-网格</source>
+        <translation>显示屏测试工具-网格</translation>
+    </message>
+    <message>
+        <source>速度</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>灰度</source>
+        <translation>灰度</translation>
+    </message>
+    <message>
+        <source>网格叠加</source>
+        <translation>网格叠加</translation>
+    </message>
+    <message>
+        <source>混测</source>
+        <translation>混测</translation>
+    </message>
+    <message>
+        <source>老化</source>
+        <translation>老化</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>高级设置</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>运行指示灯</source>
+        <translation>运行指示灯</translation>
+    </message>
+    <message>
+        <source>横</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>竖</source>
+        <translation>竖</translation>
+    </message>
+    <message>
+        <source>左斜</source>
+        <translation>左斜</translation>
+    </message>
+    <message>
+        <source>右斜</source>
+        <translation>右斜</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>暂停</translation>
+    </message>
+</context>
+<context>
     <name>ScrPurityCtrlDialog</name>
-    <message>
-        <source>红</source>
-        <translation>红</translation>
-    </message>
-    <message>
-        <source>绿</source>
-        <translation>绿</translation>
-    </message>
-    <message>
-        <source>蓝</source>
-        <translation>蓝</translation>
-    </message>
-    <message>
-        <source>白</source>
-        <translation>白</translation>
-    </message>
-    <message>
-        <source>黄</source>
-        <translation>黄</translation>
-    </message>
-    <message>
-        <source>青</source>
-        <translation>青</translation>
-    </message>
-    <message>
-        <source>紫</source>
-        <translation>紫</translation>
-    </message>
     <message>
         <source>自动</source>
         <translation>自动</translation>

@@ -1,6 +1,7 @@
 #include "commonhelper.h"
 #include "drawcontainer.h"
-#include "mainwindow.h"
+#include "drawerbase.h"
+#include "mainwindowrig.h"
 #include "scrpurityctrldialog.h"
 
 #include <QApplication>
@@ -18,30 +19,9 @@
 #include <QTimer>
 #include <QTranslator>
 
-#include <memory>
 #include <utility>
 
 namespace {
-
-QString settingsPath()
-{
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini");
-}
-
-DrawContainer *testWindow()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (auto *found = qobject_cast<DrawContainer *>(window))
-            return found;
-    }
-    return nullptr;
-}
-
-QRgb shownPixel()
-{
-    return testWindow()->grab().toImage().pixel(testWindow()->rect().center());
-}
 
 // A translation of every text to itself with a mark in front.
 class MarkingTranslator : public QTranslator
@@ -52,6 +32,19 @@ public:
                       int /*n*/) const override
     {
         return QLatin1Char('!') + QString::fromUtf8(source);
+    }
+};
+
+// Paints black.
+class BlackDrawer : public DrawerBase
+{
+public:
+    using DrawerBase::DrawerBase;
+
+    void draw(bool paint) override
+    {
+        if (paint)
+            QPainter(targetWidget).fillRect(targetWidget->rect(), Qt::black);
     }
 };
 
@@ -85,7 +78,6 @@ class TestMainWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
     void cleanup();
 
     void freshSettings_showTab0AndSendGrey255AndRed();
@@ -94,14 +86,6 @@ private slots:
     void savedTab3_isShownAndCountsAs0();
     void savedTab_comesBack_data();
     void savedTab_comesBack();
-    void pageDownFromOtherTabs_jumpsToTab1_data();
-    void pageDownFromOtherTabs_jumpsToTab1();
-    void pageUpFromOtherTabs_jumpsToTab3_data();
-    void pageUpFromOtherTabs_jumpsToTab3();
-    void pageDown_walksThePurityColours();
-    void pageDownPastWhite_comesRoundToRed();
-    void pageUpFromRed_comesRoundToWhite();
-    void pageKeys_stopTheAutomaticRun();
     void selectingTab0Or5Or6_keepsTheStoredTab();
     void selectingTheTab_doesNotChangeThePicture();
     void arrowKeys_belongToTheCurrentTab();
@@ -115,36 +99,24 @@ private slots:
     void restoring_writesNothing();
 
 private:
-    void start(const QVariantMap &values = {});
+    void start(const QVariantMap &values = {}) { m_window = &m_rig.start(values); }
     int storedTab();
-    QTabWidget *tabs() { return m_window->findChild<QTabWidget *>(QStringLiteral("tabWidget")); }
+    QTabWidget *tabs() { return m_rig.tabs(); }
     ScrPurityCtrlDialog *purity() { return m_window->findChild<ScrPurityCtrlDialog *>(); }
     QImage overlay();
     QImage overlayOf(const QString &text, const QColor &background = Qt::black);
 
-    std::unique_ptr<MainWindow> m_window;
-};
+    static DrawContainer *testWindow() { return MainWindowRig::testWindow(); }
+    static QRgb shownPixel() { return MainWindowRig::shownPixel(); }
+    static QString settingsPath() { return MainWindowRig::settingsPath(); }
 
-void TestMainWindow::init()
-{
-    QFile::remove(settingsPath());
-}
+    MainWindowRig m_rig;
+    MainWindow *m_window = nullptr;
+};
 
 void TestMainWindow::cleanup()
 {
-    m_window.reset();
-}
-
-void TestMainWindow::start(const QVariantMap &values)
-{
-    {
-        QSettings settings(settingsPath(), QSettings::IniFormat);
-        settings.setIniCodec("UTF-8");
-        for (auto value = values.cbegin(); value != values.cend(); ++value)
-            settings.setValue(QStringLiteral("/setting/") + value.key(), value.value());
-    }
-    m_window = std::make_unique<MainWindow>();
-    m_window->show();
+    m_rig.end();
 }
 
 int TestMainWindow::storedTab()
@@ -223,84 +195,6 @@ void TestMainWindow::savedTab_comesBack()
     QTEST(tabs()->currentIndex(), "shown");
 }
 
-void TestMainWindow::pageDownFromOtherTabs_jumpsToTab1_data()
-{
-    QTest::addColumn<int>("tab");
-    for (const int tab : {0, 4, 5, 6})
-        QTest::addRow("tab %d", tab) << tab;
-}
-
-void TestMainWindow::pageDownFromOtherTabs_jumpsToTab1()
-{
-    QFETCH(int, tab);
-    start();
-    tabs()->setCurrentIndex(tab);
-    m_window->slot_SwitchDownTabControl();
-    QCOMPARE(tabs()->currentIndex(), 1);
-    QCOMPARE(shownPixel(), qRgb(0, 255, 0));
-}
-
-void TestMainWindow::pageUpFromOtherTabs_jumpsToTab3_data()
-{
-    pageDownFromOtherTabs_jumpsToTab1_data();
-}
-
-void TestMainWindow::pageUpFromOtherTabs_jumpsToTab3()
-{
-    QFETCH(int, tab);
-    start();
-    tabs()->setCurrentIndex(tab);
-    m_window->slot_SwitchUpTabControl();
-    QCOMPARE(tabs()->currentIndex(), 3);
-}
-
-void TestMainWindow::pageDown_walksThePurityColours()
-{
-    start();
-    for (const QColor &color : {QColor(Qt::green), QColor(Qt::blue), QColor(Qt::white)}) {
-        m_window->slot_SwitchDownTabControl();
-        QCOMPARE(tabs()->currentIndex(), 1);
-        QCOMPARE(shownPixel(), color.rgb());
-    }
-}
-
-void TestMainWindow::pageDownPastWhite_comesRoundToRed()
-{
-    start();
-    for (int step = 0; step < 3; ++step)
-        m_window->slot_SwitchDownTabControl();
-    QCOMPARE(purity()->colorIndex, 3);
-    for (int step = 0; step < 20 && purity()->colorIndex != 0; ++step)
-        m_window->slot_SwitchDownTabControl();
-    QCOMPARE(tabs()->currentIndex(), 1);
-    QCOMPARE(shownPixel(), qRgb(255, 0, 0));
-}
-
-void TestMainWindow::pageUpFromRed_comesRoundToWhite()
-{
-    start({{QStringLiteral("currentTabIndex"), 1}});
-    m_window->slot_SwitchUpTabControl();
-    QCOMPARE(tabs()->currentIndex(), 3);
-    for (int step = 0; step < 20 && tabs()->currentIndex() != 1; ++step)
-        m_window->slot_SwitchUpTabControl();
-    QCOMPARE(purity()->colorIndex, 3);
-    QCOMPARE(shownPixel(), qRgb(255, 255, 255));
-    m_window->slot_SwitchUpTabControl();
-    QCOMPARE(shownPixel(), qRgb(0, 0, 255));
-}
-
-void TestMainWindow::pageKeys_stopTheAutomaticRun()
-{
-    QSignalSpy stopped((start(), m_window.get()), &MainWindow::signal_stopGreyChanged);
-    m_window->slot_SwitchDownTabControl();
-    QCOMPARE(stopped.count(), 1);
-    purity()->slot_keyInsertPressed();
-    QVERIFY(purity()->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly));
-    m_window->slot_SwitchUpTabControl();
-    QCOMPARE(stopped.count(), 2);
-    QTRY_VERIFY(!purity()->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly));
-}
-
 void TestMainWindow::selectingTab0Or5Or6_keepsTheStoredTab()
 {
     start();
@@ -354,27 +248,30 @@ void TestMainWindow::feed_followsTheCurrentTab()
     start();
     testWindow()->slot_keyEndPressed();
     QCursor::setPos(testWindow()->mapToGlobal(QPoint(-50, -50)));
-    const auto shown = [] {
+    BlackDrawer black(testWindow());
+    const auto text = [&black] {
+        testWindow()->setDrawer(&black, true);
         return testWindow()->grab().toImage().convertToFormat(QImage::Format_RGB32);
     };
     tabs()->setCurrentIndex(1);
     purity()->slot_changeSelectedPurityColor(Qt::green);
-    QCOMPARE(shown(), overlayOf(QStringLiteral("绿:255"), Qt::green));
+    QCOMPARE(text(), overlayOf(QStringLiteral("绿:255")));
     tabs()->setCurrentIndex(2);
     purity()->slot_changeSelectedPurityColor(Qt::blue);
-    QCOMPARE(shown(), overlayOf(QStringLiteral("绿:255"), Qt::blue));
+    QCOMPARE(text(), overlayOf(QStringLiteral("绿:255")));
     tabs()->setCurrentIndex(0); // leaves the feed as it is
     purity()->slot_changeSelectedPurityColor(Qt::red);
-    QCOMPARE(shown(), overlayOf(QStringLiteral("绿:255"), Qt::red));
+    QCOMPARE(text(), overlayOf(QStringLiteral("绿:255")));
     tabs()->setCurrentIndex(1);
     purity()->slot_changeSelectedPurityColor(Qt::magenta);
-    QCOMPARE(shown(), overlayOf(QStringLiteral("紫:255"), Qt::magenta));
+    QCOMPARE(text(), overlayOf(QStringLiteral("紫:255")));
+    testWindow()->setDrawer(purity()->getDrawer(), false);
 }
 
 void TestMainWindow::everyTabButTheCabinet_forbidsItsControls()
 {
     start();
-    QSignalSpy forbidden(m_window.get(), &MainWindow::signal_forbidTarnToolCtrls);
+    QSignalSpy forbidden(m_window, &MainWindow::signal_forbidTarnToolCtrls);
     tabs()->setCurrentIndex(4);
     QCOMPARE(forbidden.count(), 0);
     int expected = 0;
@@ -410,7 +307,7 @@ void TestMainWindow::doubleClick_doesNothing()
 {
     start();
     const QRect before = m_window->geometry();
-    QTest::mouseDClick(m_window.get(), Qt::LeftButton);
+    QTest::mouseDClick(m_window, Qt::LeftButton);
     QTest::mouseDClick(tabs()->widget(0), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
     QCOMPARE(m_window->geometry(), before);
     QVERIFY(!m_window->isMaximized());

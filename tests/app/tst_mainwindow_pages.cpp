@@ -1,0 +1,226 @@
+#include "gradualchangectrlwidget.h"
+#include "griddrawer.h"
+#include "mainwindowrig.h"
+#include "scrgridctrldialog.h"
+#include "scrpurityctrldialog.h"
+
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+
+// Where the page keys stand: the tab, the colour and, in the grid, the line family.
+struct Stop
+{
+    int tab;
+    int color;
+    int lines; // -1 outside the grid
+
+    bool operator==(const Stop &other) const
+    {
+        return tab == other.tab && color == other.color && lines == other.lines;
+    }
+};
+
+char *toString(const Stop &stop)
+{
+    return qstrdup(qPrintable(
+        QStringLiteral("tab %1 colour %2 lines %3").arg(stop.tab).arg(stop.color).arg(stop.lines)));
+}
+
+class TestMainWindowPages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { m_rig.end(); }
+
+    void pageDown_walksTheWholeSequence();
+    void pageUp_walksTheSameWayBack();
+    void pageDownAtTheLastGridStep_wrapsToPurityIndex0();
+    void pageUpAtPurityIndex0_wrapsToTheLastGridStep();
+    void pageDownFromOtherTabs_jumpsToTab1_data();
+    void pageDownFromOtherTabs_jumpsToTab1();
+    void pageUpFromOtherTabs_jumpsToTab3_data();
+    void pageUpFromOtherTabs_jumpsToTab3();
+    void pageUpIntoTheGrid_stepsBackFromWhereItStood();
+    void pageKeys_showGradientsOf256Levels();
+    void pageKeys_stopTheAutomaticRun();
+    void everyStop_showsItsOwnDrawer();
+
+private:
+    static QVector<Stop> sequence();
+    Stop stop();
+    QVector<Stop> walk(int steps, void (MainWindow::*key)());
+
+    MainWindowRig m_rig;
+};
+
+// From the first purity colour to the last step of the grid.
+QVector<Stop> TestMainWindowPages::sequence()
+{
+    QVector<Stop> stops;
+    for (int color = 0; color < 4; ++color)
+        stops.append({1, color, -1});
+    for (int color = 0; color < 4; ++color)
+        stops.append({2, color, -1});
+    for (int color = 0; color < 4; ++color) {
+        for (int lines = 0; lines < 4; ++lines)
+            stops.append({3, color, lines});
+    }
+    return stops;
+}
+
+Stop TestMainWindowPages::stop()
+{
+    const int tab = m_rig.tabs()->currentIndex();
+    const auto *grid = m_rig.find<ScrGridCtrlDialog>();
+    if (tab == 1)
+        return {tab, m_rig.find<ScrPurityCtrlDialog>()->colorIndex, -1};
+    if (tab == 2)
+        return {tab, m_rig.find<GradualChangeCtrlWidget>()->m_colorIndex, -1};
+    return {tab, grid->colorIndex, grid->lineIndex};
+}
+
+QVector<Stop> TestMainWindowPages::walk(int steps, void (MainWindow::*key)())
+{
+    QVector<Stop> stops;
+    for (int step = 0; step < steps; ++step) {
+        (m_rig.window().*key)();
+        stops.append(stop());
+    }
+    return stops;
+}
+
+void TestMainWindowPages::pageDown_walksTheWholeSequence()
+{
+    m_rig.start();
+    QVector<Stop> expected = sequence();
+    expected.append(expected.takeFirst()); // red is the start
+    const QVector<Stop> walked = walk(24, &MainWindow::slot_SwitchDownTabControl);
+    for (int step = 0; step < 24; ++step)
+        QCOMPARE(walked.at(step), expected.at(step));
+}
+
+void TestMainWindowPages::pageUp_walksTheSameWayBack()
+{
+    m_rig.start({{QStringLiteral("currentTabIndex"), 1}});
+    QVector<Stop> expected = sequence();
+    std::reverse(expected.begin(), expected.end());
+    const QVector<Stop> walked = walk(24, &MainWindow::slot_SwitchUpTabControl);
+    for (int step = 0; step < 24; ++step)
+        QCOMPARE(walked.at(step), expected.at(step));
+}
+
+void TestMainWindowPages::pageDownAtTheLastGridStep_wrapsToPurityIndex0()
+{
+    m_rig.start();
+    walk(23, &MainWindow::slot_SwitchDownTabControl);
+    QCOMPARE(stop(), (Stop{3, 3, 3}));
+    m_rig.window().slot_SwitchDownTabControl();
+    QCOMPARE(stop(), (Stop{1, 0, -1}));
+    QCOMPARE(MainWindowRig::shownPixel(), qRgb(255, 0, 0));
+}
+
+void TestMainWindowPages::pageUpAtPurityIndex0_wrapsToTheLastGridStep()
+{
+    m_rig.start({{QStringLiteral("currentTabIndex"), 1}});
+    QCOMPARE(stop(), (Stop{1, 0, -1}));
+    m_rig.window().slot_SwitchUpTabControl();
+    QCOMPARE(stop(), (Stop{3, 3, 3}));
+}
+
+void TestMainWindowPages::pageDownFromOtherTabs_jumpsToTab1_data()
+{
+    QTest::addColumn<int>("tab");
+    for (const int tab : {0, 4, 5, 6})
+        QTest::addRow("tab %d", tab) << tab;
+}
+
+void TestMainWindowPages::pageDownFromOtherTabs_jumpsToTab1()
+{
+    QFETCH(int, tab);
+    m_rig.start();
+    m_rig.tabs()->setCurrentIndex(tab);
+    m_rig.window().slot_SwitchDownTabControl();
+    QCOMPARE(stop(), (Stop{1, 1, -1}));
+    QCOMPARE(MainWindowRig::shownPixel(), qRgb(0, 255, 0));
+}
+
+void TestMainWindowPages::pageUpFromOtherTabs_jumpsToTab3_data()
+{
+    pageDownFromOtherTabs_jumpsToTab1_data();
+}
+
+// From its first step the grid is left again by the same key press.
+void TestMainWindowPages::pageUpFromOtherTabs_jumpsToTab3()
+{
+    QFETCH(int, tab);
+    m_rig.start();
+    m_rig.tabs()->setCurrentIndex(tab);
+    QSignalSpy changed(m_rig.tabs(), &QTabWidget::currentChanged);
+    m_rig.window().slot_SwitchUpTabControl();
+    QVERIFY(!changed.isEmpty());
+    QCOMPARE(changed.constFirst().constFirst().toInt(), 3);
+    QCOMPARE(stop(), (Stop{2, 3, -1}));
+}
+
+void TestMainWindowPages::pageUpIntoTheGrid_stepsBackFromWhereItStood()
+{
+    m_rig.start();
+    walk(12, &MainWindow::slot_SwitchDownTabControl); // green horizontal lines
+    QCOMPARE(stop(), (Stop{3, 1, 0}));
+    m_rig.tabs()->setCurrentIndex(0);
+    m_rig.window().slot_SwitchUpTabControl();
+    QCOMPARE(stop(), (Stop{3, 0, 3}));
+}
+
+void TestMainWindowPages::pageKeys_showGradientsOf256Levels()
+{
+    m_rig.start({{QStringLiteral("gradualChangeColorLevel"), 32}});
+    auto *gradient = m_rig.find<GradualChangeCtrlWidget>();
+    QCOMPARE(int(gradient->m_level), 32);
+    walk(4, &MainWindow::slot_SwitchDownTabControl);
+    QCOMPARE(stop(), (Stop{2, 0, -1}));
+    QCOMPARE(int(gradient->m_level), 256);
+}
+
+void TestMainWindowPages::pageKeys_stopTheAutomaticRun()
+{
+    MainWindow &window = m_rig.start();
+    auto *purity = m_rig.find<ScrPurityCtrlDialog>();
+    const auto isRunning = [purity] {
+        return purity->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
+    };
+    QSignalSpy stopped(&window, &MainWindow::signal_stopGreyChanged);
+    window.slot_SwitchDownTabControl();
+    QCOMPARE(stopped.count(), 1);
+    purity->slot_keyInsertPressed();
+    QVERIFY(isRunning());
+    window.slot_SwitchUpTabControl();
+    QCOMPARE(stopped.count(), 2);
+    QTRY_VERIFY(!isRunning());
+}
+
+void TestMainWindowPages::everyStop_showsItsOwnDrawer()
+{
+    MainWindow &window = m_rig.start();
+    for (int step = 0; step < 24; ++step) {
+        window.slot_SwitchDownTabControl();
+        const DrawerBase *selected = MainWindowRig::testWindow()->selectedDrawer();
+        QTRY_VERIFY(selected->active); // the grid with its next tick
+        switch (m_rig.tabs()->currentIndex()) {
+        case 1:
+            QCOMPARE(selected, m_rig.find<ScrPurityCtrlDialog>()->getDrawer());
+            break;
+        case 2:
+            QCOMPARE(selected, m_rig.find<GradualChangeCtrlWidget>()->getDrawer());
+            break;
+        default:
+            QVERIFY(dynamic_cast<const GridDrawer *>(selected));
+        }
+    }
+}
+
+QTEST_MAIN(TestMainWindowPages)
+#include "tst_mainwindow_pages.moc"
