@@ -1,7 +1,8 @@
 #include "endtoendtest.h"
-#include "waiting.h"
 
 #include <QTest>
+
+#include <memory>
 
 /// One pixel of a pattern is one pixel of the screen, however the desktop is
 /// set to scale.
@@ -9,10 +10,20 @@ class tst_e2e_scaling : public EndToEndTest
 {
     Q_OBJECT
 
+protected:
+    std::unique_ptr<VirtualDesktop> createDesktop() const override;
+
 private slots:
     void windowOf256_covers256ScreenPixels_data();
     void windowOf256_covers256ScreenPixels();
 };
+
+// So dense a screen makes Qt choose a scale of two where it is allowed to.
+std::unique_ptr<VirtualDesktop> tst_e2e_scaling::createDesktop() const
+{
+    return std::make_unique<VirtualDesktop>(
+        std::make_unique<XvfbServer>(VirtualDesktop::DefaultSize, 192));
+}
 
 void tst_e2e_scaling::windowOf256_covers256ScreenPixels_data()
 {

@@ -10,7 +10,7 @@ class tst_e2e_typing : public EndToEndTest
 
 private slots:
     void typedDigit_arrivesOnce();
-    void typedLetter_doesNotArrive();
+    void otherKeys_doNotArrive();
 
 private:
     bool openPurityTab();
@@ -87,14 +87,20 @@ void tst_e2e_typing::typedDigit_arrivesOnce()
     QCOMPARE(tool().configValue(QStringLiteral("/setting/testPurityGreyLevel")).toInt(), 78);
 }
 
-void tst_e2e_typing::typedLetter_doesNotArrive()
+void tst_e2e_typing::otherKeys_doNotArrive()
 {
     QVERIFY(openPurityTab());
     QVERIFY(clickIntoSpinBox());
     clearSpinBox();
 
-    for (const char *key : {"4", "minus", "a", "space", "period", "2"})
-        desktop().keyboard().key(key);
+    desktop().keyboard().key("4");
+    // Selecting all would let the next digit replace the first, and Tab would
+    // take the keyboard elsewhere.
+    desktop().keyboard().key("a");
+    desktop().keyboard().key("space");
+    desktop().keyboard().key("a", Qt::ControlModifier);
+    desktop().keyboard().key("Tab");
+    desktop().keyboard().key("2");
     QVERIFY(testWindowTurns(qRgb(0, 42, 0)));
     QVERIFY2(tool().quit(), qPrintable(tool().problem()));
     QCOMPARE(tool().configValue(QStringLiteral("/setting/testPurityGreyLevel")).toInt(), 42);

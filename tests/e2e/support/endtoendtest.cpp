@@ -18,6 +18,9 @@ std::unique_ptr<VirtualDesktop> EndToEndTest::createDesktop() const
 
 void EndToEndTest::initTestCase()
 {
+    const QString reason = reasonToSkip();
+    if (!reason.isEmpty())
+        QSKIP(qPrintable(reason));
     m_desktop = createDesktop();
     QVERIFY2(m_desktop->start(), qPrintable(m_desktop->problem()));
 }
@@ -74,6 +77,14 @@ bool EndToEndTest::testWindowTurns(QRgb colour)
     const QRgb there = m_desktop->screen().pixel(window.geometry.center());
     qWarning("The test window, %smapped, shows #%06x at its centre and not #%06x",
              window.isMapped ? "" : "not ", there & RGB_MASK, colour & RGB_MASK);
+    return false;
+}
+
+bool EndToEndTest::testWindowCovers(const QRect &area)
+{
+    if (waitFor([&] { return tool().testWindow().geometry == area; }))
+        return true;
+    qWarning() << "The test window covers" << tool().testWindow().geometry << "and not" << area;
     return false;
 }
 

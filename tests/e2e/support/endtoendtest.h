@@ -22,6 +22,8 @@ protected:
 
     /// The desktop that the test runs on; a single screen if not overridden.
     virtual std::unique_ptr<VirtualDesktop> createDesktop() const;
+    /// Why the whole test has to be skipped on this machine; empty if it has not.
+    virtual QString reasonToSkip() const { return {}; }
 
     /// Starts tool(), moves the control window clear of the test window's
     /// default place and gives it the keyboard. False, with the reason logged,
@@ -33,6 +35,9 @@ protected:
     /// The same, once it has come to be so within the usual deadline; logs what
     /// is there instead if not.
     bool testWindowTurns(QRgb colour);
+    /// Whether the test window covers exactly this area once the usual deadline
+    /// has passed; logs where it is instead if not.
+    bool testWindowCovers(const QRect &area);
 
 private slots:
     void initTestCase();

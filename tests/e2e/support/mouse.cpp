@@ -80,11 +80,24 @@ void Mouse::drag(const QPoint &from, const QPoint &to)
 {
     move(from);
     press();
+    glide(from, to);
+    release();
+}
+
+void Mouse::doubleClickAndDrag(const QPoint &from, const QPoint &to)
+{
+    click(from);
+    press();
+    glide(from, to);
+    release();
+}
+
+void Mouse::glide(const QPoint &from, const QPoint &to)
+{
     const QPoint way = to - from;
     const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
     for (int step = 1; step <= steps; ++step)
         move(from + QPoint(way.x() * step / steps, way.y() * step / steps));
-    release();
 }
 
 QPoint Mouse::position() const

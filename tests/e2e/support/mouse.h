@@ -19,20 +19,23 @@ public:
     Mouse(XConnection &connection, WindowTree &windows);
 
     void move(const QPoint &position);
-    void press(Qt::MouseButton button = Qt::LeftButton);
-    void release(Qt::MouseButton button = Qt::LeftButton);
-    void click(const QPoint &position, Qt::MouseButton button = Qt::LeftButton);
-    void doubleClick(const QPoint &position, Qt::MouseButton button = Qt::LeftButton);
+    void press(Qt::MouseButton pressed = Qt::LeftButton);
+    void release(Qt::MouseButton released = Qt::LeftButton);
+    void click(const QPoint &position, Qt::MouseButton clicked = Qt::LeftButton);
+    void doubleClick(const QPoint &position, Qt::MouseButton clicked = Qt::LeftButton);
     /// Presses the left button at \a from, moves to \a to pixel by pixel along
     /// the straight line, and releases it there.
     void drag(const QPoint &from, const QPoint &to);
+    /// The same with a double click at \a from, whose second press is held.
+    void doubleClickAndDrag(const QPoint &from, const QPoint &to);
 
     QPoint position() const;
     /// Whether the pointer has the shape for writing text.
     bool isTextCursor() const;
 
 private:
-    void button(Qt::MouseButton button, bool press);
+    void button(Qt::MouseButton which, bool press);
+    void glide(const QPoint &from, const QPoint &to);
 
     XConnection &m_connection;
     WindowTree &m_windows;

@@ -158,7 +158,8 @@ SessionManager::SessionManager()
     if (!m_session->open())
         m_session->listenerCount = 0;
     // The program talks to its session while the test waits for its windows.
-    QObject::connect(&m_session->clock, &QTimer::timeout, [this] { m_session->pump(); });
+    QObject::connect(&m_session->clock, &QTimer::timeout, &m_session->clock,
+                     [this] { m_session->pump(); });
     m_session->clock.start(pumpIntervalMs);
 }
 
@@ -173,7 +174,7 @@ QByteArray SessionManager::address() const
     if (m_session->listenerCount == 0)
         return {};
     char *networkIds = IceComposeNetworkIdList(m_session->listenerCount, m_session->listeners);
-    const QByteArray address(networkIds);
+    QByteArray address(networkIds);
     std::free(networkIds);
     return address;
 }

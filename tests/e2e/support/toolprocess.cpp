@@ -168,6 +168,12 @@ bool ToolProcess::endBySignal(int signal)
     return waitForCleanExit();
 }
 
+void ToolProcess::kill()
+{
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
 bool ToolProcess::waitForCleanExit()
 {
     if (!waitFor([this] { return !isRunning(); }, ExitDeadline))

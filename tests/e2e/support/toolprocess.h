@@ -44,8 +44,11 @@ public:
     /// Sends a signal such as SIGTERM; true if the program then ends with exit
     /// code 0.
     bool endBySignal(int signal);
+    /// Ends the program between one instruction and the next, as SIGKILL does.
+    void kill();
     /// Waits until the program has ended by itself; true if with exit code 0.
     bool waitForCleanExit();
+    qint64 processId() const { return m_process.processId(); }
     bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
     /// What went wrong in the last operation, with the program's error output.
     QString problem() const;

@@ -41,6 +41,8 @@ QStringList XvfbServer::arguments() const
             QStringLiteral("-screen"),
             QStringLiteral("0"),
             screen,
+            QStringLiteral("-dpi"),
+            QString::number(m_dotsPerInch),
             QStringLiteral("-nolisten"),
             QStringLiteral("tcp"),
             QStringLiteral("-noreset")};

@@ -40,8 +40,10 @@ private:
 class XvfbServer : public XServer
 {
 public:
-    explicit XvfbServer(const QSize &size)
+    /// \a dotsPerInch is how dense the screen claims to be.
+    explicit XvfbServer(const QSize &size, int dotsPerInch = 96)
         : m_size(size)
+        , m_dotsPerInch(dotsPerInch)
     { }
 
 protected:
@@ -50,4 +52,5 @@ protected:
 
 private:
     QSize m_size;
+    int m_dotsPerInch;
 };

@@ -1,0 +1,99 @@
+#include "dummyserver.h"
+
+#include <QFile>
+#include <QProcess>
+
+namespace {
+
+// No device of this machine is touched, and the pool of video memory has room for all outputs.
+constexpr char configuration[] = R"(
+Section "ServerFlags"
+  Option "AutoAddDevices" "false"
+  Option "AutoEnableDevices" "false"
+EndSection
+Section "Monitor"
+  Identifier "Monitor0"
+  HorizSync 1.0-1000.0
+  VertRefresh 1.0-1000.0
+  Modeline "1920x1080" 172.80 1920 2040 2248 2576 1080 1081 1084 1118
+EndSection
+Section "Device"
+  Identifier "Device0"
+  Driver "dummy"
+  VideoRam 512000
+EndSection
+Section "Screen"
+  Identifier "Screen0"
+  Device "Device0"
+  Monitor "Monitor0"
+  DefaultDepth 24
+  SubSection "Display"
+    Depth 24
+    Modes "1920x1080"
+    Virtual 8192 4320
+  EndSubSection
+EndSection
+)";
+
+QString modeName()
+{
+    return QStringLiteral("1920x1080");
+}
+
+} // namespace
+
+DummyServer::DummyServer()
+{
+    QFile file(m_directory.filePath(QStringLiteral("xorg.conf")));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(configuration);
+}
+
+QString DummyServer::program() const
+{
+    return QStringLiteral("Xorg");
+}
+
+QStringList DummyServer::arguments() const
+{
+    return {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-config"),
+            m_directory.filePath(QStringLiteral("xorg.conf")), QStringLiteral("-logfile"),
+            m_directory.filePath(QStringLiteral("log")), QStringLiteral("-nolisten"),
+            QStringLiteral("tcp"), QStringLiteral("-noreset"),
+            // A machine with a console keeps showing what it shows.
+            QStringLiteral("-novtswitch"), QStringLiteral("-sharevts")};
+}
+
+bool DummyServer::plugIn(const QString &output, const QString &relation, const QString &other)
+{
+    return xrandr({QStringLiteral("--addmode"), output, modeName()})
+           && xrandr({QStringLiteral("--output"), output, QStringLiteral("--mode"), modeName(),
+                      relation, other})
+           && detectOutputs();
+}
+
+bool DummyServer::unplug(const QString &output)
+{
+    return xrandr({QStringLiteral("--output"), output, QStringLiteral("--off")}) && detectOutputs();
+}
+
+// An output that is on counts as connected, but the server looks only when it is asked to.
+bool DummyServer::detectOutputs()
+{
+    return xrandr({QStringLiteral("--query")});
+}
+
+bool DummyServer::xrandr(const QStringList &arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QStringLiteral("xrandr"),
+                  QStringList{QStringLiteral("-display"), displayName()} + arguments);
+    const bool isEnded = process.waitForFinished();
+    if (isEnded && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+        return true;
+    m_outputProblem = QStringLiteral("xrandr %1: %2 %3")
+                          .arg(arguments.join(QLatin1Char(' ')), process.errorString(),
+                               QString::fromLocal8Bit(process.readAll()));
+    return false;
+}

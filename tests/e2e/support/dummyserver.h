@@ -1,0 +1,34 @@
+#pragma once
+
+#include "xserver.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// An X server with several outputs of 1920 x 1080 pixels that come and go while
+/// programs run. It starts with "DUMMY0" alone, which is the primary one.
+class DummyServer : public XServer
+{
+public:
+    static constexpr QSize OutputSize = QSize(1920, 1080);
+
+    DummyServer();
+
+    /// Switches an output on, at a place given as xrandr has it ("--right-of")
+    /// relative to another one. False, with outputProblem() set, if that fails.
+    bool plugIn(const QString &output, const QString &relation, const QString &other);
+    /// Switches an output off. False, with outputProblem() set, if that fails.
+    bool unplug(const QString &output);
+    QString outputProblem() const { return m_outputProblem; }
+
+protected:
+    QString program() const override;
+    QStringList arguments() const override;
+
+private:
+    bool detectOutputs();
+    bool xrandr(const QStringList &arguments);
+
+    QTemporaryDir m_directory;
+    QString m_outputProblem;
+};

@@ -1,0 +1,301 @@
+#include "dummyserver.h"
+#include "endtoendtest.h"
+#include "waiting.h"
+
+#include <QTest>
+
+/// Two screens that come and go: the test window reaches all of them, fills the
+/// one it is on, and waits for one that is gone.
+class tst_e2e_screens : public EndToEndTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void sideBySide_rangesAreTheSumsOfBothScreens_data();
+    void sideBySide_rangesAreTheSumsOfBothScreens();
+    void ranges_followTheScreens();
+    void screenLeftOfThePrimaryOne_isReached();
+    void negativePlace_isObeyed();
+    void fullScreen_coversTheScreenOfTheTestWindow_data();
+    void fullScreen_coversTheScreenOfTheTestWindow();
+    void unplugging_keepsTheTestWindow_andPluggingInBringsItBack();
+    void controlWindow_leavesAScreenThatIsGone();
+
+protected:
+    std::unique_ptr<VirtualDesktop> createDesktop() const override;
+    QString reasonToSkip() const override;
+
+private:
+    void plugIn(const char *relation);
+    void unplug();
+    void startAt(const QRect &place);
+    void handleScreenChange();
+    QRect stored();
+    bool isStored(const char *name, int value);
+
+    mutable DummyServer *m_server = nullptr; // owned by the desktop
+};
+
+namespace {
+constexpr QRect Left = QRect(QPoint(0, 0), DummyServer::OutputSize);
+constexpr QRect Right = Left.translated(1920, 0);
+constexpr QRect OnTheRight = QRect(2500, 300, 256, 256);
+
+QString first()
+{
+    return QStringLiteral("DUMMY0");
+}
+
+QString second()
+{
+    return QStringLiteral("DUMMY1");
+}
+
+QString key(const char *name)
+{
+    return QStringLiteral("/setting/testWindow") + QLatin1String(name);
+}
+} // namespace
+
+QString tst_e2e_screens::reasonToSkip() const
+{
+    DummyServer server;
+    if (server.start())
+        return {};
+    return QStringLiteral("No X server with several screens: ") + server.problem();
+}
+
+std::unique_ptr<VirtualDesktop> tst_e2e_screens::createDesktop() const
+{
+    auto server = std::make_unique<DummyServer>();
+    m_server = server.get();
+    return std::make_unique<VirtualDesktop>(std::move(server));
+}
+
+void tst_e2e_screens::init()
+{
+    unplug();
+    QCOMPARE(desktop().screen().rect(), Left);
+}
+
+void tst_e2e_screens::plugIn(const char *relation)
+{
+    QVERIFY2(m_server->plugIn(second(), QLatin1String(relation), first()),
+             qPrintable(m_server->outputProblem()));
+}
+
+void tst_e2e_screens::unplug()
+{
+    QVERIFY2(m_server->unplug(second()), qPrintable(m_server->outputProblem()));
+}
+
+void tst_e2e_screens::startAt(const QRect &place)
+{
+    tool().writeConfig({{key("PointX"), place.x()},
+                        {key("PointY"), place.y()},
+                        {key("Width"), place.width()},
+                        {key("Height"), place.height()}});
+    QVERIFY(startTool());
+}
+
+/// Returns when the window manager and the program have handled it.
+void tst_e2e_screens::handleScreenChange()
+{
+    QVERIFY(desktop().windows().syncWithWindowManager());
+    for (int turn = 0; turn < 2; ++turn)
+        QVERIFY(desktop().windows().answersPing(tool().controlWindow().id));
+}
+
+QRect tst_e2e_screens::stored()
+{
+    const auto value = [this](const char *name) { return tool().configValue(key(name)).toInt(); };
+    return {value("PointX"), value("PointY"), value("Width"), value("Height")};
+}
+
+bool tst_e2e_screens::isStored(const char *name, int value)
+{
+    const auto now = [&] { return tool().configValue(key(name)).toInt(); };
+    if (waitFor([&] { return now() == value; }))
+        return true;
+    qWarning() << name << "is stored as" << now() << "and not" << value;
+    return false;
+}
+
+void tst_e2e_screens::sideBySide_rangesAreTheSumsOfBothScreens_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<QByteArray>("inward");
+    QTest::addColumn<QByteArray>("outward");
+    QTest::addColumn<bool>("shift");
+    QTest::addColumn<int>("end");
+
+    const int step = 1;
+    QTest::newRow("X maximum") << QByteArray("PointX") << 99999 << QByteArray("Left")
+                               << QByteArray("Right") << false << 3839;
+    QTest::newRow("X minimum") << QByteArray("PointX") << -99999 << QByteArray("Right")
+                               << QByteArray("Left") << false << -3839;
+    QTest::newRow("Y maximum") << QByteArray("PointY") << 99999 << QByteArray("Up")
+                               << QByteArray("Down") << false << 2159;
+    QTest::newRow("Y minimum") << QByteArray("PointY") << -99999 << QByteArray("Down")
+                               << QByteArray("Up") << false << -2159;
+    QTest::newRow("width maximum") << QByteArray("Width") << 99999 << QByteArray("Left")
+                                   << QByteArray("Right") << true << 3840;
+    QTest::newRow("width minimum")
+        << QByteArray("Width") << step << QByteArray("Right") << QByteArray("Left") << true << 1;
+    QTest::newRow("height maximum")
+        << QByteArray("Height") << 99999 << QByteArray("Up") << QByteArray("Down") << true << 2160;
+    QTest::newRow("height minimum")
+        << QByteArray("Height") << step << QByteArray("Down") << QByteArray("Up") << true << 1;
+}
+
+/// What is stored beyond the range is cut to its end: a key steps from there,
+/// and the key back stops there.
+void tst_e2e_screens::sideBySide_rangesAreTheSumsOfBothScreens()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(int, start);
+    QFETCH(QByteArray, inward);
+    QFETCH(QByteArray, outward);
+    QFETCH(bool, shift);
+    QFETCH(int, end);
+    plugIn("--right-of");
+    QVariantMap values{{key(name.constData()), start}};
+    if (name == "Height") // is taken from the width
+        values.insert(key("Width"), start);
+    tool().writeConfig(values);
+    QVERIFY(startTool());
+    const Qt::KeyboardModifier modifier = shift ? Qt::ShiftModifier : Qt::ControlModifier;
+    const int inside = start > 1 ? end - 1 : end + 1;
+
+    desktop().keyboard().key(inward.constData(), modifier);
+    QVERIFY(isStored(name.constData(), inside));
+    for (int press = 0; press < 3; ++press)
+        desktop().keyboard().key(outward.constData(), modifier);
+    QVERIFY(isStored(name.constData(), end));
+    QVERIFY(desktop().windows().answersPing(tool().controlWindow().id));
+    desktop().keyboard().key(inward.constData(), modifier);
+    QVERIFY(isStored(name.constData(), inside));
+}
+
+void tst_e2e_screens::ranges_followTheScreens()
+{
+    startAt({1919, 0, 256, 256});
+    Keyboard &keyboard = desktop().keyboard();
+    keyboard.key("Right", Qt::ControlModifier); // stops at the end
+    keyboard.key("Down", Qt::ControlModifier);
+    QVERIFY(isStored("PointY", 1));
+    QCOMPARE(stored().x(), 1919);
+
+    plugIn("--right-of");
+    handleScreenChange();
+    keyboard.key("Right", Qt::ControlModifier);
+    keyboard.key("Right", Qt::ControlModifier);
+    QVERIFY(isStored("PointX", 1921));
+
+    unplug();
+    handleScreenChange();
+    keyboard.key("Left", Qt::ControlModifier); // from the end of the smaller range
+    QVERIFY(isStored("PointX", 1918));
+}
+
+void tst_e2e_screens::screenLeftOfThePrimaryOne_isReached()
+{
+    plugIn("--left-of");
+    QCOMPARE(desktop().screen().rect(), Left | Right);
+    startAt({300, 400, 256, 256}); // the primary screen begins at 1920
+    QVERIFY(testWindowCovers({300, 400, 256, 256}));
+
+    // And it is dragged over to the primary one and back.
+    desktop().mouse().drag({400, 500}, {2400, 500});
+    QVERIFY(testWindowCovers({2300, 400, 256, 256}));
+    desktop().mouse().drag({2400, 500}, {400, 500});
+    QVERIFY(testWindowCovers({300, 400, 256, 256}));
+    QVERIFY(isStored("PointX", 300));
+}
+
+/// A window manager may keep a window whole on the screen while it maps it, so
+/// the window goes there afterwards.
+void tst_e2e_screens::negativePlace_isObeyed()
+{
+    plugIn("--left-of");
+    startAt({1, 400, 256, 256});
+    for (int press = 0; press < 3; ++press)
+        desktop().keyboard().key("Left", Qt::ControlModifier);
+    QVERIFY(testWindowCovers({-2, 400, 256, 256}));
+
+    desktop().mouse().drag({200, 500}, {100, 450});
+    QVERIFY(testWindowCovers({-102, 350, 256, 256}));
+    QVERIFY(isStored("PointX", -102));
+}
+
+void tst_e2e_screens::fullScreen_coversTheScreenOfTheTestWindow_data()
+{
+    QTest::addColumn<QByteArray>("relation");
+    QTest::addColumn<QRect>("place");
+    QTest::addColumn<QRect>("screen");
+
+    const QRect onTheLeft(100, 100, 256, 256);
+    QTest::newRow("primary, left") << QByteArray("--right-of") << onTheLeft << Left;
+    QTest::newRow("other, right") << QByteArray("--right-of") << OnTheRight << Right;
+    QTest::newRow("other, left") << QByteArray("--left-of") << onTheLeft << Left;
+    QTest::newRow("primary, right") << QByteArray("--left-of") << OnTheRight << Right;
+}
+
+void tst_e2e_screens::fullScreen_coversTheScreenOfTheTestWindow()
+{
+    QFETCH(QByteArray, relation);
+    QFETCH(QRect, place);
+    QFETCH(QRect, screen);
+    plugIn(relation.constData());
+    startAt(place);
+    QVERIFY(testWindowCovers(place));
+
+    desktop().keyboard().key("f", Qt::ShiftModifier);
+    QVERIFY(testWindowCovers(screen));
+    desktop().keyboard().key("f", Qt::ShiftModifier);
+    QVERIFY(testWindowCovers(place));
+}
+
+void tst_e2e_screens::unplugging_keepsTheTestWindow_andPluggingInBringsItBack()
+{
+    plugIn("--right-of");
+    startAt(OnTheRight);
+    QVERIFY(testWindowCovers(OnTheRight));
+
+    unplug();
+    handleScreenChange();
+    QVERIFY(tool().testWindow().isMapped);
+    QCOMPARE(tool().testWindow().geometry.size(), OnTheRight.size());
+    qInfo() << "The window manager leaves it at" << tool().testWindow().geometry.topLeft();
+    // Longer than a change takes to be stored.
+    QTest::qWait(1000);
+    QCOMPARE(stored(), OnTheRight);
+
+    plugIn("--right-of");
+    QVERIFY(testWindowCovers(OnTheRight));
+    QVERIFY2(tool().quit(), qPrintable(tool().problem()));
+    QCOMPARE(stored(), OnTheRight);
+}
+
+void tst_e2e_screens::controlWindow_leavesAScreenThatIsGone()
+{
+    plugIn("--right-of");
+    startAt({0, 0, 256, 256});
+    const WindowId control = tool().controlWindow().id;
+    const auto isOn = [&](const QRect &screen) {
+        return screen.contains(desktop().windows().info(control).geometry);
+    };
+    desktop().windows().move(control, {2600, 400});
+    QVERIFY(waitFor([&] { return isOn(Right); }));
+    QVERIFY(desktop().windows().answersPing(control));
+
+    unplug();
+    QVERIFY(waitFor([&] { return isOn(Left); }));
+    QVERIFY(desktop().windows().answersPing(control));
+}
+
+QTEST_GUILESS_MAIN(tst_e2e_screens)
+#include "tst_e2e_screens.moc"
