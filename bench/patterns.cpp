@@ -1,0 +1,68 @@
+#include "patterns.h"
+
+#include "gradualchange.h"
+#include "griddrawer.h"
+#include "scrpurity.h"
+
+#include <QWidget>
+
+namespace {
+
+using MakePattern = std::function<Pattern(QWidget *)>;
+
+// All four families, one pixel further at every painting.
+MakePattern scrollingGrid(int distance, int lineWidth)
+{
+    return [distance, lineWidth](QWidget *testWindow) -> Pattern {
+        auto grid = std::make_unique<GridDrawer>(testWindow);
+        GridDrawer *const drawer = grid.get();
+        drawer->slot_colorChanged(Qt::red);
+        drawer->slot_changeDistance(distance);
+        drawer->slot_changePix(lineWidth);
+        drawer->slot_horiToggled(true);
+        drawer->slot_vertLineToggled(true);
+        drawer->slot_slantLeftToggled(true);
+        drawer->slot_slantRightToggled(true);
+        return {std::move(grid), [drawer] { drawer->scrollLines(); }};
+    };
+}
+
+// White, one grey level on at every painting.
+Pattern steppingPurity(QWidget *testWindow)
+{
+    auto purity = std::make_unique<ScrPurity>(testWindow);
+    ScrPurity *const drawer = purity.get();
+    drawer->slot_colorChanged(Qt::white);
+    return {std::move(purity),
+            [drawer, grey = 0]() mutable { drawer->slot_AlphaChanged(grey = (grey + 1) % 256); }};
+}
+
+// One picture, painted again and again as the test window does by itself.
+MakePattern restingGradient(short level)
+{
+    return [level](QWidget *testWindow) -> Pattern {
+        auto gradient = std::make_unique<GradualChange>(testWindow);
+        gradient->slot_gradualChangeColor(level, Qt::white);
+        return {std::move(gradient), [] {}};
+    };
+}
+
+} // namespace
+
+const std::vector<PatternRow> &patternRows()
+{
+    static const std::vector<PatternRow> rows = {
+        {"grid, spacing 3, width 1", scrollingGrid(3, 1)},
+        {"grid, spacing 3, width 5", scrollingGrid(3, 5)},
+        {"grid, spacing 10, width 1", scrollingGrid(10, 1)},
+        {"grid, spacing 10, width 5", scrollingGrid(10, 5)},
+        {"grid, spacing 50, width 1", scrollingGrid(50, 1)},
+        {"grid, spacing 50, width 5", scrollingGrid(50, 5)},
+        {"grid, spacing 700, width 1", scrollingGrid(700, 1)},
+        {"grid, spacing 700, width 5", scrollingGrid(700, 5)},
+        {"gradient, 32 levels", restingGradient(32)},
+        {"gradient, 256 levels", restingGradient(256)},
+        {"purity", steppingPurity},
+    };
+    return rows;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "drawcontainer.h"
+
+#include <QImage>
+
+#include <memory>
+
+class DrawerBase;
+
+// A test window of a given size, off the screen, whose painting is timed.
+class Stage
+{
+public:
+    explicit Stage(const QSize &size);
+    ~Stage();
+
+    DrawContainer *window() { return &m_window; }
+
+    // The processor time in seconds that the window takes to paint itself with this drawer;
+    // what else the machine does costs none.
+    double paint(DrawerBase &drawer);
+
+    // The same for the copy of an opaque pixmap of the window's size: the yardstick.
+    double copy();
+
+private:
+    DrawContainer m_window;
+    QImage m_target;
+    const std::unique_ptr<DrawerBase> m_copier;
+};
