@@ -1,0 +1,64 @@
+#!/usr/bin/env bash
+# Runs clang-tidy (.clang-tidy says which checks) and clazy's checks for Qt
+# code, up to level 1; every warning is an error.
+#
+# Usage: scripts/lint.sh [--all | FILE.cpp...]
+# Without files: all sources but the test programs themselves, which would take
+# longer than all the rest; with --all, these too.
+set -euo pipefail
+
+# lint_one FILE: silent if both linters are.
+lint_one() {
+  local output status=0
+  output=$(clang-tidy -p build --quiet "$1" 2>&1) || report
+  # clazy ends with 0 on warnings.
+  output=$(clazy-standalone -p build --checks=level1 --ignore-dirs="^(/usr|$PWD/build)/" "$1" 2>&1) || report
+  if grep -q ' warning: ' <<<"$output"; then
+    report
+  fi
+  return "$status"
+}
+
+report() {
+  printf '%s\n' "$output"
+  status=1
+}
+
+if [ "${1:-}" = --one ]; then
+  lint_one "$2"
+  exit
+fi
+
+left_out='/tst_[^/]*$'
+if [ "${1:-}" = --all ]; then
+  left_out='^$'
+  shift
+fi
+
+root=$(cd "$(dirname "$0")/.." && pwd)
+files=()
+for file in "$@"; do
+  files+=("$(realpath "$file")")
+done
+cd "$root"
+. scripts/common.sh
+
+# The linters need the compile commands and the generated headers.
+if [ ! -f build/compile_commands.json ]; then
+  configure release
+fi
+build build
+
+if [ ${#files[@]} -eq 0 ]; then
+  while read -r file; do
+    files+=("$file")
+  done < <(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' build/compile_commands.json \
+    | grep -vF "$root/build/" | grep -v "$left_out" | sort -u)
+fi
+if [ ${#files[@]} -eq 0 ]; then
+  echo 'lint: no sources to check' >&2
+  exit 1
+fi
+
+printf '%s\0' "${files[@]}" | xargs -0 -n 1 -P 2 scripts/lint.sh --one
+echo "lint: ${#files[@]} sources checked"

@@ -1,0 +1,81 @@
+#!/usr/bin/env bash
+# Installs what is missing to run the tool, to test it or to check it as CI
+# does; says and does nothing if all of it is there.
+#
+# Usage: scripts/setup.sh run|test|ci
+set -euo pipefail
+
+build_packages=(build-essential cmake ninja-build pkg-config
+  qtbase5-dev qttools5-dev qttools5-dev-tools)
+font_packages=(fonts-noto-cjk fonts-dejavu-core fonts-liberation)
+virtual_desktop_packages=(xvfb openbox imagemagick x11-utils)
+test_packages=(libx11-dev libxtst-dev libxext-dev libxfixes-dev libxdamage-dev libxrandr-dev libsm-dev libice-dev libbenchmark-dev
+  xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils)
+check_packages=(git clang-format clang-tidy clazy shellcheck xdotool)
+
+purpose=${1:-run}
+packages=("${build_packages[@]}" "${font_packages[@]}")
+case $purpose in
+  run)
+    if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+      packages+=("${virtual_desktop_packages[@]}")
+    elif [ -z "${DISPLAY:-}" ]; then
+      packages+=(qtwayland5)
+    fi
+    ;;
+  test | ci)
+    packages+=("${virtual_desktop_packages[@]}" "${test_packages[@]}")
+    if [ "$purpose" = ci ]; then
+      packages+=("${check_packages[@]}")
+    fi
+    ;;
+  *)
+    echo "Usage: scripts/setup.sh run|test|ci" >&2
+    exit 2
+    ;;
+esac
+
+# Without apt-get: say what is needed, once per build folder, and leave it to
+# the build to find it.
+if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+  cd "$(dirname "$0")/.."
+  if [ ! -f build/build.ninja ]; then
+    echo "setup: there is no apt-get here; please install, if missing: a C++17 compiler," \
+      "CMake 3.16 or newer, Ninja, Qt 5.9 or newer of the 5 series (Widgets, Test and" \
+      "LinguistTools; on macOS Homebrew's qt@5, its prefix in CMAKE_PREFIX_PATH)," \
+      "a Chinese font; for the end-to-end tests also Xvfb, openbox, xrandr, xprop, ImageMagick" \
+      "and the development files of libX11, libXtst, libXext, libXfixes, libXdamage, libXrandr, libSM and libICE." >&2
+  fi
+  exit 0
+fi
+
+installed=$'\n'$(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)$'\n'
+missing=()
+for package in "${packages[@]}"; do
+  if [[ $installed != *$'\n'"installed $package"$'\n'* ]]; then
+    missing+=("$package")
+  fi
+done
+if [ ${#missing[@]} -eq 0 ]; then
+  exit 0
+fi
+
+apt=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
+if [ "$(id -u)" -ne 0 ]; then
+  if ! command -v sudo >/dev/null; then
+    echo "setup: neither root nor sudo; please have installed: ${missing[*]}" >&2
+    exit 0
+  fi
+  apt=(sudo "${apt[@]}")
+fi
+
+echo "setup: installing ${missing[*]}" >&2
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+if ! "${apt[@]}" update >"$log" 2>&1; then
+  cat "$log" >&2 # The lists that are there may still do.
+fi
+if ! "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >"$log" 2>&1; then
+  cat "$log" >&2
+  exit 1
+fi
