@@ -162,12 +162,14 @@ void DrawCtrlForm::initWindowPosition()
         place({0, 0, sizeWithoutSettings, sizeWithoutSettings});
         return;
     }
+    // Far beyond every desktop, and small enough to add up as the edges of a rectangle.
+    const auto stored = [this](const auto &key) {
+        return qBound(-QWIDGETSIZE_MAX, settings->value(key).toInt(), QWIDGETSIZE_MAX);
+    };
     // A stored height is answered with the stored width: a restart gives a square window. Wanted.
-    const int storedWidth = settings->value(Key::width).toInt();
-    const int storedHeight = settings->value(Key::height).toInt();
-    const int width = storedWidth < 1 ? defaultSize : storedWidth;
-    const int height = storedHeight < 1 ? defaultSize : storedWidth;
-    place({settings->value(Key::x).toInt(), settings->value(Key::y).toInt(), width, height});
+    const int width = stored(Key::width) < 1 ? defaultSize : stored(Key::width);
+    const int height = stored(Key::height) < 1 ? defaultSize : stored(Key::width);
+    place({stored(Key::x), stored(Key::y), width, height});
     setTestWindowShown(!settings->value(Key::hidden).toBool());
 }
 
