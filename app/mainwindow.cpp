@@ -12,6 +12,7 @@
 #include "screenarea.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
+#include "settingsfile.h"
 #include "settingsrules.h"
 
 #include <QCoreApplication>
@@ -42,11 +43,8 @@ QString testWindowStyle(const QColor &background)
 
 QSettings *openSettings(QObject *parent)
 {
-    auto *settings =
-        new QSettings(QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini"),
-                      QSettings::IniFormat, parent);
-    settings->setIniCodec("UTF-8");
-    return settings;
+    return SettingsFile::open(
+        QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini"), parent);
 }
 
 } // namespace

@@ -1,0 +1,217 @@
+#include "settingsfile.h"
+
+#include <QColor>
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+namespace {
+
+const QByteArray pen("@Variant(\\0\\0\\0M\\x1\\0\\0\\0)");
+const QByteArray color("@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\x12\\x12\\0\\0\\xff\\xff\\0\\0)");
+
+} // namespace
+
+// Opening the settings file, whatever stands in its place.
+class TestSettingsFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void withoutSerialized_takesOutWhatQtWouldTrust_data();
+    void withoutSerialized_takesOutWhatQtWouldTrust();
+    void withoutSerialized_leavesTheRestAsItIs_data();
+    void withoutSerialized_leavesTheRestAsItIs();
+    void open_readsWhatTheProgramWrote();
+    void open_takesHarmfulValuesOutOnTheDisk();
+    void open_whereSavingWouldWait_readsAndSavesNothing_data();
+    void open_whereSavingWouldWait_readsAndSavesNothing();
+    void open_aCopyEndsWithTheSettings();
+    void open_aFileTooLarge_startsEmpty();
+
+private:
+    QString path() const { return m_place->filePath(QStringLiteral("config.ini")); }
+    void write(const QByteArray &text);
+    QByteArray read() const;
+
+    std::unique_ptr<QTemporaryDir> m_place;
+};
+
+void TestSettingsFile::init()
+{
+    m_place = std::make_unique<QTemporaryDir>();
+}
+
+void TestSettingsFile::write(const QByteArray &text)
+{
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(text), qint64(text.size()));
+}
+
+QByteArray TestSettingsFile::read() const
+{
+    QFile file(path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void TestSettingsFile::withoutSerialized_takesOutWhatQtWouldTrust_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("expected");
+
+    const auto row = [](const char *name, const QByteArray &value) {
+        QTest::newRow(name) << "[setting]\na=1\nb=" + value + "\nc=2\n"
+                            << QByteArray("[setting]\na=1\nc=2\n");
+    };
+    row("pen", pen);
+    row("date", "@DateTime(\\0\\0)");
+    row("colour that is cut off", color.left(40) + ')');
+    row("colour with more behind it", color.left(color.size() - 1) + "\\0)");
+    row("colour of no kind", QByteArray(color).replace("\\x43\\x1", "\\x43\\x7"));
+    row("in a list", "1, " + pen);
+    row("colours in a list", color + ", " + color);
+    row("in quotes", "\"@Variant(\\0)\"");
+    row("quotes inside", "@Var\"\"iant(\\0)");
+    row("sign by its number", "\\x40Variant(\\0)");
+    row("sign by its octal number", "\\100Variant(\\0)");
+    row("sign by a number of many digits", "\\x7770040Variant(\\0)");
+    row("letter by its number", "@V\\x61riant(\\0)");
+    row("unknown escape inside", "@Var\\qiant(\\0)");
+    row("escape without digits inside", "@Var\\xiant(\\0)");
+    row("byte order mark inside", "@Var\xef\xbb\xbfiant(\\0)");
+    QTest::newRow("over a line end") << QByteArray("a=@Var\\\niant(\\0)\n") << QByteArray();
+    QTest::newRow("over two line ends") << QByteArray("a=@Var\\\r\niant(\\0)\n") << QByteArray();
+}
+
+void TestSettingsFile::withoutSerialized_takesOutWhatQtWouldTrust()
+{
+    QFETCH(QByteArray, text);
+    QTEST(SettingsFile::withoutSerialized(text), "expected");
+}
+
+void TestSettingsFile::withoutSerialized_leavesTheRestAsItIs_data()
+{
+    QTest::addColumn<QByteArray>("text");
+
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("numbers") << QByteArray("[setting]\na=1\nb=-2");
+    QTest::newRow("colours") << "[setting]\na=" + color + "\nb=" + color + '\n';
+    QTest::newRow("quoted colour") << "[setting]\na=\"" + color + "\"\n";
+    QTest::newRow("other notations") << QByteArray("a=@ByteArray(x)\nb=@Rect(1 2 3 4)\nc=@@Size(");
+    QTest::newRow("zeros") << QByteArray(100, '\0');
+    QTest::newRow("escapes at the end") << QByteArray("a=\\x4");
+    QTest::newRow("backslash at the end") << QByteArray("a=\\");
+}
+
+void TestSettingsFile::withoutSerialized_leavesTheRestAsItIs()
+{
+    QFETCH(QByteArray, text);
+    QCOMPARE(SettingsFile::withoutSerialized(text), text);
+}
+
+// Every colour that Qt can write, in Qt's own words.
+void TestSettingsFile::open_readsWhatTheProgramWrote()
+{
+    QVariantMap written{{QStringLiteral("setting/text"), QStringLiteral("宽度, \"x\"")},
+                        {QStringLiteral("setting/number"), QStringLiteral("-12")}};
+    for (int number = 0; number < 256; ++number)
+        written.insert(QStringLiteral("setting/color%1").arg(number),
+                       QColor(number, 255 - number, (number * 7) % 256, (number * 3) % 256));
+    {
+        const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
+        for (auto value = written.cbegin(); value != written.cend(); ++value)
+            settings->setValue(value.key(), value.value());
+    }
+    const QByteArray text = read();
+    QVERIFY(text.contains("@Variant("));
+
+    const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
+    QCOMPARE(settings->allKeys().count(), written.count());
+    for (auto value = written.cbegin(); value != written.cend(); ++value)
+        QCOMPARE(settings->value(value.key()), value.value());
+    QCOMPARE(read(), text);
+}
+
+void TestSettingsFile::open_takesHarmfulValuesOutOnTheDisk()
+{
+    write("[setting]\nx=12\nbad=" + pen + "\ncolor=" + color + '\n');
+    const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
+
+    QCOMPARE(settings->fileName(), path());
+    QCOMPARE(read(), "[setting]\nx=12\ncolor=" + color + '\n');
+    QCOMPARE(settings->value(QStringLiteral("setting/x")).toInt(), 12);
+    QCOMPARE(settings->value(QStringLiteral("setting/color")).value<QColor>(),
+             QColor::fromRgba64(0x1212, 0, 0xffff));
+}
+
+void TestSettingsFile::open_whereSavingWouldWait_readsAndSavesNothing_data()
+{
+    QTest::addColumn<bool>("isPipe");
+
+    QTest::newRow("a pipe in the file's place") << true;
+    QTest::newRow("a folder in the lock's place") << false;
+}
+
+void TestSettingsFile::open_whereSavingWouldWait_readsAndSavesNothing()
+{
+    QFETCH(bool, isPipe);
+    const QByteArray text("[setting]\nx=12\n");
+    if (isPipe) {
+#ifdef Q_OS_UNIX
+        QCOMPARE(mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+#else
+        QSKIP("There are no pipes in folders here.");
+#endif
+    } else {
+        write(text);
+        QVERIFY(QDir().mkdir(path() + QStringLiteral(".lock")));
+    }
+    const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
+
+    QCOMPARE(settings->value(QStringLiteral("setting/x")).toInt(), isPipe ? 0 : 12);
+    settings->setValue(QStringLiteral("setting/x"), 13);
+    settings->sync();
+    QCOMPARE(settings->value(QStringLiteral("setting/x")).toInt(), 13);
+    if (!isPipe)
+        QCOMPARE(read(), text);
+}
+
+void TestSettingsFile::open_aCopyEndsWithTheSettings()
+{
+    QVERIFY(QDir().mkdir(path() + QStringLiteral(".lock")));
+    std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
+    settings->setValue(QStringLiteral("setting/x"), 13);
+    const QString folder = QFileInfo(settings->fileName()).path();
+    QVERIFY(folder != m_place->path());
+    QVERIFY(QDir(folder).exists());
+
+    settings.reset();
+
+    QVERIFY(!QDir(folder).exists());
+}
+
+void TestSettingsFile::open_aFileTooLarge_startsEmpty()
+{
+    write("[setting]\nx=12\n");
+    QFile file(path());
+    QVERIFY(file.resize(SettingsFile::maximumSize + 1));
+
+    const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
+
+    QVERIFY(settings->allKeys().isEmpty());
+    QCOMPARE(file.size(), SettingsFile::maximumSize + 1);
+}
+
+QTEST_GUILESS_MAIN(TestSettingsFile)
+#include "tst_settingsfile.moc"
