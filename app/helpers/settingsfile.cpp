@@ -20,6 +20,12 @@ bool isHexDigit(char character)
     return std::isxdigit(static_cast<unsigned char>(character)) != 0;
 }
 
+int digitValue(char digit)
+{
+    const int letter = std::tolower(static_cast<unsigned char>(digit));
+    return letter < 'a' ? letter - '0' : letter - 'a' + 10;
+}
+
 bool isOctalDigit(char character)
 {
     return character >= '0' && character <= '7';
@@ -37,6 +43,7 @@ public:
 
     QByteArray result()
     {
+        m_result.reserve(m_text.size());
         while (m_at < m_text.size()) {
             const char character = m_text.at(m_at++);
             if (character == '\\')
@@ -82,8 +89,7 @@ private:
         quint16 value = 0;
         const int start = m_at;
         for (; m_at < m_text.size() && isDigit(m_text.at(m_at)); ++m_at) {
-            const int digit = QByteArray(1, m_text.at(m_at)).toInt(nullptr, 16);
-            value = static_cast<quint16>(value * base + digit);
+            value = static_cast<quint16>(value * base + digitValue(m_text.at(m_at)));
         }
         if (m_at > start)
             m_result += value < 0x100 ? static_cast<char>(value) : ' ';

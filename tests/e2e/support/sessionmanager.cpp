@@ -60,9 +60,10 @@ void saveDone(SmsConn program, SmPointer data, Bool /*success*/)
         SmsSaveComplete(program);
 }
 
-void closeConnection(SmsConn /*program*/, SmPointer data, int count, char **reasons)
+void closeConnection(SmsConn program, SmPointer data, int count, char **reasons)
 {
     SmFreeReasons(count, reasons);
+    SmsCleanUp(program);
     static_cast<Session *>(data)->program = nullptr;
 }
 
