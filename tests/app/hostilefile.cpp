@@ -1,0 +1,266 @@
+#include "hostilefile.h"
+
+namespace {
+
+// Every key of the program, and one that is none.
+constexpr const char *settingNames[] = {
+    "testWindowPointX",
+    "testWindowPointY",
+    "testWindowWidth",
+    "testWindowHeight",
+    "testWindowVisible",
+    "testWindowBaseColor",
+    "currentTabIndex",
+    "testPurityGreyLevel",
+    "testPuritySpeed",
+    "testAutoScale",
+    "AutoTest",
+    "gradualChangeColor",
+    "gradualChangeColorLevel",
+    "gridNetChecked",
+    "gridHorizontalChecked",
+    "gridVerticalChecked",
+    "gridSlantLeftChecked",
+    "gridSlantRightChecked",
+    "gridIsOldTest",
+    "gridIsScroll",
+    "gridIsMix",
+    "gridGreyLevel",
+    "gridSpeed",
+    "isHorizontalPress",
+    "isVerticalPress",
+    "isSlantLeftPress",
+    "isSlantRightPress",
+    "pushButtonPauseChecked",
+    "checkBoxH",
+    "checkBoxV",
+    "checkBoxSL",
+    "checkBoxSR",
+    "checkBoxRed",
+    "checkBoxGreen",
+    "checkBoxBlue",
+    "checkBoxWhite",
+    "checkBoxYellow",
+    "checkBoxCyan",
+    "checkBoxPurple",
+    "tarnBoxHeight",
+    "tarnBoxWidth",
+    "tarnModelColumnCount",
+    "tarnModelRowCount",
+    "tarnLeftToRight",
+    "tarnBackgroundSelect",
+    "tarnFontColor",
+    "tarnFontFontColor",
+    "tarnBoxLineColor",
+    "tarnModuleLineColor",
+    "tarnModelColor",
+    "tarnScanLineColor",
+    "tarnBackgroundColor",
+    "tarnBackColor",
+    "advanceFontSize",
+    "advanceFontShape",
+    "advanceBeginRow",
+    "advanceBeginColumn",
+    "advanceModeWidth",
+    "advanceScanWidth",
+    "unknown",
+};
+
+template<typename Item, std::size_t count>
+constexpr int length(const Item (&)[count])
+{
+    return int(count);
+}
+
+QByteArray escaped(const QByteArray &bytes)
+{
+    return bytes.isEmpty() ? bytes : "\\x" + bytes.toHex(' ').replace(" ", "\\x");
+}
+
+QByteArray bigEndian(quint32 value)
+{
+    QByteArray bytes;
+    for (int shift = 24; shift >= 0; shift -= 8)
+        bytes += char(value >> shift);
+    return bytes;
+}
+
+} // namespace
+
+int HostileFile::below(int limit)
+{
+    return int(m_random() % quint32(limit));
+}
+
+QByteArray HostileFile::garbage(int size)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    for (char &byte : bytes)
+        byte = char(m_random());
+    return bytes;
+}
+
+QByteArray HostileFile::next()
+{
+    switch (below(8)) {
+    case 0:
+        return garbage(below(4000));
+    case 1:
+    case 2:
+        return damaged(section());
+    default:
+        return section();
+    }
+}
+
+// All keys, each with a value that may belong to another one, some twice, some not at all.
+QByteArray HostileFile::section()
+{
+    QByteArray content("[setting]\n");
+    for (const char *name : settingNames) {
+        const int copies = below(8) ? 1 : below(3);
+        for (int copy = 0; copy < copies; ++copy)
+            content += QByteArray(name) + '=' + value() + '\n';
+    }
+    return content;
+}
+
+QByteArray HostileFile::damaged(QByteArray content)
+{
+    for (int damage = below(20); damage >= 0; --damage) {
+        const int place = below(content.size() + 1);
+        switch (below(5)) {
+        case 0:
+            content.insert(place, garbage(below(20)));
+            break;
+        case 1:
+            content.remove(place, below(40));
+            break;
+        case 2:
+            content.insert(place, content.mid(below(content.size() + 1), below(200)));
+            break;
+        case 3:
+            content.insert(place, "\"\\[]=%;\n,@()"[below(12)]);
+            break;
+        default:
+            if (place < content.size())
+                content[place] = char(m_random());
+            break;
+        }
+    }
+    if (!below(10))
+        content.truncate(below(content.size() + 1));
+    return content;
+}
+
+QByteArray HostileFile::value()
+{
+    switch (below(6)) {
+    case 0:
+    case 1:
+        return number();
+    case 2:
+        return text();
+    case 3:
+        return typed();
+    case 4:
+        return serialized();
+    default: // a value that it could really have
+        return below(2) ? QByteArray::number(below(300)) : QByteArray(below(2) ? "true" : "false");
+    }
+}
+
+QByteArray HostileFile::number()
+{
+    constexpr const char *numbers[] = {"-1",
+                                       "0",
+                                       "2147483647",
+                                       "-2147483648",
+                                       "2147483648",
+                                       "-2147483649",
+                                       "99999999999999999999",
+                                       "-99999999999999999999",
+                                       "65536",
+                                       "-65536",
+                                       "32768",
+                                       "0x7fffffff",
+                                       "1e300",
+                                       "-1e9999",
+                                       "nan",
+                                       "inf",
+                                       "1.5",
+                                       "1,5",
+                                       "+7",
+                                       " 12 ",
+                                       "007",
+                                       "--3",
+                                       "256",
+                                       "101"};
+    if (below(2))
+        return QByteArray::number(int(m_random()));
+    return numbers[below(length(numbers))];
+}
+
+QByteArray HostileFile::text()
+{
+    constexpr const char *texts[] = {"",
+                                     "\"\"",
+                                     "\"",
+                                     "a, b, c",
+                                     ", , ,",
+                                     "\"a\", \"b",
+                                     "\\x",
+                                     "\\",
+                                     "\\777777777",
+                                     "red",
+                                     "#12",
+                                     "#1234567890abcdef",
+                                     "transparent",
+                                     "rgb(1,2,3)",
+                                     "true, false",
+                                     "TRUE",
+                                     "yes",
+                                     "%s%n%1%2",
+                                     "<b>&amp;</b>",
+                                     "}QWidget{background-color:",
+                                     "\xe5\xae\xbd",
+                                     "\xff\xfe",
+                                     "../../../etc",
+                                     "@"};
+    if (below(40) == 0)
+        return QByteArray(below(100000), 'a');
+    return texts[below(length(texts))];
+}
+
+QByteArray HostileFile::typed()
+{
+    constexpr const char *types[] = {"ByteArray", "Rect",   "Size",    "Point",    "String",
+                                     "Invalid",   "Font",   "Variant", "DateTime", "QColor",
+                                     "Nothing",   "@Point", "rect",    ""};
+    const QByteArray type(types[below(length(types))]);
+    QByteArray content;
+    for (int part = below(6); part > 0; --part)
+        content += (below(4) ? number() : text()) + ' ';
+    return '@' + type + '(' + content + (below(4) ? ")" : "");
+}
+
+// A value as it stands in a file when it has no notation of its own: the type's number and
+// the bytes that the type is read from, with lengths that no memory is enough for.
+QByteArray HostileFile::serialized()
+{
+    constexpr int colorType = 0x43;
+    constexpr int typeCount = 90;
+    QByteArray bytes = bigEndian(quint32(below(3) ? below(typeCount) : colorType));
+    if (below(50) == 0)
+        return "@Variant(" + escaped(nestedLists(below(10000))) + ')';
+    for (int part = below(5); part > 0; --part)
+        bytes += below(2) ? bigEndian(quint32(m_random()) >> below(32)) : garbage(below(20));
+    return (below(4) ? "@Variant(" : "@DateTime(") + escaped(bytes) + ')';
+}
+
+// The beginning of a list in a list in a list.
+QByteArray HostileFile::nestedLists(int depth)
+{
+    constexpr quint32 listType = 9;
+    return (bigEndian(listType) + bigEndian(1)).repeated(depth);
+}
