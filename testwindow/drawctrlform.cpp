@@ -13,6 +13,7 @@
 #include <QDesktopWidget>
 #include <QScreen>
 #include <QSettings>
+#include <QTimer>
 #include <QWindowStateChangeEvent>
 
 namespace {
@@ -28,6 +29,9 @@ constexpr QLatin1String hidden = latin1("/setting/testWindowVisible");
 
 constexpr int defaultSize = 256;
 constexpr int sizeWithoutSettings = 200;
+
+// How long after it appears the window manager, and not the operator, moves a window.
+constexpr int windowIsNewMs = 1000;
 
 constexpr QLatin1String buttonStyleName = latin1("normalContentPushBtn");
 
@@ -49,8 +53,8 @@ DrawCtrlForm::DrawCtrlForm(QWidget *testWindow_, QSettings *settings_, QWidget *
     ui->pushButtonHide->setObjectName(buttonStyleName);
     initSlots();
     initCtrls();
-    initWindowPosition();
     testWindow->installEventFilter(this);
+    initWindowPosition();
 }
 
 DrawCtrlForm::~DrawCtrlForm()
@@ -191,12 +195,34 @@ void DrawCtrlForm::applyControls()
 
 bool DrawCtrlForm::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == testWindow && event->type() == QEvent::WindowStateChange) {
-        const auto *change = static_cast<QWindowStateChangeEvent *>(event);
-        if (change->oldState() & Qt::WindowFullScreen)
+    if (watched != testWindow)
+        return QWidget::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::WindowStateChange:
+        if (static_cast<QWindowStateChangeEvent *>(event)->oldState() & Qt::WindowFullScreen)
             applyControls();
+        break;
+    case QEvent::Show:
+        m_sinceShown.start();
+        break;
+    case QEvent::Move:
+        keepPlaceOfNewWindow();
+        break;
+    default:
+        break;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+// Window managers like to pull a new window on to the screen; once it is there, they obey.
+void DrawCtrlForm::keepPlaceOfNewWindow()
+{
+    if (!m_sinceShown.isValid() || testWindow->pos() == controlsRectangle().topLeft())
+        return;
+    const bool isNew = m_sinceShown.elapsed() < windowIsNewMs;
+    m_sinceShown.invalidate();
+    if (isNew)
+        QTimer::singleShot(0, this, &DrawCtrlForm::applyControls);
 }
 
 // The mouse has placed the test window at this rectangle.

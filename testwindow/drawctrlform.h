@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QRect>
 #include <QSignalBlocker>
 #include <QWidget>
@@ -71,6 +72,7 @@ private:
     QRect controlsRectangle() const;
     void place(const QRect &rectangle);
     void applyControls();
+    void keepPlaceOfNewWindow();
     void follow(const QRect &rectangle);
     void setTestWindowShown(bool shown);
     void showVisibility(bool shown);
@@ -80,5 +82,6 @@ private:
     QSettings *settings;
     QDesktopWidget *desktop = nullptr;
     SaveSoon *m_saveSoon;
+    QElapsedTimer m_sinceShown; // invalid once the window manager has had its say
     QRect m_placement; // asked for by the operator; the controls clip it to the desktop
 };

@@ -17,6 +17,8 @@ private slots:
     void hidingAndShowing_keepTheButtonsRight_data();
     void hidingAndShowing_keepTheButtonsRight();
     void restart_bringsPlaceSizeAndVisibilityBack();
+    void placeBeyondTheScreensEdge_isKept_data();
+    void placeBeyondTheScreensEdge_isKept();
     void keysInFullScreen_areAppliedWhenItEnds();
     void doubleClickWithAMove_leavesTheWindowWhereItWas();
 
@@ -245,6 +247,29 @@ void tst_e2e_placement::restart_bringsPlaceSizeAndVisibilityBack()
     clickShow();
     QVERIFY(becomesHidden(false));
     QVERIFY(testWindowCovers(square));
+}
+
+void tst_e2e_placement::placeBeyondTheScreensEdge_isKept_data()
+{
+    QTest::addColumn<QRect>("place");
+
+    QTest::newRow("left and above") << QRect(-50, -30, 256, 256);
+    QTest::newRow("right and below") << QRect(1200, 700, 256, 256);
+}
+
+/// Window managers like to pull a new window on to the screen.
+void tst_e2e_placement::placeBeyondTheScreensEdge_isKept()
+{
+    QFETCH(const QRect, place);
+    startAt(place);
+
+    shiftH();
+    QVERIFY(becomesHidden(true));
+    shiftH();
+    QVERIFY(becomesHidden(false));
+
+    QVERIFY(testWindowCovers(place));
+    QVERIFY(isStored(place));
 }
 
 void tst_e2e_placement::keysInFullScreen_areAppliedWhenItEnds()
