@@ -53,6 +53,7 @@ function(tarn_add_test name)
   add_executable(${name} ${name}.cpp ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/${name})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} tarn_test_support tarn_build_options)
+  target_precompile_headers(${name} REUSE_FROM tarn_test_support)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     LABELS unit
