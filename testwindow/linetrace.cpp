@@ -19,17 +19,16 @@ void LineTrace::measure(Qt::Orientation orientation, const QPen &pen, int length
         return;
     m_key = key;
     m_near.clear();
-    for (int position = 0; position <= reach; ++position)
-        m_near.append(drawn(position));
     m_far = drawn(farPosition + reach);
     m_far.first -= (farPosition + reach) * scale;
 }
 
 PixelRun LineTrace::covered(int position) const
 {
-    if (position < m_near.size())
-        return m_near.at(position);
-    return {m_far.first + position * m_key.scale, m_far.count};
+    if (position > m_key.reach)
+        return {m_far.first + position * m_key.scale, m_far.count};
+    const auto known = m_near.constFind(position);
+    return known != m_near.constEnd() ? *known : *m_near.insert(position, drawn(position));
 }
 
 PixelRun LineTrace::drawn(int position) const

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QHash>
 #include <QPen>
-#include <QVector>
 
 // Pixel rows or columns next to one another.
 struct PixelRun
@@ -16,8 +16,8 @@ struct PixelRun
 class LineTrace
 {
 public:
-    // For lines of `length` pixels whose paint reaches `reach` pixels to either side.
-    // `scale` is the number of device pixels to a pixel.
+    // For lines of `length` pixels, of the pen only its width counts, whose paint reaches
+    // `reach` pixels to either side. `scale` is the number of device pixels to a pixel.
     void measure(Qt::Orientation orientation, const QPen &pen, int length, int reach, int scale);
 
     // In device pixels, for a line at `position` in pixels, 0 or more.
@@ -38,6 +38,6 @@ private:
     PixelRun drawn(int position) const;
 
     Key m_key;
-    QVector<PixelRun> m_near; // by position
+    mutable QHash<int, PixelRun> m_near; // by position, as far as they were asked for
     PixelRun m_far; // of a line at 0, were there no border
 };
