@@ -6,15 +6,14 @@
 #include "framelessmessagebox.h"
 #include "griddrawer.h"
 #include "sliderspinboxpair.h"
+#include "swatch.h"
 #include "titlebar.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -60,14 +59,6 @@ QString boxName(QLatin1String key)
     return path.section(QLatin1Char('/'), -1);
 }
 
-QLabel *createRule()
-{
-    auto *rule = new QLabel;
-    rule->setFixedHeight(2);
-    rule->setStyleSheet(QStringLiteral("background:rgb(75,80,87);"));
-    return rule;
-}
-
 QSpinBox *createSpinBox(const char *name)
 {
     auto *spinBox = new QSpinBox;
@@ -97,15 +88,10 @@ MixSetting::~MixSetting() = default;
 void MixSetting::initFrame()
 {
     setObjectName(QStringLiteral("MixSetting"));
-    m_defaultBackgroundColor = QColor(48, 50, 56);
-    setStyleSheet(CommonHelper::setStyle(QStringLiteral(":/qss/global_style.css")));
+    dressDialog();
     setFixedSize(dialogSize);
     setOKButtonVisible(false);
     setCancelButtonVisible(false);
-    m_titleBar->setTitleButtonVisible(TitleBar::LogoButton, false);
-    m_titleBar->setTitleButtonIcon(
-        TitleBar::CloseButton,
-        QIcon(QStringLiteral(":/Resource/Image/titleBar/btn_close_normal@2x.png")));
 }
 
 void MixSetting::initLayout()
@@ -151,8 +137,7 @@ void MixSetting::createGridControls()
     toolButtonColorPick->setObjectName(QStringLiteral("toolButtonColorPick"));
     toolButtonColorPick->setStyleSheet(QStringLiteral("background-color:rgb(0,0,0)"));
     toolButtonColorPick->setFixedSize(controlWidth, controlHeight);
-    toolButtonColorPick->setFocusPolicy(Qt::StrongFocus);
-    toolButtonColorPick->setCursor(Qt::PointingHandCursor);
+    Swatch::makeClickable(toolButtonColorPick);
     spinBoxPix = createSpinBox("spinBoxPix");
     spinBoxDistance = createSpinBox("spinBoxDistance");
     // The values come before the ranges: a distance above 99, the most that a spin box takes by
@@ -233,9 +218,6 @@ void MixSetting::initSlots()
     connect(m_confirmButton, &QPushButton::clicked, this, &MixSetting::slot_pushButtonOK);
     connect(m_clearButton, &QPushButton::clicked, this, &MixSetting::slot_pushButtonClear);
     connect(toolButtonColorPick, &CustomerQlabel::clicked, this, &MixSetting::pickColor);
-    auto *space =
-        new QShortcut(Qt::Key_Space, toolButtonColorPick, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(space, &QShortcut::activated, this, &MixSetting::pickColor);
 }
 
 void MixSetting::initSelected()

@@ -1,11 +1,14 @@
 #include "framelessdialog.h"
 
+#include "commonhelper.h"
 #include "screenarea.h"
 #include "titlebar.h"
 #include "windowframe.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -18,6 +21,7 @@ namespace {
 constexpr int buttonMinimumWidth = 70;
 constexpr int buttonSpacing = 20;
 constexpr QMargins buttonRowMargins(20, 4, 20, 12);
+constexpr QRgb backgroundColor = qRgb(48, 50, 56);
 constexpr QRgb textColor = 0xffe6e6e6;
 
 bool isStaysOnTop(const QWidget *window)
@@ -27,7 +31,7 @@ bool isStaysOnTop(const QWidget *window)
 
 } // namespace
 
-QColor FramelessDialog::m_defaultBackgroundColor(48, 50, 56);
+QColor FramelessDialog::m_defaultBackgroundColor(backgroundColor);
 
 FramelessDialog::FramelessDialog(QWidget *parent, Qt::WindowFlags f)
     : QDialog(parent, f | Qt::FramelessWindowHint)
@@ -85,6 +89,25 @@ QWidget *FramelessDialog::createButtonRow()
     connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     return row;
+}
+
+void FramelessDialog::dressDialog()
+{
+    m_defaultBackgroundColor = QColor(backgroundColor);
+    setStyleSheet(CommonHelper::setStyle(QStringLiteral(":/qss/global_style.css")));
+    m_titleBar->setTitleButtonVisible(TitleBar::LogoButton, false);
+    m_titleBar->setTitleButtonIcon(
+        TitleBar::CloseButton,
+        QIcon(QStringLiteral(":/Resource/Image/titleBar/btn_close_normal@2x.png")));
+}
+
+QLabel *FramelessDialog::createRule()
+{
+    auto *rule = new QLabel;
+    rule->setProperty("class", QStringLiteral("SplitLine"));
+    rule->setFixedHeight(2);
+    rule->setStyleSheet(QStringLiteral("background:rgb(75,80,87);"));
+    return rule;
 }
 
 void FramelessDialog::dressButton(QAbstractButton *button)

@@ -6,6 +6,7 @@
 #include <QDialog>
 
 class QAbstractButton;
+class QLabel;
 class QPushButton;
 
 namespace UX::Widgets {
@@ -46,8 +47,13 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
 
+    // The look of the program's own dialogs: the dark background, the style sheet, and a title
+    // bar with nothing but the title and the close button.
+    void dressDialog();
     // Gives button the look of the buttons in the row.
     static void dressButton(QAbstractButton *button);
+    // A thin line between two groups of controls.
+    static QLabel *createRule();
 
     // All owned by the dialog and never null.
     TitleBar *m_titleBar = nullptr;

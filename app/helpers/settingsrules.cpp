@@ -8,10 +8,17 @@ namespace SettingsRules {
 
 int positiveInt(const QSettings &settings, QLatin1String key, int defaultValue)
 {
+    const int value = nonZeroInt(settings, key, defaultValue);
+    return value < 1 ? defaultValue : value;
+}
+
+int nonZeroInt(const QSettings &settings, QLatin1String key, int defaultValue)
+{
     // Read with room to spare: what is beyond an int must not come round as something else.
     const qlonglong value = settings.value(key).toLongLong();
-    return value < 1 || value > std::numeric_limits<int>::max() ? defaultValue
-                                                                : static_cast<int>(value);
+    using Limits = std::numeric_limits<int>;
+    return value == 0 || value < Limits::min() || value > Limits::max() ? defaultValue
+                                                                        : static_cast<int>(value);
 }
 
 QColor color(const QSettings &settings, QLatin1String key)

@@ -21,6 +21,9 @@ namespace SettingsRules {
 // The stored int; a value below 1 means the default, so 0 cannot be stored.
 int positiveInt(const QSettings &settings, QLatin1String key, int defaultValue);
 
+// The stored int; 0 means the default.
+int nonZeroInt(const QSettings &settings, QLatin1String key, int defaultValue);
+
 // The stored colour, kept as a colour or as its name; an invalid colour when
 // there is none.
 QColor color(const QSettings &settings, QLatin1String key);

@@ -38,6 +38,8 @@ class TestSettingsRules : public QObject
 private slots:
     void positiveInt_data();
     void positiveInt();
+    void nonZeroInt_data();
+    void nonZeroInt();
     void missingInt_isTheDefault();
 
     void color_data();
@@ -83,6 +85,29 @@ void TestSettingsRules::positiveInt()
     QFETCH(const int, expected);
     const auto settings = withValue(spelled);
     QCOMPARE(SettingsRules::positiveInt(*settings->get(), key, 50), expected);
+}
+
+void TestSettingsRules::nonZeroInt_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("zero") << QVariant(0) << 50;
+    QTest::newRow("one") << QVariant(1) << 1;
+    QTest::newRow("negative") << QVariant(-7) << -7;
+    QTest::newRow("greatest") << QVariant(2147483647) << 2147483647;
+    QTest::newRow("too great") << QVariant(QStringLiteral("2147483648")) << 50;
+    QTest::newRow("too small") << QVariant(QStringLiteral("-2147483649")) << 50;
+    QTest::newRow("text") << QVariant(QStringLiteral("x")) << 50;
+    QTest::newRow("list") << QVariant(QStringList({QStringLiteral("1"), QStringLiteral("2")}))
+                          << 50;
+}
+
+void TestSettingsRules::nonZeroInt()
+{
+    QFETCH(const QVariant, stored);
+    QFETCH(const int, expected);
+    TestSettings settings({{QStringLiteral("key"), stored}});
+    QCOMPARE(SettingsRules::nonZeroInt(*settings.get(), latin1("/setting/key"), 50), expected);
 }
 
 void TestSettingsRules::missingInt_isTheDefault()

@@ -1,0 +1,70 @@
+#include "filedialog.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+class TestFileDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { FileDialog::setAnswer({}); }
+
+    void answer_isAskedWithWhereTheDialogBegins();
+    void withoutAnswer_theOperatorIsAskedAboveAllWindows_data();
+    void withoutAnswer_theOperatorIsAskedAboveAllWindows();
+};
+
+void TestFileDialog::answer_isAskedWithWhereTheDialogBegins()
+{
+    QStringList asked;
+    FileDialog::setAnswer([&asked](const QString &start) {
+        asked << start;
+        return QStringLiteral("chosen");
+    });
+    QCOMPARE(FileDialog::getOpenFileName(nullptr, QString(), QStringLiteral("."), QString()),
+             QStringLiteral("chosen"));
+    QCOMPARE(asked, QStringList(QStringLiteral(".")));
+}
+
+void TestFileDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows_data()
+{
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("chosen") << true;
+    QTest::newRow("cancelled") << false;
+}
+
+void TestFileDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows()
+{
+    QFETCH(const bool, accepted);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("a.png")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    QWidget parent;
+    bool asExpected = false;
+    QTimer::singleShot(0, this, [&] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        // Where it begins is the file that was chosen the last time, and so is selected.
+        asExpected = dialog->parentWidget() == &parent
+                     && dialog->windowTitle() == QStringLiteral("title")
+                     && dialog->directory() == QDir(folder.path())
+                     && dialog->selectedFiles() == QStringList(file.fileName())
+                     && dialog->nameFilters() == QStringList(QStringLiteral("Pictures (*.png)"))
+                     && dialog->fileMode() == QFileDialog::ExistingFile
+                     && dialog->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+        static_cast<QDialog *>(dialog)->done(accepted ? QDialog::Accepted : QDialog::Rejected);
+    });
+    const QString chosen = FileDialog::getOpenFileName(
+        &parent, QStringLiteral("title"), file.fileName(), QStringLiteral("Pictures (*.png)"));
+    QVERIFY(asExpected);
+    QCOMPARE(chosen, accepted ? file.fileName() : QString());
+}
+
+QTEST_MAIN(TestFileDialog)
+#include "tst_filedialog.moc"
