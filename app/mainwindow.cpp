@@ -14,6 +14,7 @@
 #include "scrpurityctrldialog.h"
 #include "settingsfile.h"
 #include "settingsrules.h"
+#include "tarntool.h"
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -97,6 +98,8 @@ void MainWindow::setTabs()
     addTab(gradientPanel, gradientPanel->getDrawer());
     gridPanel = new ScrGridCtrlDialog(&testWindow, settings, this);
     addTab(gridPanel, gridPanel->getDrawer());
+    cabinetPanel = new TarnTool(&testWindow, settings, this);
+    addTab(cabinetPanel, cabinetPanel->getDrawer());
     while (ui->tabWidget->count() < TabCount)
         addTab(new QWidget(this), nullptr);
     spareGridDrawer = new GridDrawer(this);
@@ -117,6 +120,7 @@ void MainWindow::updateLanguage()
     purityPanel->updateLanguage();
     gradientPanel->updateLanguage();
     gridPanel->updateLanguage();
+    cabinetPanel->updateLanguage();
     for (int index = 0; index < TabCount; ++index)
         ui->tabWidget->setTabText(index, tr(tabTitles[index]));
     ui->tabWidget->setFont(QFont(QStringLiteral("Arial")));
@@ -152,6 +156,7 @@ void MainWindow::saveSettings()
     purityPanel->saveScrPurityInfo();
     gradientPanel->saveGradualChangeInfo();
     gridPanel->saveGridBaseInfo();
+    cabinetPanel->saveTarnBaseInfo();
     settings->sync();
 }
 
@@ -211,11 +216,16 @@ void MainWindow::pauseGridStatus()
         if (gradientPanel->m_userChanged && !gridPanel->scrollLocked)
             gridPanel->setScrollEnabled(false);
         break;
+    case CabinetTab:
+        if (cabinetPanel->m_userChanged) // whatever scrollLocked says
+            gridPanel->setScrollEnabled(false);
+        break;
     default:
         break;
     }
     purityPanel->puritySelected = false;
     gradientPanel->m_userChanged = false;
+    cabinetPanel->m_userChanged = false;
 }
 
 // Brings the grid's run back to what it was when the tab changes.

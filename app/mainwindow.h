@@ -20,6 +20,7 @@ class QKeyEvent;
 class QSettings;
 class ScrGridCtrlDialog;
 class ScrPurityCtrlDialog;
+class TarnTool;
 
 namespace Ui {
 class MainWindow;
@@ -114,6 +115,7 @@ private:
     ScrGridCtrlDialog *gridPanel = nullptr;
     ScrPurityCtrlDialog *purityPanel = nullptr;
     GradualChangeCtrlWidget *gradientPanel = nullptr;
+    TarnTool *cabinetPanel = nullptr;
     GridDrawer *spareGridDrawer = nullptr; // used by nothing; part of the window all the same
     qint16 cycleTab = 0; // where the page keys stand
     int currentTabIndex = 0;

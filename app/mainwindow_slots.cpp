@@ -8,6 +8,7 @@
 #include "mainwindow.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
+#include "tarntool.h"
 
 #include <QSettings>
 
@@ -62,6 +63,8 @@ void MainWindow::initTestWindowSlots()
             &P::slot_drawWidgetSizeChange);
     connect(&testWindow, &DrawContainer::signal_drawWidgetPositionChange, placementPanel,
             &P::slot_drawWidgetPositionChange);
+    connect(&testWindow, &DrawContainer::signal_drawWidgetSizeChange, cabinetPanel,
+            &TarnTool::slot_drawerSizeChanged);
     connect(placementPanel, &P::signal_screenMaxSizeChanged, &testWindow,
             &DrawContainer::slot_setScreenMaxSize);
     connect(this, &MainWindow::signal_sendScreenMaxSize, placementPanel, &P::getScreenSize);
@@ -104,6 +107,8 @@ void MainWindow::initPanelSlots()
     connect(this, &MainWindow::signal_stopGreyChanged, gridPanel, &Grid::slot_stopStartPauseStatus);
     connect(gridPanel, &Grid::signal_gridAutoChange, purityPanel, &Purity::slot_stopChangeGrey);
     connect(purityPanel, &Purity::signal_purityAutoChange, gridPanel, &Grid::slot_stopPauseStatus);
+    connect(this, &MainWindow::signal_forbidTarnToolCtrls, cabinetPanel,
+            &TarnTool::slot_forbidControls);
 }
 
 // Gives the arrow keys and the test window's overlay to the current panel.

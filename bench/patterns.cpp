@@ -2,6 +2,7 @@
 
 #include "gradualchange.h"
 #include "griddrawer.h"
+#include "scrgrid.h"
 #include "scrpurity.h"
 
 #include <QWidget>
@@ -47,6 +48,51 @@ MakePattern restingGradient(short level)
     };
 }
 
+// How large a module is and how many of them, in a row and in a column, a scan board has.
+struct Cabinet
+{
+    QSize module;
+    int perScanBoard;
+};
+
+constexpr Cabinet usualCabinet{{32, 16}, 2};
+constexpr Cabinet smallestCabinet{{16, 16}, 1}; // the most numbers
+
+std::unique_ptr<ScrGrid> shownCabinet(QWidget *testWindow, const Cabinet &cabinet)
+{
+    auto drawer = std::make_unique<ScrGrid>(testWindow);
+    drawer->m_moduleWidth = cabinet.module.width();
+    drawer->m_moduleHeight = cabinet.module.height();
+    drawer->m_moduleColumnCount = cabinet.perScanBoard;
+    drawer->m_moduleRowCount = cabinet.perScanBoard;
+    drawer->m_bgColor = Qt::black;
+    drawer->m_fontColor = Qt::yellow;
+    drawer->m_moduleLineColor = Qt::red;
+    drawer->m_scanColor = Qt::blue;
+    drawer->m_layoutOn = true;
+    return drawer;
+}
+
+MakePattern restingCabinet(const Cabinet &cabinet)
+{
+    return [cabinet](QWidget *testWindow) -> Pattern {
+        auto drawer = shownCabinet(testWindow, cabinet);
+        const ScrGrid *const shown = drawer.get();
+        return {std::move(drawer), [] {}, [shown] { return shown->isDrawnInFull(); }};
+    };
+}
+
+// Other numbers at every painting.
+MakePattern changingCabinet(const Cabinet &cabinet)
+{
+    return [cabinet](QWidget *testWindow) -> Pattern {
+        auto drawer = shownCabinet(testWindow, cabinet);
+        ScrGrid *const changed = drawer.get();
+        return {std::move(drawer),
+                [changed] { changed->m_beginRow = changed->m_beginRow % 9 + 1; }};
+    };
+}
+
 } // namespace
 
 const std::vector<PatternRow> &patternRows()
@@ -63,6 +109,10 @@ const std::vector<PatternRow> &patternRows()
         {"gradient, 32 levels", restingGradient(32)},
         {"gradient, 256 levels", restingGradient(256)},
         {"purity", steppingPurity},
+        {"cabinet, unchanged", restingCabinet(usualCabinet)},
+        {"cabinet, unchanged, 16 x 16", restingCabinet(smallestCabinet)},
+        {"cabinet, changed", changingCabinet(usualCabinet)},
+        {"cabinet, changed, 16 x 16", changingCabinet(smallestCabinet)},
     };
     return rows;
 }

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="zh_CN">
 <context>
+    <name>AdvancedSetup</name>
+    <message>
+        <source>常规</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>加粗</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>斜体</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>字体</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>字形</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
+        <source>行起始数</source>
+        <translation>Erste Zeile</translation>
+    </message>
+    <message>
+        <source>列起始数</source>
+        <translation>Erste Spalte</translation>
+    </message>
+    <message>
+        <source>模块线宽</source>
+        <translation>Modullinie</translation>
+    </message>
+    <message>
+        <source>扫描版线宽</source>
+        <translation>Kartenlinie</translation>
+    </message>
+</context>
+<context>
     <name>CommonHelper</name>
     <message>
         <source>红</source>
@@ -338,6 +393,69 @@
     <message>
         <source>暂停</source>
         <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>TarnTool</name>
+    <message>
+        <source>模块宽度</source>
+        <translation>Modulbreite</translation>
+    </message>
+    <message>
+        <source>模块高度</source>
+        <translation>Modulhöhe</translation>
+    </message>
+    <message>
+        <source>模块行数</source>
+        <translation>Modulzeilen</translation>
+    </message>
+    <message>
+        <source>模块列数</source>
+        <translation>Modulspalten</translation>
+    </message>
+    <message>
+        <source>字体颜色</source>
+        <translation>Zahlenfarbe</translation>
+    </message>
+    <message>
+        <source>模块线颜色</source>
+        <translation>Modullinien</translation>
+    </message>
+    <message>
+        <source>扫描板颜色</source>
+        <translation>Kartenlinien</translation>
+    </message>
+    <message>
+        <source>从左到右</source>
+        <translation>Links nach rechts</translation>
+    </message>
+    <message>
+        <source>从右到左</source>
+        <translation>Rechts nach links</translation>
+    </message>
+    <message>
+        <source>纯色背景</source>
+        <translation>Einfarbig</translation>
+    </message>
+    <message>
+        <source>背景图</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>选择背景图</source>
+        <translation>Hintergrundbild wählen</translation>
+    </message>
+    <message>
+        <source>图片文件 (*.jpg *.png *.bmp)</source>
+        <translation>Bilder (*.jpg *.png *.bmp)</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="zh_CN">
 <context>
+    <name>AdvancedSetup</name>
+    <message>
+        <source>常规</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>加粗</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>斜体</source>
+        <translation>Italic</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Advanced</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>字体</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>字形</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>行起始数</source>
+        <translation>First row</translation>
+    </message>
+    <message>
+        <source>列起始数</source>
+        <translation>First column</translation>
+    </message>
+    <message>
+        <source>模块线宽</source>
+        <translation>Module line</translation>
+    </message>
+    <message>
+        <source>扫描版线宽</source>
+        <translation>Board line</translation>
+    </message>
+</context>
+<context>
     <name>CommonHelper</name>
     <message>
         <source>红</source>
@@ -338,6 +393,69 @@
     <message>
         <source>暂停</source>
         <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>TarnTool</name>
+    <message>
+        <source>模块宽度</source>
+        <translation>Module width</translation>
+    </message>
+    <message>
+        <source>模块高度</source>
+        <translation>Module height</translation>
+    </message>
+    <message>
+        <source>模块行数</source>
+        <translation>Module rows</translation>
+    </message>
+    <message>
+        <source>模块列数</source>
+        <translation>Module columns</translation>
+    </message>
+    <message>
+        <source>字体颜色</source>
+        <translation>Number colour</translation>
+    </message>
+    <message>
+        <source>模块线颜色</source>
+        <translation>Module lines</translation>
+    </message>
+    <message>
+        <source>扫描板颜色</source>
+        <translation>Board lines</translation>
+    </message>
+    <message>
+        <source>从左到右</source>
+        <translation>Left to right</translation>
+    </message>
+    <message>
+        <source>从右到左</source>
+        <translation>Right to left</translation>
+    </message>
+    <message>
+        <source>纯色背景</source>
+        <translation>Solid colour</translation>
+    </message>
+    <message>
+        <source>背景图</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Advanced</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>选择背景图</source>
+        <translation>Choose a background picture</translation>
+    </message>
+    <message>
+        <source>图片文件 (*.jpg *.png *.bmp)</source>
+        <translation>Pictures (*.jpg *.png *.bmp)</translation>
     </message>
 </context>
 <context>

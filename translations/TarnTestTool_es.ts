@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="zh_CN">
 <context>
+    <name>AdvancedSetup</name>
+    <message>
+        <source>常规</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>加粗</source>
+        <translation>Negrita</translation>
+    </message>
+    <message>
+        <source>斜体</source>
+        <translation>Cursiva</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Avanzado</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>字体</source>
+        <translation>Fuente</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>字形</source>
+        <translation>Estilo</translation>
+    </message>
+    <message>
+        <source>行起始数</source>
+        <translation>Primera fila</translation>
+    </message>
+    <message>
+        <source>列起始数</source>
+        <translation>Primera col.</translation>
+    </message>
+    <message>
+        <source>模块线宽</source>
+        <translation>Línea módulo</translation>
+    </message>
+    <message>
+        <source>扫描版线宽</source>
+        <translation>Línea tarjeta</translation>
+    </message>
+</context>
+<context>
     <name>CommonHelper</name>
     <message>
         <source>红</source>
@@ -338,6 +393,69 @@
     <message>
         <source>暂停</source>
         <translation>Pausa</translation>
+    </message>
+</context>
+<context>
+    <name>TarnTool</name>
+    <message>
+        <source>模块宽度</source>
+        <translation>Ancho módulo</translation>
+    </message>
+    <message>
+        <source>模块高度</source>
+        <translation>Alto módulo</translation>
+    </message>
+    <message>
+        <source>模块行数</source>
+        <translation>Filas módulos</translation>
+    </message>
+    <message>
+        <source>模块列数</source>
+        <translation>Columnas mód.</translation>
+    </message>
+    <message>
+        <source>字体颜色</source>
+        <translation>Color números</translation>
+    </message>
+    <message>
+        <source>模块线颜色</source>
+        <translation>Líneas módulos</translation>
+    </message>
+    <message>
+        <source>扫描板颜色</source>
+        <translation>Líneas tarjetas</translation>
+    </message>
+    <message>
+        <source>从左到右</source>
+        <translation>Izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>从右到左</source>
+        <translation>Derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>纯色背景</source>
+        <translation>Color sólido</translation>
+    </message>
+    <message>
+        <source>背景图</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Avanzado</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Diseño</translation>
+    </message>
+    <message>
+        <source>选择背景图</source>
+        <translation>Elegir una imagen de fondo</translation>
+    </message>
+    <message>
+        <source>图片文件 (*.jpg *.png *.bmp)</source>
+        <translation>Imágenes (*.jpg *.png *.bmp)</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="zh_CN">
 <context>
+    <name>AdvancedSetup</name>
+    <message>
+        <source>常规</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>加粗</source>
+        <translation>Gras</translation>
+    </message>
+    <message>
+        <source>斜体</source>
+        <translation>Italique</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Avancé</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>字体</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>字形</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>行起始数</source>
+        <translation>1re ligne</translation>
+    </message>
+    <message>
+        <source>列起始数</source>
+        <translation>1re colonne</translation>
+    </message>
+    <message>
+        <source>模块线宽</source>
+        <translation>Trait module</translation>
+    </message>
+    <message>
+        <source>扫描版线宽</source>
+        <translation>Trait carte</translation>
+    </message>
+</context>
+<context>
     <name>CommonHelper</name>
     <message>
         <source>红</source>
@@ -338,6 +393,69 @@
     <message>
         <source>暂停</source>
         <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>TarnTool</name>
+    <message>
+        <source>模块宽度</source>
+        <translation>Largeur module</translation>
+    </message>
+    <message>
+        <source>模块高度</source>
+        <translation>Hauteur module</translation>
+    </message>
+    <message>
+        <source>模块行数</source>
+        <translation>Rangs modules</translation>
+    </message>
+    <message>
+        <source>模块列数</source>
+        <translation>Colonnes mod.</translation>
+    </message>
+    <message>
+        <source>字体颜色</source>
+        <translation>Coul. numéros</translation>
+    </message>
+    <message>
+        <source>模块线颜色</source>
+        <translation>Traits modules</translation>
+    </message>
+    <message>
+        <source>扫描板颜色</source>
+        <translation>Traits cartes</translation>
+    </message>
+    <message>
+        <source>从左到右</source>
+        <translation>De gauche à droite</translation>
+    </message>
+    <message>
+        <source>从右到左</source>
+        <translation>De droite à gauche</translation>
+    </message>
+    <message>
+        <source>纯色背景</source>
+        <translation>Uni</translation>
+    </message>
+    <message>
+        <source>背景图</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Avancé</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>选择背景图</source>
+        <translation>Choisir une image de fond</translation>
+    </message>
+    <message>
+        <source>图片文件 (*.jpg *.png *.bmp)</source>
+        <translation>Images (*.jpg *.png *.bmp)</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="zh_CN">
 <context>
+    <name>AdvancedSetup</name>
+    <message>
+        <source>常规</source>
+        <translation>Обычный</translation>
+    </message>
+    <message>
+        <source>加粗</source>
+        <translation>Жирный</translation>
+    </message>
+    <message>
+        <source>斜体</source>
+        <translation>Курсив</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Дополнительно</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>字体</source>
+        <translation>Шрифт</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Размер</translation>
+    </message>
+    <message>
+        <source>字形</source>
+        <translation>Начертание</translation>
+    </message>
+    <message>
+        <source>行起始数</source>
+        <translation>Строки с №</translation>
+    </message>
+    <message>
+        <source>列起始数</source>
+        <translation>Столбцы с №</translation>
+    </message>
+    <message>
+        <source>模块线宽</source>
+        <translation>Линия модуля</translation>
+    </message>
+    <message>
+        <source>扫描版线宽</source>
+        <translation>Линия платы</translation>
+    </message>
+</context>
+<context>
     <name>CommonHelper</name>
     <message>
         <source>红</source>
@@ -338,6 +393,69 @@
     <message>
         <source>暂停</source>
         <translation>Пауза</translation>
+    </message>
+</context>
+<context>
+    <name>TarnTool</name>
+    <message>
+        <source>模块宽度</source>
+        <translation>Ширина модуля</translation>
+    </message>
+    <message>
+        <source>模块高度</source>
+        <translation>Высота модуля</translation>
+    </message>
+    <message>
+        <source>模块行数</source>
+        <translation>Строк модулей</translation>
+    </message>
+    <message>
+        <source>模块列数</source>
+        <translation>Столбц. модул.</translation>
+    </message>
+    <message>
+        <source>字体颜色</source>
+        <translation>Цвет номеров</translation>
+    </message>
+    <message>
+        <source>模块线颜色</source>
+        <translation>Линии модулей</translation>
+    </message>
+    <message>
+        <source>扫描板颜色</source>
+        <translation>Линии плат</translation>
+    </message>
+    <message>
+        <source>从左到右</source>
+        <translation>Слева направо</translation>
+    </message>
+    <message>
+        <source>从右到左</source>
+        <translation>Справа налево</translation>
+    </message>
+    <message>
+        <source>纯色背景</source>
+        <translation>Цвет фона</translation>
+    </message>
+    <message>
+        <source>背景图</source>
+        <translation>Картинка</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>Ещё…</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>Раскладка</translation>
+    </message>
+    <message>
+        <source>选择背景图</source>
+        <translation>Выбор фоновой картинки</translation>
+    </message>
+    <message>
+        <source>图片文件 (*.jpg *.png *.bmp)</source>
+        <translation>Картинки (*.jpg *.png *.bmp)</translation>
     </message>
 </context>
 <context>

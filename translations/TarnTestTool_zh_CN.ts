@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="zh_CN">
 <context>
+    <name>AdvancedSetup</name>
+    <message>
+        <source>常规</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>加粗</source>
+        <translation>加粗</translation>
+    </message>
+    <message>
+        <source>斜体</source>
+        <translation>斜体</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>高级设置</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>字体</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>字形</source>
+        <translation>字形</translation>
+    </message>
+    <message>
+        <source>行起始数</source>
+        <translation>行起始数</translation>
+    </message>
+    <message>
+        <source>列起始数</source>
+        <translation>列起始数</translation>
+    </message>
+    <message>
+        <source>模块线宽</source>
+        <translation>模块线宽</translation>
+    </message>
+    <message>
+        <source>扫描版线宽</source>
+        <translation>扫描版线宽</translation>
+    </message>
+</context>
+<context>
     <name>CommonHelper</name>
     <message>
         <source>红</source>
@@ -338,6 +393,69 @@
     <message>
         <source>暂停</source>
         <translation>暂停</translation>
+    </message>
+</context>
+<context>
+    <name>TarnTool</name>
+    <message>
+        <source>模块宽度</source>
+        <translation>模块宽度</translation>
+    </message>
+    <message>
+        <source>模块高度</source>
+        <translation>模块高度</translation>
+    </message>
+    <message>
+        <source>模块行数</source>
+        <translation>模块行数</translation>
+    </message>
+    <message>
+        <source>模块列数</source>
+        <translation>模块列数</translation>
+    </message>
+    <message>
+        <source>字体颜色</source>
+        <translation>字体颜色</translation>
+    </message>
+    <message>
+        <source>模块线颜色</source>
+        <translation>模块线颜色</translation>
+    </message>
+    <message>
+        <source>扫描板颜色</source>
+        <translation>扫描板颜色</translation>
+    </message>
+    <message>
+        <source>从左到右</source>
+        <translation>从左到右</translation>
+    </message>
+    <message>
+        <source>从右到左</source>
+        <translation>从右到左</translation>
+    </message>
+    <message>
+        <source>纯色背景</source>
+        <translation>纯色背景</translation>
+    </message>
+    <message>
+        <source>背景图</source>
+        <translation>背景图</translation>
+    </message>
+    <message>
+        <source>高级设置</source>
+        <translation>高级设置</translation>
+    </message>
+    <message>
+        <source>定位</source>
+        <translation>定位</translation>
+    </message>
+    <message>
+        <source>选择背景图</source>
+        <translation>选择背景图</translation>
+    </message>
+    <message>
+        <source>图片文件 (*.jpg *.png *.bmp)</source>
+        <translation>图片文件 (*.jpg *.png *.bmp)</translation>
     </message>
 </context>
 <context>

@@ -95,6 +95,7 @@ void TestAccessibility::focusOrder_followsTheEye_data()
     QTest::newRow("purity") << 1 << 15;
     QTest::newRow("gradient") << 2 << 11;
     QTest::newRow("grid") << 3 << 20;
+    QTest::newRow("cabinet") << 4 << 15;
 }
 
 // In rows from the top, each from the left. Controls of one row overlap in height.

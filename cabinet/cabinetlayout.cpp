@@ -1,0 +1,261 @@
+#include "cabinetlayout.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+// Beyond these, in pixels, points and pixels, nothing visible depends on the exact value; Qt
+// draws lines up to that width.
+constexpr qint64 longestSide = 1 << 22;
+constexpr int largestFont = 1000;
+constexpr int widestLine = 32767;
+
+bool isGeneral(CabinetLayout::Layer layer)
+{
+    return layer <= CabinetLayout::SlantRightLines;
+}
+
+bool isRows(CabinetLayout::Layer family)
+{
+    return family == CabinetLayout::HoriLines || family == CabinetLayout::ModuleRows
+           || family == CabinetLayout::ScanRows;
+}
+
+bool isColumns(CabinetLayout::Layer family)
+{
+    return family == CabinetLayout::VertLines || family == CabinetLayout::ModuleColumns
+           || family == CabinetLayout::ScanColumns;
+}
+
+int penWidth(int wanted)
+{
+    return qBound(0, wanted, widestLine);
+}
+
+int cellLength(qint64 length)
+{
+    return int(qBound(qint64(0), length, longestSide));
+}
+
+// At least two digits.
+QString numberText(qint64 number)
+{
+    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace
+
+bool CabinetLayout::Outline::operator==(const Outline &other) const
+{
+    return std::tie(width, height, lineWidth, color)
+           == std::tie(other.width, other.height, other.lineWidth, other.color);
+}
+
+bool CabinetLayout::operator==(const CabinetLayout &other) const
+{
+    const auto key = [](const CabinetLayout &l) {
+        return std::tie(l.size, l.background, l.pen, l.brush, l.font, l.dotsPerInch, l.direction,
+                        l.lineStart, l.lineStep, l.layoutOn, l.module, l.scanBoard, l.leftToRight,
+                        l.fontColor, l.fontSize, l.fontShape, l.beginRow, l.beginColumn);
+    };
+    return key(*this) == key(other)
+           && std::equal(std::begin(generalLines), std::end(generalLines),
+                         std::begin(other.generalLines));
+}
+
+void CabinetLayout::preparePainter(QPainter &painter) const
+{
+    painter.setFont(font);
+    painter.setLayoutDirection(direction);
+    painter.setPen(pen);
+    painter.setBrush(brush);
+}
+
+void CabinetLayout::drawBackground(QPainter &painter) const
+{
+    const QRect all(QPoint(0, 0), size);
+    const bool isPicture = background.style() == Qt::TexturePattern;
+    if (!background.isOpaque() || (isPicture && background.texture().isNull()))
+        painter.fillRect(all, Qt::black);
+    if (isPicture)
+        painter.drawTiledPixmap(all, background.texture());
+    else
+        painter.fillRect(all, background);
+}
+
+qint64 CabinetLayout::strokeCount(Layer layer) const
+{
+    if (isGeneral(layer))
+        return generalLines[layer] ? lines(layer).count : 0;
+    if (!layoutOn)
+        return 0;
+    return layer == Numbers ? rowCount() : lines(layer).count;
+}
+
+void CabinetLayout::drawLayer(QPainter &painter, Layer layer) const
+{
+    drawStrokes(painter, layer, 0, strokeCount(layer));
+}
+
+void CabinetLayout::drawStrokes(QPainter &painter, Layer layer, qint64 from, qint64 to) const
+{
+    const QPen oldPen = painter.pen();
+    if (layer == Numbers) {
+        const QFont oldFont = painter.font();
+        painter.setPen(numberPen(painter));
+        painter.setFont(numberFont(painter));
+        for (qint64 row = from; row < to; ++row)
+            drawNumbers(painter, row);
+        painter.setFont(oldFont);
+    } else {
+        painter.setPen(linePen(oldPen, layer));
+        for (qint64 stroke = from; stroke < to; ++stroke)
+            painter.drawLine(line(layer, position(layer, stroke)));
+    }
+    painter.setPen(oldPen);
+}
+
+void CabinetLayout::drawLines(QPainter &painter, Layer family) const
+{
+    drawStrokes(painter, family, 0, lines(family).count);
+}
+
+void CabinetLayout::drawText(QPainter &painter) const
+{
+    drawStrokes(painter, Numbers, 0, rowCount());
+}
+
+int CabinetLayout::position(Layer family, qint64 stroke) const
+{
+    const Lines all = lines(family);
+    return int(all.first + stroke * all.step);
+}
+
+int CabinetLayout::reach(Layer family) const
+{
+    const int width = isGeneral(family) ? pen.width() : penWidth(outline(family).lineWidth);
+    return qMax(1, width) + 3;
+}
+
+// Lines too far before the window to be seen are left out, or a start far below 0 would take
+// for ever.
+CabinetLayout::Lines CabinetLayout::ascending(qint64 first, qint64 step, qint64 last, qint64 reach)
+{
+    if (step < 1)
+        return {};
+    if (first < -reach)
+        first += (-reach - first + step - 1) / step * step;
+    return {first, step, first <= last ? (last - first) / step + 1 : 0};
+}
+
+CabinetLayout::Lines CabinetLayout::lines(Layer family) const
+{
+    const qint64 margin = reach(family);
+    qint64 step = lineStep;
+    if (!isGeneral(family))
+        step = isRows(family) ? outline(family).height : outline(family).width;
+    if (family == SlantLeftLines)
+        return ascending(lineStart, step, 2 * qint64(side()), margin);
+    if (family == SlantRightLines) // without a line at the very end: wanted
+        return ascending(lineStart, step, 2 * qint64(side()) - 1, margin);
+    if (isRows(family))
+        return ascending(lineStart, step, size.height(), margin);
+    if (leftToRight || isGeneral(family))
+        return ascending(lineStart, step, size.width(), margin);
+    const qint64 nearest = qMax(qint64(lineStart), -margin);
+    if (step < 1 || size.width() < nearest)
+        return {};
+    return {size.width(), -step, (size.width() - nearest) / step + 1};
+}
+
+const CabinetLayout::Outline &CabinetLayout::outline(Layer family) const
+{
+    return family == ModuleRows || family == ModuleColumns ? module : scanBoard;
+}
+
+QLine CabinetLayout::line(Layer family, int position) const
+{
+    if (isRows(family))
+        return {0, position, size.width(), position};
+    if (isColumns(family))
+        return {position, 0, position, size.height()};
+    if (family == SlantLeftLines)
+        return {0, position, position, 0};
+    return {0, side() - position, position, side()};
+}
+
+QPen CabinetLayout::linePen(QPen linePen, Layer family) const
+{
+    if (!isGeneral(family)) {
+        linePen.setColor(outline(family).color);
+        linePen.setWidth(penWidth(outline(family).lineWidth));
+    }
+    return linePen;
+}
+
+qint64 CabinetLayout::rowCount() const
+{
+    const int height = cellLength(scanBoard.height);
+    return height > 0 && size.height() >= 0 ? size.height() / height + 1 : 0;
+}
+
+qint64 CabinetLayout::columnCount() const
+{
+    const int width = cellLength(scanBoard.width);
+    return width > 0 && size.width() >= 0 ? size.width() / width + 1 : 0;
+}
+
+// From right to left the last column may lie beyond the left edge, and from left to right
+// beyond the right one: wanted.
+QRect CabinetLayout::cell(qint64 row, qint64 column) const
+{
+    const int width = cellLength(scanBoard.width);
+    const int height = cellLength(scanBoard.height);
+    const qint64 left = leftToRight ? column * width : size.width() - (column + 1) * width;
+    return {int(left), int(row * height), width, height};
+}
+
+QString CabinetLayout::rowText(qint64 row) const
+{
+    return numberText(beginRow + row);
+}
+
+QString CabinetLayout::columnText(qint64 column) const
+{
+    return numberText(beginColumn + column);
+}
+
+void CabinetLayout::drawNumbers(QPainter &painter, qint64 row) const
+{
+    const qint64 columns = columnCount();
+    const QString text = rowText(row);
+    for (qint64 column = 0; column < columns; ++column)
+        painter.drawText(cell(row, column), Qt::AlignCenter, text + columnText(column));
+}
+
+QPen CabinetLayout::numberPen(const QPainter &painter) const
+{
+    QPen numberPen = painter.pen();
+    numberPen.setColor(fontColor);
+    numberPen.setWidth(penWidth(fontSize));
+    return numberPen;
+}
+
+QFont CabinetLayout::numberFont(const QPainter &painter) const
+{
+    QFont numberFont = painter.font();
+    if (fontSize > 0)
+        numberFont.setPointSize(qMin(fontSize, largestFont));
+    if (fontShape == 0 || fontShape == 1)
+        numberFont.setStyle(QFont::StyleNormal);
+    if (fontShape == 2)
+        numberFont.setStyle(QFont::StyleItalic);
+    if (fontShape == 0 || fontShape == 2)
+        numberFont.setWeight(QFont::Normal);
+    if (fontShape == 1)
+        numberFont.setWeight(QFont::Bold);
+    return numberFont;
+}

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "drawcontainer.h"
+#include "scrgridrig.h"
+
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+// What stands on the screen where the window is.
+inline QImage onScreen(const QWidget &window)
+{
+    return window.screen()
+        ->grabWindow(window.winId())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+// Counts how often a widget is painted.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++count;
+        return QObject::eventFilter(watched, event);
+    }
+
+    int count = 0;
+};
+
+// The cabinet drawer on the real test window, with a style sheet as in the program, and
+// with one module so large that only the background is to be seen but for the first 2 rows
+// and columns.
+struct ScrGridWindow
+{
+    static constexpr QRect place = QRect(20, 30, 100, 60);
+
+    ScrGridWindow()
+        : drawer(&window)
+        , paints(window)
+    {
+        window.setStyleSheet(QStringLiteral("QWidget{background-color:#ffff00;}"));
+        showFirstStart(drawer);
+        drawer.m_moduleWidth = 1000;
+        drawer.m_moduleHeight = 1000;
+        window.setDrawer(&drawer, true);
+        window.setGeometry(place);
+        window.show();
+    }
+
+    bool shows(QRgb color) const
+    {
+        const QImage image = onScreen(window);
+        QImage expected(place.size() - QSize(2, 2), QImage::Format_RGB32);
+        expected.fill(color);
+        return image.copy(QRect(QPoint(2, 2), expected.size())) == expected;
+    }
+
+    QTimer *refreshTimer() const { return window.findChild<QTimer *>(); }
+
+    // Nothing is under way any more.
+    bool settle()
+    {
+        refreshTimer()->stop();
+        const int before = paints.count;
+        QTest::qWait(0);
+        return QTest::qWaitFor([&] {
+                   const int now = paints.count;
+                   QCoreApplication::processEvents();
+                   return now == paints.count;
+               })
+               && paints.count - before < 5;
+    }
+
+    DrawContainer window;
+    ScrGrid drawer;
+    PaintCounter paints;
+};

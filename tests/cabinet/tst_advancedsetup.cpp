@@ -1,0 +1,378 @@
+#include "advancedsetup.h"
+#include "cabinetrig.h"
+#include "dictionary.h"
+#include "titlebar.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QToolButton>
+#include <QtTest>
+
+#include <limits>
+
+namespace {
+
+const char *const boxNames[] = {"boxFontSize", "boxBeginRow", "boxBeginColumn", "boxModeWidth",
+                                "boxScanWidth"};
+const char *const keys[] = {"advanceFontSize",  "advanceBeginRow",  "advanceBeginColumn",
+                            "advanceModeWidth", "advanceScanWidth", "advanceFontShape"};
+constexpr int shape = 5; // the place of the font shape among the fields
+
+QVector<int> fields(const ScrGrid &drawer)
+{
+    return {drawer.m_fontSize,        drawer.m_beginRow,      drawer.m_beginColumn,
+            drawer.m_moduleLineWidth, drawer.m_scanLineWidth, drawer.m_fontShape};
+}
+
+bool isLaidOut(const QWidget &widget)
+{
+    for (const char *kind : {"QLabel", "QSpinBox", "QComboBox", "QPushButton"}) {
+        if (widget.inherits(kind))
+            return true;
+    }
+    return false;
+}
+
+// The dialog over a drawer, a test window and a settings file of its own.
+struct SetupRig
+{
+    explicit SetupRig(const QVariantMap &values = {})
+        : settings(values)
+    {
+        drawer.m_layoutOn = true;
+        drawer.m_bgColor = Qt::black;
+        drawer.m_fontColor = Qt::yellow;
+        drawer.m_moduleLineColor = Qt::red;
+        drawer.m_scanColor = Qt::blue;
+        canvas.setDrawer(&drawer);
+    }
+
+    AdvancedSetup &dialog()
+    {
+        if (!m_dialog)
+            m_dialog = std::make_unique<AdvancedSetup>(settings.get(), &drawer, nullptr);
+        return *m_dialog;
+    }
+    QSpinBox *box(int index)
+    {
+        return dialog().findChild<QSpinBox *>(QLatin1String(boxNames[index]));
+    }
+    QComboBox *combo() { return dialog().findChild<QComboBox *>(); }
+    QVector<int> shown()
+    {
+        QVector<int> values;
+        for (int index = 0; index < shape; ++index)
+            values << box(index)->value();
+        return values << combo()->currentIndex();
+    }
+
+    TestSettings settings;
+    Canvas canvas{QSize(128, 64)};
+    ScrGrid drawer{&canvas};
+
+private:
+    std::unique_ptr<AdvancedSetup> m_dialog;
+};
+
+} // namespace
+
+class TestAdvancedSetup : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void dialog_hasItsSizeTitleAndButtons();
+    void dialog_fitsItsContents();
+    void okAndCloseButton_closeTheDialog();
+    void emptySettings_showTheDefaults();
+    void limits_areThoseOfEachValue();
+    void storedFontShapeOf5OrMinus1_selectsNormal_data();
+    void storedFontShapeOf5OrMinus1_selectsNormal();
+    void storedValue_isShownClampedAndDrawnAsItIs_data();
+    void storedValue_isShownClampedAndDrawnAsItIs();
+    void opening_appliesTheStoredValuesAndStoresNothing();
+    void change_isStoredAndDrawnAtOnce_data();
+    void change_isStoredAndDrawnAtOnce();
+    void beginRowOf0_makesTheTopRowBeginWith00();
+    void moduleLineWidthOf10_showsBeforeTheDialogCloses();
+    void withoutSettings_valuesReachTheDrawer();
+    void withoutADrawer_nothingChanges();
+    void language_isAppliedToEveryText();
+    void controls_haveAccessibleNamesAndFollowTheEye();
+};
+
+void TestAdvancedSetup::dialog_hasItsSizeTitleAndButtons()
+{
+    SetupRig rig;
+    QCOMPARE(rig.dialog().maximumSize(), QSize(360, 220));
+    QCOMPARE(rig.dialog().windowTitle(), QStringLiteral("高级设置"));
+    QCOMPARE(rig.dialog().windowModality(), Qt::WindowModal);
+    QVERIFY(rig.dialog().styleSheet().contains(QStringLiteral("DialogPushBtn")));
+    QCOMPARE(AdvancedSetup::m_defaultBackgroundColor, QColor(48, 50, 56));
+    const auto *bar = rig.dialog().findChild<UX::Widgets::TitleBar *>();
+    QVERIFY(bar->titleButton(0)->isHidden());
+    QCOMPARE(bar->titleButton(4)->toolTip(), QStringLiteral("关闭"));
+    QVERIFY(!qobject_cast<QToolButton *>(bar->titleButton(4))->icon().isNull());
+    QVERIFY(bar->styleSheet().contains(QStringLiteral("background-color:rgb(48,50,56)")));
+
+    QStringList shown;
+    const auto buttons = rig.dialog().findChildren<QPushButton *>(QStringLiteral("DialogPushBtn"));
+    for (const QPushButton *button : buttons) {
+        if (!button->isHidden())
+            shown << button->text();
+    }
+    QCOMPARE(shown, QStringList(QStringLiteral("确定")));
+    QCOMPARE(rig.dialog().findChildren<QLabel *>(QStringLiteral("ContentSplitLabel")).size(), 1);
+}
+
+void TestAdvancedSetup::dialog_fitsItsContents()
+{
+    SetupRig rig;
+    rig.dialog().show();
+    QVERIFY(QTest::qWaitForWindowExposed(&rig.dialog()));
+    QCOMPARE(rig.dialog().size(), QSize(360, 220));
+    QVector<QRect> places;
+    const auto widgets = rig.dialog().findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (!widget->isVisible() || !isLaidOut(*widget))
+            continue;
+        const QRect place(widget->mapTo(&rig.dialog(), QPoint()), widget->size());
+        QVERIFY2(rig.dialog().rect().contains(place), qPrintable(widget->objectName()));
+        for (const QRect &other : places)
+            QVERIFY2(!other.intersects(place), qPrintable(widget->objectName()));
+        places << place;
+    }
+    QVERIFY(places.size() > 15);
+}
+
+void TestAdvancedSetup::okAndCloseButton_closeTheDialog()
+{
+    for (const bool ok : {true, false}) {
+        SetupRig rig;
+        rig.dialog().show();
+        const auto buttons =
+            rig.dialog().findChildren<QPushButton *>(QStringLiteral("DialogPushBtn"));
+        auto *close = qobject_cast<QToolButton *>(
+            rig.dialog().findChild<UX::Widgets::TitleBar *>()->titleButton(4));
+        for (QPushButton *button : buttons) {
+            if (ok && !button->isHidden())
+                button->click();
+        }
+        if (!ok)
+            close->click();
+        QVERIFY(!rig.dialog().isVisible());
+    }
+}
+
+void TestAdvancedSetup::emptySettings_showTheDefaults()
+{
+    SetupRig rig;
+    QCOMPARE(rig.shown(), QVector<int>({10, 1, 1, 1, 4, 0}));
+    QCOMPARE(fields(rig.drawer), QVector<int>({10, 1, 1, 1, 4, 0}));
+    QCOMPARE(rig.combo()->currentText(), QStringLiteral("常规"));
+}
+
+void TestAdvancedSetup::limits_areThoseOfEachValue()
+{
+    SetupRig rig;
+    const QPair<int, int> limits[] = {{1, 100}, {0, 100}, {0, 100}, {1, 10}, {1, 100}};
+    for (int index = 0; index < shape; ++index) {
+        QCOMPARE(rig.box(index)->minimum(), limits[index].first);
+        QCOMPARE(rig.box(index)->maximum(), limits[index].second);
+        QCOMPARE(rig.box(index)->contextMenuPolicy(), Qt::NoContextMenu);
+    }
+    QCOMPARE(rig.combo()->count(), 3);
+}
+
+void TestAdvancedSetup::storedFontShapeOf5OrMinus1_selectsNormal_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<int>("value");
+    QTest::newRow("5") << QVariant(5) << 0;
+    QTest::newRow("-1") << QVariant(-1) << 0;
+    QTest::newRow("3") << QVariant(3) << 0;
+    QTest::newRow("huge") << QVariant(std::numeric_limits<int>::max()) << 0;
+    QTest::newRow("text") << QVariant(QStringLiteral("bold")) << 0;
+    QTest::newRow("bold") << QVariant(1) << 1;
+    QTest::newRow("italic") << QVariant(QStringLiteral("2")) << 2;
+}
+
+void TestAdvancedSetup::storedFontShapeOf5OrMinus1_selectsNormal()
+{
+    QFETCH(const QVariant, stored);
+    QFETCH(const int, value);
+    SetupRig rig({{QStringLiteral("advanceFontShape"), stored}});
+    rig.drawer.m_fontShape = 9;
+    QCOMPARE(rig.combo()->currentIndex(), value);
+    QCOMPARE(rig.drawer.m_fontShape, value);
+}
+
+void TestAdvancedSetup::storedValue_isShownClampedAndDrawnAsItIs_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<int>("drawn"); // -1: the default
+    QTest::newRow("within") << QVariant(7) << 7;
+    QTest::newRow("beyond") << QVariant(5000) << 5000;
+    QTest::newRow("negative") << QVariant(-70) << -70;
+    QTest::newRow("greatest") << QVariant(std::numeric_limits<int>::max())
+                              << std::numeric_limits<int>::max();
+    QTest::newRow("text") << QVariant(QStringLiteral("x")) << 0;
+    QTest::newRow("beyond an int") << QVariant(QStringLiteral("99999999999")) << 0;
+    QTest::newRow("empty") << QVariant(QString()) << -1;
+    QTest::newRow("list") << QVariant(QStringList({QStringLiteral("3"), QStringLiteral("4")}))
+                          << -1;
+}
+
+void TestAdvancedSetup::storedValue_isShownClampedAndDrawnAsItIs()
+{
+    QFETCH(const QVariant, stored);
+    QFETCH(const int, drawn);
+    const int defaults[] = {10, 1, 1, 1, 4};
+    for (int index = 0; index < shape; ++index) {
+        SetupRig rig({{QLatin1String(keys[index]), stored}});
+        const int expected = drawn == -1 ? defaults[index] : drawn;
+        QCOMPARE(rig.box(index)->value(),
+                 qBound(rig.box(index)->minimum(), expected, rig.box(index)->maximum()));
+        QCOMPARE(fields(rig.drawer).at(index), expected);
+        QVERIFY(!rig.canvas.painted().isNull()); // in spite of it
+    }
+}
+
+void TestAdvancedSetup::opening_appliesTheStoredValuesAndStoresNothing()
+{
+    SetupRig rig({{QStringLiteral("advanceFontSize"), 500}});
+    QVERIFY(!rig.drawer.active);
+    rig.dialog().show();
+    QVERIFY(rig.drawer.active);
+    QCOMPARE(rig.drawer.m_fontSize, 500);
+    QCOMPARE(rig.settings.stored().size(), 1);
+    QCOMPARE(rig.settings.stored().first().toInt(), 500);
+}
+
+void TestAdvancedSetup::change_isStoredAndDrawnAtOnce_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("value");
+    for (int index = 0; index < shape; ++index)
+        QTest::newRow(boxNames[index]) << index << 6;
+    QTest::newRow("comboFontShape") << shape << 2;
+}
+
+void TestAdvancedSetup::change_isStoredAndDrawnAtOnce()
+{
+    QFETCH(const int, index);
+    QFETCH(const int, value);
+    SetupRig rig;
+    rig.dialog().show();
+    rig.drawer.active = false;
+    QVector<int> expected = fields(rig.drawer);
+    expected[index] = value;
+    if (index == shape)
+        rig.combo()->setCurrentIndex(value);
+    else
+        rig.box(index)->setValue(value);
+
+    QCOMPARE(fields(rig.drawer), expected);
+    QVERIFY(rig.drawer.active);
+    QCOMPARE(rig.settings->value(QStringLiteral("/setting/") + QLatin1String(keys[index])),
+             QVariant(value));
+    QCOMPARE(rig.settings.stored().size(), 1);
+}
+
+// 00 is the widest pair of digits at the left of a number of the top row; the numbers of the
+// second row begin with 01 then, as those of the top row do by default.
+void TestAdvancedSetup::beginRowOf0_makesTheTopRowBeginWith00()
+{
+    SetupRig rig;
+    rig.dialog().show();
+    const QImage one = rig.canvas.painted();
+    rig.box(1)->setValue(0);
+    const QImage zero = rig.canvas.painted();
+    const QRect top(4, 4, 56, 24);
+    const QRect second = top.translated(0, 32);
+    QVERIFY(zero.copy(top) != one.copy(top));
+    QCOMPARE(zero.copy(second), one.copy(top));
+}
+
+void TestAdvancedSetup::moduleLineWidthOf10_showsBeforeTheDialogCloses()
+{
+    SetupRig rig;
+    rig.dialog().show();
+    const QPoint besideTheLine(8, 19); // three pixels below the edge between two modules
+    const QRgb before = rig.canvas.painted().pixel(besideTheLine);
+    rig.box(3)->setValue(10);
+    QVERIFY(rig.dialog().isVisible());
+    QVERIFY(before != qRgb(255, 0, 0));
+    QCOMPARE(rig.canvas.painted().pixel(besideTheLine), qRgb(255, 0, 0));
+}
+
+void TestAdvancedSetup::withoutSettings_valuesReachTheDrawer()
+{
+    SetupRig rig;
+    AdvancedSetup dialog(nullptr, &rig.drawer, nullptr);
+    QCOMPARE(fields(rig.drawer), QVector<int>({10, 1, 1, 1, 4, 0}));
+    dialog.findChild<QSpinBox *>(QStringLiteral("boxScanWidth"))->setValue(30);
+    QCOMPARE(rig.drawer.m_scanLineWidth, 30);
+}
+
+void TestAdvancedSetup::withoutADrawer_nothingChanges()
+{
+    TestSettings settings;
+    AdvancedSetup dialog(settings.get(), nullptr, nullptr);
+    dialog.show();
+    dialog.findChild<QSpinBox *>(QStringLiteral("boxScanWidth"))->setValue(30);
+    dialog.slot_comboFontShapeCurrentIndexChanged(1);
+    QVERIFY(settings.stored().isEmpty());
+}
+
+void TestAdvancedSetup::language_isAppliedToEveryText()
+{
+    SetupRig rig;
+    const QStringList sources =
+        QStringLiteral("高级设置 关闭 确定 字体 大小 字形 行起始数 列起始数 模块线宽 扫描版线宽 "
+                       "常规 加粗 斜体")
+            .split(QLatin1Char(' '));
+    const auto texts = [&rig] {
+        QStringList all;
+        const auto labels = rig.dialog().findChildren<QLabel *>();
+        for (const QLabel *label : labels)
+            all << label->text();
+        const auto buttons = rig.dialog().findChildren<QPushButton *>();
+        for (const QPushButton *button : buttons)
+            all << button->text();
+        for (int index = 0; index < rig.combo()->count(); ++index)
+            all << rig.combo()->itemText(index);
+        return all << rig.dialog().windowTitle()
+                   << rig.dialog().findChild<UX::Widgets::TitleBar *>()->titleButton(4)->toolTip();
+    };
+    for (const QString &source : sources)
+        QVERIFY2(texts().contains(source), qPrintable(source));
+    QHash<QString, QString> words;
+    for (const QString &source : sources)
+        words[source] = QStringLiteral("w%1").arg(words.size());
+    const Dictionary dictionary(words);
+    rig.dialog().updateLanguage();
+    for (const QString &source : sources) {
+        QVERIFY2(!texts().contains(source), qPrintable(source));
+        QVERIFY2(texts().contains(words.value(source)), qPrintable(source));
+    }
+}
+
+void TestAdvancedSetup::controls_haveAccessibleNamesAndFollowTheEye()
+{
+    SetupRig rig;
+    rig.dialog().show();
+    QStringList names;
+    const QWidget *widget = rig.box(0);
+    do {
+        if ((widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy() && widget->isVisible())
+            names << (widget->accessibleName().isEmpty() ? widget->objectName()
+                                                         : widget->accessibleName());
+        widget = widget->nextInFocusChain();
+    } while (widget != rig.box(0));
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("大小 字形 行起始数 列起始数 模块线宽 扫描版线宽 DialogPushBtn"));
+}
+
+QTEST_MAIN(TestAdvancedSetup)
+#include "tst_advancedsetup.moc"

@@ -1,0 +1,333 @@
+#include "picturefolder.h"
+#include "scrgridrig.h"
+
+#include <QPainter>
+#include <QtTest>
+
+namespace {
+
+// What the first start shows at a point that is not close to a number: 32 x 16 pixels a module,
+// 2 x 2 modules a scan board; `fromOrigin` counts from where columns begin.
+QRgb expectedPixel(int fromOrigin, int y, bool leftToRight)
+{
+    // A line 4 pixels wide begins 2 pixels left of and above its position.
+    if ((fromOrigin + (leftToRight ? 2 : 1)) % 64 < 4 || (y + 2) % 32 < 4)
+        return LayoutColor::blue;
+    if (fromOrigin % 32 == 0 || y % 16 == 0)
+        return LayoutColor::red;
+    return LayoutColor::black;
+}
+
+constexpr QSize numberArea(44, 14); // in the middle of a cell; no number is larger
+
+bool isYellowish(QRgb pixel)
+{
+    return qRed(pixel) > 100 && qGreen(pixel) > 100 && qBlue(pixel) < 100;
+}
+
+QRect yellowIn(const QImage &image, const QRect &area)
+{
+    QRect found;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (isYellowish(image.pixel(x, y)))
+                found |= QRect(x, y, 1, 1);
+        }
+    }
+    return found;
+}
+
+// Empty, or the first pixel that is wrong.
+QString difference(const QImage &image, bool leftToRight)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const int fromOrigin = leftToRight ? x : image.width() - x;
+            const bool besideNumber = qAbs(fromOrigin % 64 - 32) > numberArea.width() / 2
+                                      || qAbs(y % 32 - 16) > numberArea.height() / 2;
+            if (besideNumber && image.pixel(x, y) != expectedPixel(fromOrigin, y, leftToRight))
+                return QStringLiteral("%1, %2 is %3")
+                    .arg(x)
+                    .arg(y)
+                    .arg(QColor(image.pixel(x, y)).name());
+        }
+    }
+    return {};
+}
+
+QImage white(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    return image;
+}
+
+// What a function of the drawer paints on an image that is larger than the window.
+template<typename Paint>
+QImage paintedBeyond(const ScrGridRig &rig, const Paint &paint)
+{
+    QImage image = white(rig.canvas.size() + QSize(100, 100));
+    QPainter painter(&image);
+    paint(painter);
+    return image;
+}
+
+// The columns that a row of pixels has something in.
+QVector<int> inkColumns(const QImage &image, int y)
+{
+    QVector<int> columns;
+    for (int x = 0; x < image.width(); ++x) {
+        if (image.pixel(x, y) != qRgb(255, 255, 255))
+            columns.append(x);
+    }
+    return columns;
+}
+
+QImage textInCell(const QSize &size, const QRect &cell, const QFont &font, const QString &text)
+{
+    QImage image = white(size);
+    QPainter painter(&image);
+    painter.setPen(Qt::yellow);
+    painter.setFont(font);
+    painter.drawText(cell, Qt::AlignCenter, text);
+    return image;
+}
+
+} // namespace
+
+class TestScrGrid : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void newDrawer_isInactiveAndPaintsNothing();
+    void draw_withoutBeingEnabledPaintsNothing();
+    void firstStart_showsModulesBoardsAndNumbers_data();
+    void firstStart_showsModulesBoardsAndNumbers();
+    void update_repaintsTheWindow();
+    void moduleWiderThanTheWindow_leavesOneLine();
+    void windowOfWholeCells_numbersOneMoreColumnBeyond();
+    void countingFromZero_startsWithFourZeros_data();
+    void countingFromZero_startsWithFourZeros();
+    void numbers_growInTheOrderOfTheColumns();
+    void fontShape_isNormalBoldItalicOrAsItWas_data();
+    void fontShape_isNormalBoldItalicOrAsItWas();
+    void bothSlants_endDifferently();
+    void missingPicture_leavesTheOneBefore();
+};
+
+void TestScrGrid::newDrawer_isInactiveAndPaintsNothing()
+{
+    Canvas canvas;
+    ScrGrid drawer(&canvas);
+    canvas.setDrawer(&drawer);
+
+    QVERIFY(!drawer.active);
+    QVERIFY(!drawer.m_bgColor.isValid());
+    QVERIFY(drawer.m_bgPicturePath.isEmpty());
+    const QImage image = canvas.painted(Qt::green);
+    QImage untouched = image;
+    untouched.fill(Qt::green);
+    QCOMPARE(image, untouched);
+}
+
+void TestScrGrid::draw_withoutBeingEnabledPaintsNothing()
+{
+    ScrGridRig rig;
+    rig.canvas.setDrawer(&rig.drawer, false);
+    QCOMPARE(rig.paintedOnce(), DirectLayout::blank(rig.canvas.size()));
+    QVERIFY(!rig.canvas.testAttribute(Qt::WA_SetPalette));
+}
+
+void TestScrGrid::firstStart_showsModulesBoardsAndNumbers_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("leftToRight");
+    QTest::newRow("left to right") << QSize(256, 256) << true;
+    QTest::newRow("right to left") << QSize(256, 256) << false;
+    QTest::newRow("with parts, left to right") << QSize(250, 247) << true;
+    QTest::newRow("with parts, right to left") << QSize(250, 247) << false;
+}
+
+void TestScrGrid::firstStart_showsModulesBoardsAndNumbers()
+{
+    QFETCH(const QSize, size);
+    QFETCH(const bool, leftToRight);
+    ScrGridRig rig(size);
+    rig.drawer.m_leftToRight = leftToRight;
+    const QImage image = rig.painted();
+
+    QCOMPARE(difference(image, leftToRight), QString());
+    for (int y = 0; y + 32 <= size.height(); y += 32) {
+        for (int column = 0; (column + 1) * 64 <= size.width(); ++column) {
+            const QRect cell(leftToRight ? column * 64 : size.width() - (column + 1) * 64, y, 64,
+                             32);
+            const QRect number = yellowIn(image, cell);
+            QVERIFY(number.width() > 16 && number.height() > 6);
+            QVERIFY(qAbs(number.center().x() - cell.center().x()) <= 2);
+            QVERIFY(qAbs(number.center().y() - cell.center().y()) <= 2);
+        }
+    }
+}
+
+void TestScrGrid::update_repaintsTheWindow()
+{
+    ScrGridRig rig;
+    rig.canvas.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&rig.canvas));
+    QTRY_VERIFY(rig.canvas.paintCount() > 0);
+    QCoreApplication::processEvents();
+    const int before = rig.canvas.paintCount();
+    rig.drawer.update();
+    QCOMPARE(rig.canvas.paintCount(), before); // not at once
+    QTRY_VERIFY(rig.canvas.paintCount() > before);
+}
+
+void TestScrGrid::moduleWiderThanTheWindow_leavesOneLine()
+{
+    ScrGridRig rig(QSize(100, 50));
+    rig.drawer.m_moduleWidth = 101;
+    rig.drawer.m_moduleHeight = 1000;
+    const auto columns = [&rig] {
+        return inkColumns(
+            paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawModuleLines(p); }), 20);
+    };
+    QCOMPARE(columns(), QVector<int>{0});
+    rig.drawer.m_leftToRight = false;
+    QCOMPARE(columns(), QVector<int>{100});
+}
+
+void TestScrGrid::windowOfWholeCells_numbersOneMoreColumnBeyond()
+{
+    ScrGridRig rig(QSize(128, 32));
+    const auto beyond = [&rig] {
+        const QImage image = paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawText(p); });
+        return yellowIn(image, QRect(128, 0, 90, 32));
+    };
+    QVERIFY(!beyond().isEmpty());
+    QVERIFY(QRect(128, 0, 64, 32).contains(beyond()));
+    rig.canvas.resize(127, 32);
+    QVERIFY(beyond().isEmpty());
+}
+
+void TestScrGrid::countingFromZero_startsWithFourZeros_data()
+{
+    QTest::addColumn<bool>("leftToRight");
+    QTest::addColumn<int>("left");
+    QTest::newRow("at the top left") << true << 0;
+    QTest::newRow("at the top right") << false << 36;
+}
+
+void TestScrGrid::countingFromZero_startsWithFourZeros()
+{
+    QFETCH(const bool, leftToRight);
+    QFETCH(const int, left);
+    ScrGridRig rig(QSize(100, 30));
+    rig.drawer.m_beginRow = 0;
+    rig.drawer.m_beginColumn = 0;
+    rig.drawer.m_leftToRight = leftToRight;
+    const QRect cell(left, 0, 64, 32);
+    const QImage image = paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawText(p); });
+    QFont font;
+    font.setPointSize(10);
+    const QImage expected = textInCell(image.size(), cell, font, QStringLiteral("0000"));
+    QCOMPARE(image.copy(cell), expected.copy(cell));
+}
+
+void TestScrGrid::numbers_growInTheOrderOfTheColumns()
+{
+    ScrGridRig rig(QSize(192, 96));
+    rig.drawer.m_beginRow = 11;
+    rig.drawer.m_beginColumn = 104;
+    QFont font;
+    font.setPointSize(10);
+    const QRect second(64, 32, 64, 32); // row and column
+    for (const bool leftToRight : {true, false}) {
+        rig.drawer.m_leftToRight = leftToRight;
+        const QImage image = paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawText(p); });
+        const QImage expected = textInCell(image.size(), second, font, QStringLiteral("12105"));
+        QCOMPARE(image.copy(second), expected.copy(second));
+        const QRect right(128, 0, 64, 32);
+        const QString text = leftToRight ? QStringLiteral("11106") : QStringLiteral("11104");
+        QCOMPARE(image.copy(right), textInCell(image.size(), right, font, text).copy(right));
+    }
+}
+
+void TestScrGrid::fontShape_isNormalBoldItalicOrAsItWas_data()
+{
+    QTest::addColumn<int>("shape");
+    QTest::addColumn<int>("weight");
+    QTest::addColumn<int>("style");
+    QTest::newRow("0, normal") << 0 << 50 << int(QFont::StyleNormal);
+    QTest::newRow("1, bold") << 1 << 75 << int(QFont::StyleNormal);
+    QTest::newRow("2, italic") << 2 << 50 << int(QFont::StyleItalic);
+    QTest::newRow("3, as it was") << 3 << 75 << int(QFont::StyleItalic);
+    QTest::newRow("-1, as it was") << -1 << 75 << int(QFont::StyleItalic);
+}
+
+void TestScrGrid::fontShape_isNormalBoldItalicOrAsItWas()
+{
+    QFETCH(const int, shape);
+    QFETCH(const int, weight);
+    QFETCH(const int, style);
+    ScrGridRig rig(QSize(60, 30));
+    rig.drawer.m_fontSize = 9;
+    rig.drawer.m_fontShape = shape;
+    QFont font;
+    font.setWeight(75);
+    font.setStyle(QFont::StyleItalic);
+    const QImage image = paintedBeyond(rig, [&](QPainter &p) {
+        p.setFont(font);
+        rig.drawer.drawText(p);
+    });
+    font.setPointSize(9);
+    font.setWeight(weight);
+    font.setStyle(QFont::Style(style));
+    const QRect cell(0, 0, 64, 32);
+    QCOMPARE(image, textInCell(image.size(), cell, font, QStringLiteral("0101")));
+}
+
+void TestScrGrid::bothSlants_endDifferently()
+{
+    ScrGridRig rig(QSize(8, 8));
+    rig.drawer.m_layoutOn = false;
+    rig.drawer.m_slantLeftLines = true;
+    rig.drawer.m_slantRightLines = true;
+    const QImage rising =
+        paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawSlantLeftLines(p); });
+    const QImage falling =
+        paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawSlantRightLines(p); });
+
+    QCOMPARE(inkColumns(rising, 0), (QVector<int>{0, 8, 16}));
+    QCOMPARE(inkColumns(rising, 3), (QVector<int>{5, 13}));
+    QCOMPARE(inkColumns(falling, 8), (QVector<int>{0, 8}));
+    QCOMPARE(inkColumns(falling, 3), QVector<int>{3}); // without the one from (0, -8) to (16, 8)
+    // Together on the window.
+    const QImage shown = rig.painted();
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < 8; ++x) {
+            const bool onLine = x + y == 0 || x + y == 8 || x == y;
+            QCOMPARE(shown.pixel(x, y) == LayoutColor::black, onLine);
+        }
+    }
+}
+
+void TestScrGrid::missingPicture_leavesTheOneBefore()
+{
+    PictureFolder pictures;
+    ScrGridRig rig(QSize(60, 40));
+    rig.drawer.setBackgroundImage(pictures.add(QColor(Qt::green)));
+    QCOMPARE(rig.painted().pixel(5, 5), LayoutColor::green);
+
+    const QString missing = pictures.path() + QStringLiteral("/missing");
+    rig.drawer.setBackgroundImage(missing);
+
+    QCOMPARE(rig.drawer.m_bgPicturePath, missing);
+    QCOMPARE(rig.painted().pixel(5, 5), LayoutColor::green);
+    rig.drawer.updateBackgroundImage();
+    QCOMPARE(rig.drawer.m_bgPicturePath, missing);
+    QCOMPARE(rig.painted().pixel(5, 5), LayoutColor::green);
+}
+
+QTEST_MAIN(TestScrGrid)
+#include "tst_scrgrid.moc"

@@ -1,0 +1,120 @@
+#include "picturefolder.h"
+#include "scrgridwindow.h"
+
+#include <QtTest>
+
+class TestScrGridPicture : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void picture_isStretchedWithoutSmoothing();
+    void picture_isStretchedAnewOnlyWhenAsked();
+    void translucentPicture_liesOverBlack();
+    void fileThatIsNoPicture_leavesBlack_data();
+    void fileThatIsNoPicture_leavesBlack();
+    void whatCannotBeRead_leavesThePictureBefore_data();
+    void whatCannotBeRead_leavesThePictureBefore();
+
+private:
+    PictureFolder m_pictures;
+    const QString m_red = m_pictures.add(QColor(Qt::red));
+};
+
+void TestScrGridPicture::picture_isStretchedWithoutSmoothing()
+{
+    QImage image(2, 2, QImage::Format_RGB32);
+    image.setPixel(0, 0, LayoutColor::red);
+    image.setPixel(1, 0, LayoutColor::green);
+    image.setPixel(0, 1, LayoutColor::blue);
+    image.setPixel(1, 1, LayoutColor::black);
+    ScrGridRig rig(QSize(90, 20));
+    rig.drawer.setBackgroundImage(m_pictures.add(image));
+    const QImage stretched = rig.drawer.m_bgPixmap.toImage();
+    QCOMPARE(stretched.size(), QSize(90, 20));
+    for (int y = 0; y < 20; ++y) {
+        for (int x = 0; x < 90; ++x)
+            QCOMPARE(stretched.pixel(x, y), image.pixel(x / 45, y / 10));
+    }
+    rig.drawer.m_moduleWidth = rig.drawer.m_moduleHeight = 1000;
+    QCOMPARE(rig.painted().copy(2, 2, 88, 18),
+             stretched.convertToFormat(QImage::Format_RGB32).copy(2, 2, 88, 18));
+}
+
+void TestScrGridPicture::picture_isStretchedAnewOnlyWhenAsked()
+{
+    ScrGridRig rig(QSize(40, 30));
+    rig.drawer.setBackgroundImage(m_red);
+    rig.canvas.resize(50, 20);
+    rig.painted();
+    QCOMPARE(rig.drawer.m_bgPixmap.size(), QSize(40, 30));
+    rig.drawer.updateBackgroundImage();
+    QCOMPARE(rig.drawer.m_bgPixmap.size(), QSize(50, 20));
+}
+
+void TestScrGridPicture::translucentPicture_liesOverBlack()
+{
+    QImage image(3, 3, QImage::Format_ARGB32);
+    image.fill(qRgba(255, 255, 255, 0));
+    ScrGridWindow rig;
+    rig.drawer.setBackgroundImage(m_pictures.add(image));
+    rig.drawer.update();
+    QVERIFY(rig.settle());
+    QVERIFY(rig.shows(LayoutColor::black));
+}
+
+void TestScrGridPicture::fileThatIsNoPicture_leavesBlack_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray whole = PictureFolder::png(PictureFolder::filled({300, 200}, Qt::red));
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("text") << QByteArray("no picture");
+    QTest::newRow("cut off") << whole.left(whole.size() / 2);
+    // 60000 x 60000 pixels, 14 gigabytes.
+    QTest::newRow("huge") << QByteArray("P6 60000 60000 255\n") + QByteArray(1000, 'x');
+}
+
+void TestScrGridPicture::fileThatIsNoPicture_leavesBlack()
+{
+    QFETCH(const QByteArray, content);
+    ScrGridWindow rig;
+    rig.drawer.setBackgroundImage(m_red);
+    rig.drawer.update();
+    QTRY_VERIFY(rig.shows(LayoutColor::red));
+
+    const QString path = m_pictures.add(content);
+    rig.drawer.setBackgroundImage(path);
+    rig.drawer.update();
+
+    QVERIFY(rig.drawer.m_bgPixmap.isNull());
+    QCOMPARE(rig.drawer.m_bgPicturePath, path);
+    QTRY_VERIFY(rig.shows(LayoutColor::black));
+    QCOMPARE(onScreen(rig.window).pixel(1, 1), LayoutColor::blue); // the layout stays
+    QVERIFY(rig.settle());
+    rig.paints.count = 0;
+    rig.drawer.update();
+    QVERIFY(rig.settle());
+    QCOMPARE(rig.paints.count, 1);
+}
+
+void TestScrGridPicture::whatCannotBeRead_leavesThePictureBefore_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("missing") << m_pictures.path() + QStringLiteral("/missing");
+    QTest::newRow("folder") << m_pictures.path();
+    QTest::newRow("device") << QStringLiteral("/dev/zero");
+}
+
+void TestScrGridPicture::whatCannotBeRead_leavesThePictureBefore()
+{
+    QFETCH(const QString, path);
+    ScrGridRig rig(QSize(40, 30));
+    rig.drawer.setBackgroundImage(m_red);
+    const qint64 before = rig.drawer.m_bgPixmap.cacheKey();
+    rig.drawer.setBackgroundImage(path);
+    QCOMPARE(rig.drawer.m_bgPicturePath, path);
+    QCOMPARE(rig.drawer.m_bgPixmap.cacheKey(), before);
+}
+
+QTEST_MAIN(TestScrGridPicture)
+#include "tst_scrgrid_picture.moc"
