@@ -1,7 +1,8 @@
-#include <QDir>
 #include <QFile>
 #include <QMap>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <QtTest>
 
@@ -37,10 +38,12 @@ private slots:
     void everyText_isTranslated();
     void everyTranslation_keepsThePlacesForValues_data() { languages(); }
     void everyTranslation_keepsThePlacesForValues();
+    void everyTextInTheCode_isTaken();
 
 private:
     static void languages();
-    void read(const QString &fileName);
+    static QString path(const QString &fileName);
+    void read(const QString &path);
 
     QMap<Source, QString> m_translations;
     QStringList m_unfinished;
@@ -54,12 +57,17 @@ void TestTranslations::languages()
             << QStringLiteral("TarnTestTool_%1.ts").arg(QLatin1String(language));
 }
 
-void TestTranslations::read(const QString &fileName)
+QString TestTranslations::path(const QString &fileName)
+{
+    return QStringLiteral(TARN_SOURCES "/translations/") + fileName;
+}
+
+void TestTranslations::read(const QString &path)
 {
     m_translations.clear();
     m_unfinished.clear();
-    QFile file(QDir(QStringLiteral(TARN_TRANSLATIONS)).filePath(fileName));
-    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+    QFile file(path);
+    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
     QXmlStreamReader xml(&file);
     Source source;
     while (!xml.atEnd()) {
@@ -82,16 +90,16 @@ void TestTranslations::read(const QString &fileName)
 void TestTranslations::everyLanguage_hasTheSameTexts()
 {
     QFETCH(QString, file);
-    read(chinese);
+    read(path(chinese));
     const QList<Source> expected = m_translations.keys();
-    read(file);
+    read(path(file));
     QCOMPARE(m_translations.keys(), expected);
 }
 
 void TestTranslations::everyText_isTranslated()
 {
     QFETCH(QString, file);
-    read(file);
+    read(path(file));
     QCOMPARE(m_unfinished, QStringList());
     static const QRegularExpression han(QStringLiteral("\\p{Han}"));
     for (auto text = m_translations.cbegin(); text != m_translations.cend(); ++text) {
@@ -104,9 +112,29 @@ void TestTranslations::everyText_isTranslated()
 void TestTranslations::everyTranslation_keepsThePlacesForValues()
 {
     QFETCH(QString, file);
-    read(file);
+    read(path(file));
     for (auto text = m_translations.cbegin(); text != m_translations.cend(); ++text)
         QCOMPARE(places(text.value()), places(text.key().second));
+}
+
+// The file as it would be after an update from the code.
+void TestTranslations::everyTextInTheCode_isTaken()
+{
+    read(path(chinese));
+    const QList<Source> taken = m_translations.keys();
+    const QTemporaryDir folder;
+    const QString updated = folder.filePath(chinese);
+    QVERIFY(QFile::copy(path(chinese), updated));
+    const QStringList arguments = QStringLiteral(TARN_LUPDATE_ARGUMENTS).split(QLatin1Char(' '))
+                                  << updated;
+    QProcess lupdate;
+    lupdate.setWorkingDirectory(QStringLiteral(TARN_SOURCES));
+    lupdate.start(QStringLiteral(TARN_LUPDATE), arguments);
+    QVERIFY2(lupdate.waitForFinished(), qPrintable(lupdate.errorString()));
+    QCOMPARE(lupdate.exitCode(), 0);
+
+    read(updated);
+    QCOMPARE(m_translations.keys(), taken);
 }
 
 QTEST_GUILESS_MAIN(TestTranslations)
