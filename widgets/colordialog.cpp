@@ -13,19 +13,30 @@ Answer &givenAnswer()
     return answer;
 }
 
-} // namespace
-
-// As QColorDialog::getColor() with no parent, no title of its own and no options, but in front
-// of the test window, which is always on top and may cover the whole desktop.
-QColor getColor(const QColor &initial)
+// As the static functions of QColorDialog, but in front of the test window, which is always on
+// top and may cover the whole desktop.
+QColor ask(const QColor &initial, QWidget *parent, QColorDialog::ColorDialogOptions options)
 {
     if (const Answer &answer = givenAnswer())
         return answer(initial);
-    QColorDialog dialog;
+    QColorDialog dialog(parent);
     dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    dialog.setOptions(options);
     dialog.setCurrentColor(initial);
     dialog.exec();
     return dialog.selectedColor();
+}
+
+} // namespace
+
+QColor getColor(const QColor &initial, QWidget *parent)
+{
+    return ask(initial, parent, {});
+}
+
+QColor getRgba(const QColor &initial, QWidget *parent)
+{
+    return ask(QColor::fromRgba(initial.rgba()), parent, QColorDialog::ShowAlphaChannel);
 }
 
 void setAnswer(Answer answer)

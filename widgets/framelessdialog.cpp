@@ -13,6 +13,9 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace UX::Widgets {
 
@@ -47,7 +50,10 @@ FramelessDialog::FramelessDialog(QWidget *parent, Qt::WindowFlags f)
     m_titleBar->installEventFilter(this);
 }
 
-FramelessDialog::~FramelessDialog() = default;
+FramelessDialog::~FramelessDialog()
+{
+    lowerOwner();
+}
 
 void FramelessDialog::buildFrame()
 {
@@ -143,17 +149,51 @@ void FramelessDialog::setVisible(bool visible)
 {
     if (visible && !isVisible())
         prepareToShow();
+    if (!visible)
+        lowerOwner();
     QDialog::setVisible(visible);
 }
 
 void FramelessDialog::prepareToShow()
 {
+    m_windowBelow = isParentOnTop() ? nullptr : findWindowOnTop();
     // A change of the flags hides a window that is already shown.
-    if (belongsOnTop())
+    if (m_windowBelow || isParentOnTop())
         setWindowFlag(Qt::WindowStaysOnTopHint);
     // A window manager reports a wrong place for a window that moves while it is being shown.
     if (!testAttribute(Qt::WA_Moved))
         centreOnParent();
+    attachToOwner();
+}
+
+// Some X11 window managers raise a modal dialog by raising its owner, which brings it in front of
+// the window below only if the owner stands in the same layer.
+void FramelessDialog::attachToOwner()
+{
+    create();
+    QWidget *parentWindow = parentWidget() ? parentWidget()->window() : nullptr;
+    QWidget *owner = parentWindow;
+    if (m_windowBelow && windowModality() == Qt::NonModal)
+        owner = m_windowBelow;
+    else if (m_windowBelow && windowModality() == Qt::ApplicationModal)
+        owner = nullptr;
+    windowHandle()->setTransientParent(owner ? owner->windowHandle() : nullptr);
+    // The owner is what such a dialog blocks, so it has to stay, and joins the dialog on top.
+    if (!m_windowBelow || windowModality() != Qt::WindowModal)
+        return;
+    m_windowBelow->installEventFilter(this);
+    m_liftedOwner = windowHandle()->transientParent();
+    if (m_liftedOwner)
+        m_liftedOwner->setFlag(Qt::WindowStaysOnTopHint);
+}
+
+void FramelessDialog::lowerOwner()
+{
+    if (m_windowBelow)
+        m_windowBelow->removeEventFilter(this);
+    if (m_liftedOwner)
+        m_liftedOwner->setFlag(Qt::WindowStaysOnTopHint, false);
+    m_liftedOwner.clear();
 }
 
 int FramelessDialog::exec()
@@ -171,20 +211,29 @@ void FramelessDialog::show()
     QDialog::show();
 }
 
-bool FramelessDialog::belongsOnTop() const
+bool FramelessDialog::isParentOnTop() const
 {
-    if (parentWidget() && isStaysOnTop(parentWidget()->window()))
-        return true;
+    return parentWidget() && isStaysOnTop(parentWidget()->window());
+}
+
+QWidget *FramelessDialog::findWindowOnTop() const
+{
     const QWidgetList windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.cbegin(), windows.cend(), [this](const QWidget *window) {
-        return window != this && window->isVisible() && isStaysOnTop(window);
-    });
+    const auto found =
+        std::find_if(windows.cbegin(), windows.cend(), [this](const QWidget *window) {
+            return window != this && window->windowType() != Qt::ToolTip && window->isVisible()
+                   && isStaysOnTop(window);
+        });
+    return found == windows.cend() ? nullptr : *found;
 }
 
 bool FramelessDialog::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_titleBar && m_dragger.handleEvent(event))
         return true;
+    // A click has brought that window in front.
+    if (watched == m_windowBelow && event->type() == QEvent::MouseButtonRelease)
+        raise();
     return QDialog::eventFilter(watched, event);
 }
 
@@ -197,6 +246,9 @@ void FramelessDialog::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+    // Where a click on a blocked window gives this one the keyboard, it need not come in front.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_windowBelow)
+        raise();
     QDialog::changeEvent(event);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QDialog>
+#include <QPointer>
 
 class QAbstractButton;
 class QLabel;
@@ -34,7 +35,7 @@ public:
     void setCancelButtonVisible(bool visible);
 
     // The first time, the dialog appears over the middle of its parent window. It opens above the
-    // program's windows that are always on top.
+    // program's windows that are always on top, and stays there when one of them is clicked.
     void setVisible(bool visible) override;
 
     // As in QDialog. Every way to show the dialog passes through setVisible.
@@ -67,10 +68,15 @@ private:
     void retranslate();
     void updateButtonRow();
     void prepareToShow();
-    bool belongsOnTop() const;
+    bool isParentOnTop() const;
+    QWidget *findWindowOnTop() const;
+    void attachToOwner();
+    void lowerOwner();
     void centreOnParent();
 
     QWidget *m_buttonRow = nullptr;
+    QPointer<QWidget> m_windowBelow; // always on top, and yet below this dialog
+    QPointer<QWindow> m_liftedOwner; // on top for the time that this dialog is open
     WindowDragger m_dragger;
 };
 

@@ -6,9 +6,7 @@
 
 SwatchButton::SwatchButton(QWidget *parent)
     : QRadioButton(parent)
-{
-    setAttribute(Qt::WA_StyledBackground);
-}
+{ }
 
 bool SwatchButton::hitButton(const QPoint &position) const
 {

@@ -23,6 +23,7 @@ constexpr int deleteKey = Qt::Key_Backspace;
 template<typename Widget>
 void fitText(Widget *widget, const QString &text, int available)
 {
+    widget->ensurePolished(); // its font may come from a style sheet
     const QFontMetrics metrics(widget->font());
     const bool fits = textWidth(metrics, text) <= available;
     widget->setToolTip(fits ? QString() : text);

@@ -47,6 +47,7 @@ public:
     QString text() const { return m_widget->property("text").toString(); }
     QString toolTip() const { return m_widget->toolTip(); }
     void setWidth(int width) { m_widget->resize(width, 20); }
+    void setStyleSheet(const QString &sheet) { m_widget->setStyleSheet(sheet); }
     void setFont(const QFont &font) { m_widget->setFont(font); }
     int measured(const QString &text) const { return textWidth(m_widget->fontMetrics(), text); }
 
@@ -96,6 +97,8 @@ private slots:
     void widthAtTheCall_counts();
     void fontOfTheWidget_counts_data();
     void fontOfTheWidget_counts();
+    void fontOfTheStyleSheet_countsBeforeTheFirstShow_data();
+    void fontOfTheStyleSheet_countsBeforeTheFirstShow();
     void widgetWithoutRoom_showsLittleAndTellsTheText_data();
     void widgetWithoutRoom_showsLittleAndTellsTheText();
     void emptyText_isShown_data();
@@ -225,6 +228,24 @@ void TestCommonHelper::fontOfTheWidget_counts()
     QFont font;
     font.setPixelSize(60);
     widget.setFont(font);
+    widget.setText(longText);
+
+    QVERIFY(widget.text() != longText);
+    QCOMPARE(widget.toolTip(), longText);
+}
+
+void TestCommonHelper::fontOfTheStyleSheet_countsBeforeTheFirstShow_data()
+{
+    addKinds();
+}
+
+void TestCommonHelper::fontOfTheStyleSheet_countsBeforeTheFirstShow()
+{
+    QFETCH(const QString, kind);
+    QFETCH(const int, indicator);
+    Fitted widget(kind);
+    widget.setWidth(widget.measured(longText) + indicator);
+    widget.setStyleSheet(QStringLiteral("font-size: 60px"));
     widget.setText(longText);
 
     QVERIFY(widget.text() != longText);

@@ -68,9 +68,6 @@ private slots:
     void firstShow_staysOnTheScreen();
     void laterShow_keepsThePlace();
     void explicitPlace_isKept();
-    void dialog_staysAboveAnOnTopWindow_data();
-    void dialog_staysAboveAnOnTopWindow();
-    void dialog_isOrdinaryWithoutAnOnTopWindow();
 };
 
 void TestFramelessDialog::dialog_isFramelessWhateverTheFlags_data()
@@ -360,40 +357,6 @@ void TestFramelessDialog::explicitPlace_isKept()
     dialog.move(33, 44);
     dialog.show();
     QCOMPARE(dialog.pos(), QPoint(33, 44));
-}
-
-void TestFramelessDialog::dialog_staysAboveAnOnTopWindow_data()
-{
-    QTest::addColumn<bool>("isParent");
-    QTest::newRow("its parent") << true;
-    QTest::newRow("another window") << false;
-}
-
-void TestFramelessDialog::dialog_staysAboveAnOnTopWindow()
-{
-    QFETCH(bool, isParent);
-    QWidget onTop(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    SampleDialog dialog(isParent ? &onTop : nullptr);
-    dialog.setWindowModality(Qt::WindowModal);
-    dialog.setWindowTitle(QStringLiteral("title"));
-    if (!isParent)
-        onTop.show();
-    QVERIFY(!dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    dialog.show();
-
-    QVERIFY(dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    QVERIFY(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(dialog.windowModality(), Qt::WindowModal);
-    QCOMPARE(dialog.m_titleBar->title(), QStringLiteral("title"));
-}
-
-void TestFramelessDialog::dialog_isOrdinaryWithoutAnOnTopWindow()
-{
-    QWidget hidden(nullptr, Qt::Tool | Qt::WindowStaysOnTopHint);
-    SampleDialog dialog;
-    dialog.show();
-    QVERIFY(!dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
 QTEST_MAIN(TestFramelessDialog)

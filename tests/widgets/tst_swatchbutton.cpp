@@ -53,6 +53,7 @@ private slots:
     void click_onTheCheckedButtonKeepsItChecked();
 
     void styleSheet_fillsTheWholeArea();
+    void fieldOfTheStyleSheet_leavesItsGap();
     void text_standsInTheMiddle_data();
     void text_standsInTheMiddle();
 };
@@ -120,6 +121,25 @@ void TestSwatchButton::styleSheet_fillsTheWholeArea()
     SwatchButton button;
     prepareFilled(button, QString());
     QVERIFY(inkOf(rendered(button)).isNull());
+}
+
+// What the style sheet leaves out of the field shows the ground and not the field of another state.
+void TestSwatchButton::fieldOfTheStyleSheet_leavesItsGap()
+{
+    QWidget window;
+    window.setStyleSheet(
+        QStringLiteral("QWidget { background-color: black }"
+                       "SwatchButton { background-color: red; border: 2px solid red; padding: 2px }"
+                       "SwatchButton:checked { background-clip: content; border-color: white }"));
+    auto *button = new SwatchButton(&window);
+    button->setGeometry(0, 0, 42, 42);
+    window.resize(42, 42);
+    QCOMPARE(window.grab().toImage().pixelColor(2, 21), QColor(Qt::red));
+    button->setChecked(true);
+    const QImage image = window.grab().toImage();
+    QCOMPARE(image.pixelColor(0, 21), QColor(Qt::white));
+    QCOMPARE(image.pixelColor(2, 21), QColor(Qt::black));
+    QCOMPARE(image.pixelColor(4, 21), QColor(Qt::red));
 }
 
 void TestSwatchButton::text_standsInTheMiddle_data()
