@@ -43,7 +43,7 @@ private:
 
 QString digitText(int digit)
 {
-    return QString(QChar(ushort('0' + digit)));
+    return {QChar(ushort('0' + digit))};
 }
 
 // Each digit after each.

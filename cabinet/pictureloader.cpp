@@ -7,6 +7,7 @@
 #include <QImageReader>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -15,8 +16,8 @@ namespace {
 class PictureData : public QIODevice
 {
 public:
-    explicit PictureData(const QByteArray &data)
-        : m_data(data)
+    explicit PictureData(QByteArray data)
+        : m_data(std::move(data))
     {
         open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }

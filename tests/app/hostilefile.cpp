@@ -208,7 +208,7 @@ QByteArray HostileFile::text()
                                      "\"",
                                      "a, b, c",
                                      ", , ,",
-                                     "\"a\", \"b",
+                                     R"("a", "b)",
                                      "\\x",
                                      "\\",
                                      "\\777777777",
@@ -228,7 +228,7 @@ QByteArray HostileFile::text()
                                      "../../../etc",
                                      "@"};
     if (below(40) == 0)
-        return QByteArray(below(100000), 'a');
+        return {below(100000), 'a'};
     return texts[below(length(texts))];
 }
 
