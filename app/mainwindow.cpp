@@ -9,8 +9,10 @@
 #include "gradualchangectrlwidget.h"
 #include "griddrawer.h"
 #include "puritykeys.h"
+#include "scraboutwidget.h"
 #include "screenarea.h"
 #include "scrgridctrldialog.h"
+#include "scrhelperctrlwidget.h"
 #include "scrpurityctrldialog.h"
 #include "settingsfile.h"
 #include "settingsrules.h"
@@ -18,6 +20,7 @@
 
 #include <QCoreApplication>
 #include <QIcon>
+#include <QScrollArea>
 #include <QSettings>
 
 namespace {
@@ -100,8 +103,7 @@ void MainWindow::setTabs()
     addTab(gridPanel, gridPanel->getDrawer());
     cabinetPanel = new TarnTool(&testWindow, settings, this);
     addTab(cabinetPanel, cabinetPanel->getDrawer());
-    while (ui->tabWidget->count() < TabCount)
-        addTab(new QWidget(this), nullptr);
+    addCards();
     spareGridDrawer = new GridDrawer(this);
     spareGridDrawer->setParent(this);
 }
@@ -110,6 +112,20 @@ void MainWindow::addTab(QWidget *panel, DrawerBase *drawer)
 {
     const int index = ui->tabWidget->addTab(panel, tr(tabTitles[ui->tabWidget->count()]));
     tabTable[index] = {panel, drawer};
+}
+
+// The two tabs that only show something: they have no drawer and no place in the table.
+void MainWindow::addCards()
+{
+    helpPanel = new ScrHelperCtrlWidget;
+    helpScrollArea = new QScrollArea;
+    helpScrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    helpScrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    helpScrollArea->setWidgetResizable(true);
+    helpScrollArea->setWidget(helpPanel);
+    ui->tabWidget->addTab(helpScrollArea, tr(tabTitles[HelpTab]));
+    aboutPanel = new ScrAboutWidget;
+    ui->tabWidget->addTab(aboutPanel, tr(tabTitles[AboutTab]));
 }
 
 void MainWindow::updateLanguage()
@@ -121,6 +137,8 @@ void MainWindow::updateLanguage()
     gradientPanel->updateLanguage();
     gridPanel->updateLanguage();
     cabinetPanel->updateLanguage();
+    helpPanel->updateLanguage();
+    aboutPanel->updateLanguage();
     for (int index = 0; index < TabCount; ++index)
         ui->tabWidget->setTabText(index, tr(tabTitles[index]));
     ui->tabWidget->setFont(QFont(QStringLiteral("Arial")));

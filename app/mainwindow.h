@@ -17,8 +17,11 @@ class DrawerBase;
 class GradualChangeCtrlWidget;
 class GridDrawer;
 class QKeyEvent;
+class QScrollArea;
 class QSettings;
+class ScrAboutWidget;
 class ScrGridCtrlDialog;
+class ScrHelperCtrlWidget;
 class ScrPurityCtrlDialog;
 class TarnTool;
 
@@ -88,6 +91,7 @@ private:
     QString storedGrey() const;
     void setTabs();
     void addTab(QWidget *panel, DrawerBase *drawer);
+    void addCards();
     void makeTabCurrent(int index);
     void grayScaleChange(int index);
     void settleGrid();
@@ -110,6 +114,9 @@ private:
     const std::unique_ptr<Ui::MainWindow> ui;
     DrawContainer testWindow;
     std::map<int, std::pair<QWidget *, DrawerBase *>> tabTable;
+    ScrAboutWidget *aboutPanel = nullptr;
+    ScrHelperCtrlWidget *helpPanel = nullptr;
+    QScrollArea *helpScrollArea = nullptr;
     std::unique_ptr<CommonHelper> keyHelper;
     DrawCtrlForm *placementPanel = nullptr;
     ScrGridCtrlDialog *gridPanel = nullptr;

@@ -32,10 +32,10 @@ constexpr int widest = 700;
 
 constexpr QSize dialogSize(360, 424);
 constexpr QSize warningSize(206, 131);
-constexpr int buttonWidth = 70;
+constexpr int buttonWidth = 90;
 constexpr int controlWidth = 62;
 constexpr int controlHeight = 20;
-constexpr int labelWidth = 96;
+constexpr int labelWidth = 140;
 constexpr QMargins contentMargins(24, 10, 24, 16);
 constexpr int sectionSpacing = 12;
 constexpr int rowSpacing = 10;
@@ -256,24 +256,19 @@ void MixSetting::updateLanguage()
 {
     setWindowTitle(tr("高级设置"));
     m_titleBar->titleButton(TitleBar::CloseButton)->setToolTip(tr("关闭"));
-    const std::pair<QLabel *, QString> labels[] = {
-        {m_gridHeader, tr("网格设置")}, {m_colorLabel, tr("背景色")},
-        {m_pixLabel, tr("线条宽度")},   {m_distanceLabel, tr("线条间距")},
-        {m_mixHeader, tr("混测设置")},
-    };
-    for (const auto &[label, text] : labels)
-        label->setText(text);
+    m_gridHeader->setText(tr("网格设置"));
+    m_mixHeader->setText(tr("混测设置"));
+    CommonHelper::setQLabelText(m_colorLabel, tr("背景色"));
+    CommonHelper::setQLabelText(m_pixLabel, tr("线条宽度"));
+    CommonHelper::setQLabelText(m_distanceLabel, tr("线条间距"));
     toolButtonColorPick->setAccessibleName(tr("背景色"));
     spinBoxPix->setAccessibleName(tr("线条宽度"));
     spinBoxDistance->setAccessibleName(tr("线条间距"));
-    for (const MixSelection::Entry &entry : MixSelection::entries()) {
-        QCheckBox *box = m_boxes.at(entry.item);
-        box->ensurePolished(); // the font decides on what fits
-        CommonHelper::setQCheckBoxText(box, tr(entry.text));
-    }
-    m_allButton->setText(tr("全选"));
-    m_clearButton->setText(tr("清空"));
-    m_confirmButton->setText(tr("确定"));
+    for (const MixSelection::Entry &entry : MixSelection::entries())
+        CommonHelper::setQCheckBoxText(m_boxes.at(entry.item), tr(entry.text));
+    CommonHelper::setQPushButtonText(m_allButton, tr("全选"));
+    CommonHelper::setQPushButtonText(m_clearButton, tr("清空"));
+    CommonHelper::setQPushButtonText(m_confirmButton, tr("确定"));
 }
 
 void MixSetting::slot_pushButtonAll()

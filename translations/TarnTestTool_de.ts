@@ -306,6 +306,29 @@
     </message>
 </context>
 <context>
+    <name>ScrAboutWidget</name>
+    <message>
+        <source>Tarn：LED显示屏专业解决方案</source>
+        <translation>Tarn: professionelle Lösungen für LED-Bildwände</translation>
+    </message>
+    <message>
+        <source>1. LED显示屏控制系统</source>
+        <translation>1. Steuerungen für LED-Bildwände</translation>
+    </message>
+    <message>
+        <source>2. LED显示屏测试与校正工具</source>
+        <translation>2. Werkzeuge zum Prüfen und Kalibrieren von LED-Bildwänden</translation>
+    </message>
+    <message>
+        <source>3. 视频处理与信号传输设备</source>
+        <translation>3. Geräte für Videobearbeitung und Signalübertragung</translation>
+    </message>
+    <message>
+        <source>全国技术支持电话：+1 555-0142</source>
+        <translation>Technischer Kundendienst, landesweit, Telefon: +1 555-0142</translation>
+    </message>
+</context>
+<context>
     <name>ScrGridCtrlDialog</name>
     <message>
         <source>显示屏测试工具-网格</source>
@@ -362,6 +385,129 @@
     <message>
         <source>暂停</source>
         <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>ScrHelperCtrlWidget</name>
+    <message>
+        <source>[Home]</source>
+        <translation>[Pos1]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口右下角处提示</source>
+        <translation>Hilfe rechts unten im Fenster ein/aus</translation>
+    </message>
+    <message>
+        <source>[End]</source>
+        <translation>[Ende]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口中心处提示</source>
+        <translation>Hinweis in der Mitte des Fensters ein/aus</translation>
+    </message>
+    <message>
+        <source>[PageUp]</source>
+        <translation>[Bild↑]</translation>
+    </message>
+    <message>
+        <source>功能向上切换</source>
+        <translation>Voriges Testbild</translation>
+    </message>
+    <message>
+        <source>[PageDown]</source>
+        <translation>[Bild↓]</translation>
+    </message>
+    <message>
+        <source>功能向下切换</source>
+        <translation>Nächstes Testbild</translation>
+    </message>
+    <message>
+        <source>[Shift+↑↓←→]</source>
+        <translation>[Umschalt+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口大小</source>
+        <translation>Fenstergröße</translation>
+    </message>
+    <message>
+        <source>[Shift+F/双击]</source>
+        <translation>[Umschalt+F | Doppelklick]</translation>
+    </message>
+    <message>
+        <source>全屏/取消全屏</source>
+        <translation>Vollbild ein/aus</translation>
+    </message>
+    <message>
+        <source>[Ctrl+↑↓←→]</source>
+        <translation>[Strg+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口位置</source>
+        <translation>Fensterposition</translation>
+    </message>
+    <message>
+        <source>[↑↓←→]</source>
+        <translation>[↑↓←→]</translation>
+    </message>
+    <message>
+        <source>灰度调节</source>
+        <translation>Graustufe</translation>
+    </message>
+    <message>
+        <source>[Insert/Delete]</source>
+        <translation>[Einfg | Entf]</translation>
+    </message>
+    <message>
+        <source>自动增加/减少灰度</source>
+        <translation>Graustufe automatisch +/−</translation>
+    </message>
+    <message>
+        <source>[Shift+H]</source>
+        <translation>[Umschalt+H]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口</source>
+        <translation>Fenster ein/aus</translation>
+    </message>
+    <message>
+        <source>提示：Mac使用本工具时，请把菜单栏设置隐藏掉</source>
+        <translation>Tipp: Auf dem Mac die Menüleiste ausblenden, solange das Werkzeug läuft</translation>
+    </message>
+    <message>
+        <source>[Fn+←]</source>
+        <translation>[Pos1 | Fn+←]</translation>
+    </message>
+    <message>
+        <source>[Fn+→]</source>
+        <translation>[Ende | Fn+→]</translation>
+    </message>
+    <message>
+        <source>[Fn+↑]</source>
+        <translation>[Bild↑ | Fn+↑]</translation>
+    </message>
+    <message>
+        <source>[Fn+↓]</source>
+        <translation>[Bild↓ | Fn+↓]</translation>
+    </message>
+    <message>
+        <source>[⇧+↑↓←→]</source>
+        <translation>[⇧+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[⇧+F/双击]</source>
+        <translation>[⇧+F | Doppelklick]</translation>
+    </message>
+    <message>
+        <source>[⌘+↑↓←→]</source>
+        <translation>[Strg | ⌘ +↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[Fn+Enter/Delete]</source>
+        <translation>[Enter (Ziff.) | Rücktaste]</translation>
+    </message>
+    <message>
+        <source>[⇧+H]</source>
+        <translation>[⇧+H]</translation>
     </message>
 </context>
 <context>

@@ -306,6 +306,29 @@
     </message>
 </context>
 <context>
+    <name>ScrAboutWidget</name>
+    <message>
+        <source>Tarn：LED显示屏专业解决方案</source>
+        <translation>Tarn: professional solutions for LED display screens</translation>
+    </message>
+    <message>
+        <source>1. LED显示屏控制系统</source>
+        <translation>1. Control systems for LED display screens</translation>
+    </message>
+    <message>
+        <source>2. LED显示屏测试与校正工具</source>
+        <translation>2. Tools for testing and calibrating LED display screens</translation>
+    </message>
+    <message>
+        <source>3. 视频处理与信号传输设备</source>
+        <translation>3. Equipment for video processing and signal transmission</translation>
+    </message>
+    <message>
+        <source>全国技术支持电话：+1 555-0142</source>
+        <translation>Nationwide technical support, telephone: +1 555-0142</translation>
+    </message>
+</context>
+<context>
     <name>ScrGridCtrlDialog</name>
     <message>
         <source>显示屏测试工具-网格</source>
@@ -362,6 +385,129 @@
     <message>
         <source>暂停</source>
         <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>ScrHelperCtrlWidget</name>
+    <message>
+        <source>[Home]</source>
+        <translation>[Home]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口右下角处提示</source>
+        <translation>Show/hide the reminder at the window&apos;s lower right corner</translation>
+    </message>
+    <message>
+        <source>[End]</source>
+        <translation>[End]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口中心处提示</source>
+        <translation>Show/hide the hint at the window&apos;s centre</translation>
+    </message>
+    <message>
+        <source>[PageUp]</source>
+        <translation>[PageUp]</translation>
+    </message>
+    <message>
+        <source>功能向上切换</source>
+        <translation>Previous pattern</translation>
+    </message>
+    <message>
+        <source>[PageDown]</source>
+        <translation>[PageDown]</translation>
+    </message>
+    <message>
+        <source>功能向下切换</source>
+        <translation>Next pattern</translation>
+    </message>
+    <message>
+        <source>[Shift+↑↓←→]</source>
+        <translation>[Shift+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口大小</source>
+        <translation>Window size</translation>
+    </message>
+    <message>
+        <source>[Shift+F/双击]</source>
+        <translation>[Shift+F | double click]</translation>
+    </message>
+    <message>
+        <source>全屏/取消全屏</source>
+        <translation>Full screen on/off</translation>
+    </message>
+    <message>
+        <source>[Ctrl+↑↓←→]</source>
+        <translation>[Ctrl+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口位置</source>
+        <translation>Window position</translation>
+    </message>
+    <message>
+        <source>[↑↓←→]</source>
+        <translation>[↑↓←→]</translation>
+    </message>
+    <message>
+        <source>灰度调节</source>
+        <translation>Grey level</translation>
+    </message>
+    <message>
+        <source>[Insert/Delete]</source>
+        <translation>[Insert | Delete]</translation>
+    </message>
+    <message>
+        <source>自动增加/减少灰度</source>
+        <translation>Grey level up/down automatically</translation>
+    </message>
+    <message>
+        <source>[Shift+H]</source>
+        <translation>[Shift+H]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口</source>
+        <translation>Show/hide the window</translation>
+    </message>
+    <message>
+        <source>提示：Mac使用本工具时，请把菜单栏设置隐藏掉</source>
+        <translation>Tip: on a Mac, let the menu bar hide itself while you use this tool</translation>
+    </message>
+    <message>
+        <source>[Fn+←]</source>
+        <translation>[Home | Fn+←]</translation>
+    </message>
+    <message>
+        <source>[Fn+→]</source>
+        <translation>[End | Fn+→]</translation>
+    </message>
+    <message>
+        <source>[Fn+↑]</source>
+        <translation>[PageUp | Fn+↑]</translation>
+    </message>
+    <message>
+        <source>[Fn+↓]</source>
+        <translation>[PageDown | Fn+↓]</translation>
+    </message>
+    <message>
+        <source>[⇧+↑↓←→]</source>
+        <translation>[⇧+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[⇧+F/双击]</source>
+        <translation>[⇧+F | double click]</translation>
+    </message>
+    <message>
+        <source>[⌘+↑↓←→]</source>
+        <translation>[Ctrl | ⌘ +↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[Fn+Enter/Delete]</source>
+        <translation>[Keypad Enter | Backspace]</translation>
+    </message>
+    <message>
+        <source>[⇧+H]</source>
+        <translation>[⇧+H]</translation>
     </message>
 </context>
 <context>

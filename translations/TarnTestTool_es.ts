@@ -306,6 +306,29 @@
     </message>
 </context>
 <context>
+    <name>ScrAboutWidget</name>
+    <message>
+        <source>Tarn：LED显示屏专业解决方案</source>
+        <translation>Tarn: soluciones profesionales para pantallas LED</translation>
+    </message>
+    <message>
+        <source>1. LED显示屏控制系统</source>
+        <translation>1. Sistemas de control para pantallas LED</translation>
+    </message>
+    <message>
+        <source>2. LED显示屏测试与校正工具</source>
+        <translation>2. Herramientas de prueba y calibración de pantallas LED</translation>
+    </message>
+    <message>
+        <source>3. 视频处理与信号传输设备</source>
+        <translation>3. Equipos de procesamiento de vídeo y transmisión de señal</translation>
+    </message>
+    <message>
+        <source>全国技术支持电话：+1 555-0142</source>
+        <translation>Soporte técnico nacional, teléfono: +1 555-0142</translation>
+    </message>
+</context>
+<context>
     <name>ScrGridCtrlDialog</name>
     <message>
         <source>显示屏测试工具-网格</source>
@@ -362,6 +385,129 @@
     <message>
         <source>暂停</source>
         <translation>Pausa</translation>
+    </message>
+</context>
+<context>
+    <name>ScrHelperCtrlWidget</name>
+    <message>
+        <source>[Home]</source>
+        <translation>[Inicio]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口右下角处提示</source>
+        <translation>Mostrar/ocultar la ayuda en la esquina inferior derecha</translation>
+    </message>
+    <message>
+        <source>[End]</source>
+        <translation>[Fin]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口中心处提示</source>
+        <translation>Mostrar/ocultar la indicación en el centro de la ventana</translation>
+    </message>
+    <message>
+        <source>[PageUp]</source>
+        <translation>[RePág]</translation>
+    </message>
+    <message>
+        <source>功能向上切换</source>
+        <translation>Patrón anterior</translation>
+    </message>
+    <message>
+        <source>[PageDown]</source>
+        <translation>[AvPág]</translation>
+    </message>
+    <message>
+        <source>功能向下切换</source>
+        <translation>Patrón siguiente</translation>
+    </message>
+    <message>
+        <source>[Shift+↑↓←→]</source>
+        <translation>[Mayús+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口大小</source>
+        <translation>Tamaño de la ventana</translation>
+    </message>
+    <message>
+        <source>[Shift+F/双击]</source>
+        <translation>[Mayús+F | doble clic]</translation>
+    </message>
+    <message>
+        <source>全屏/取消全屏</source>
+        <translation>Pantalla completa sí/no</translation>
+    </message>
+    <message>
+        <source>[Ctrl+↑↓←→]</source>
+        <translation>[Ctrl+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口位置</source>
+        <translation>Posición de la ventana</translation>
+    </message>
+    <message>
+        <source>[↑↓←→]</source>
+        <translation>[↑↓←→]</translation>
+    </message>
+    <message>
+        <source>灰度调节</source>
+        <translation>Nivel de gris</translation>
+    </message>
+    <message>
+        <source>[Insert/Delete]</source>
+        <translation>[Insert | Supr]</translation>
+    </message>
+    <message>
+        <source>自动增加/减少灰度</source>
+        <translation>Nivel de gris automático +/−</translation>
+    </message>
+    <message>
+        <source>[Shift+H]</source>
+        <translation>[Mayús+H]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口</source>
+        <translation>Mostrar/ocultar la ventana</translation>
+    </message>
+    <message>
+        <source>提示：Mac使用本工具时，请把菜单栏设置隐藏掉</source>
+        <translation>Consejo: en un Mac, oculte la barra de menús mientras usa la herramienta</translation>
+    </message>
+    <message>
+        <source>[Fn+←]</source>
+        <translation>[Inicio | Fn+←]</translation>
+    </message>
+    <message>
+        <source>[Fn+→]</source>
+        <translation>[Fin | Fn+→]</translation>
+    </message>
+    <message>
+        <source>[Fn+↑]</source>
+        <translation>[RePág | Fn+↑]</translation>
+    </message>
+    <message>
+        <source>[Fn+↓]</source>
+        <translation>[AvPág | Fn+↓]</translation>
+    </message>
+    <message>
+        <source>[⇧+↑↓←→]</source>
+        <translation>[⇧+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[⇧+F/双击]</source>
+        <translation>[⇧+F | doble clic]</translation>
+    </message>
+    <message>
+        <source>[⌘+↑↓←→]</source>
+        <translation>[Ctrl | ⌘ +↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[Fn+Enter/Delete]</source>
+        <translation>[Intro num. | Retroceso]</translation>
+    </message>
+    <message>
+        <source>[⇧+H]</source>
+        <translation>[⇧+H]</translation>
     </message>
 </context>
 <context>

@@ -306,6 +306,29 @@
     </message>
 </context>
 <context>
+    <name>ScrAboutWidget</name>
+    <message>
+        <source>Tarn：LED显示屏专业解决方案</source>
+        <translation>Tarn : solutions professionnelles pour écrans LED</translation>
+    </message>
+    <message>
+        <source>1. LED显示屏控制系统</source>
+        <translation>1. Systèmes de commande pour écrans LED</translation>
+    </message>
+    <message>
+        <source>2. LED显示屏测试与校正工具</source>
+        <translation>2. Outils de test et d&apos;étalonnage pour écrans LED</translation>
+    </message>
+    <message>
+        <source>3. 视频处理与信号传输设备</source>
+        <translation>3. Équipements de traitement vidéo et de transmission</translation>
+    </message>
+    <message>
+        <source>全国技术支持电话：+1 555-0142</source>
+        <translation>Assistance technique nationale, téléphone : +1 555-0142</translation>
+    </message>
+</context>
+<context>
     <name>ScrGridCtrlDialog</name>
     <message>
         <source>显示屏测试工具-网格</source>
@@ -362,6 +385,129 @@
     <message>
         <source>暂停</source>
         <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>ScrHelperCtrlWidget</name>
+    <message>
+        <source>[Home]</source>
+        <translation>[Début]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口右下角处提示</source>
+        <translation>Afficher/masquer l&apos;aide-mémoire en bas à droite de la fenêtre</translation>
+    </message>
+    <message>
+        <source>[End]</source>
+        <translation>[Fin]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口中心处提示</source>
+        <translation>Afficher/masquer l&apos;indication au centre de la fenêtre</translation>
+    </message>
+    <message>
+        <source>[PageUp]</source>
+        <translation>[Page préc.]</translation>
+    </message>
+    <message>
+        <source>功能向上切换</source>
+        <translation>Mire précédente</translation>
+    </message>
+    <message>
+        <source>[PageDown]</source>
+        <translation>[Page suiv.]</translation>
+    </message>
+    <message>
+        <source>功能向下切换</source>
+        <translation>Mire suivante</translation>
+    </message>
+    <message>
+        <source>[Shift+↑↓←→]</source>
+        <translation>[Maj+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口大小</source>
+        <translation>Taille de la fenêtre</translation>
+    </message>
+    <message>
+        <source>[Shift+F/双击]</source>
+        <translation>[Maj+F | double clic]</translation>
+    </message>
+    <message>
+        <source>全屏/取消全屏</source>
+        <translation>Plein écran oui/non</translation>
+    </message>
+    <message>
+        <source>[Ctrl+↑↓←→]</source>
+        <translation>[Ctrl+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口位置</source>
+        <translation>Position de la fenêtre</translation>
+    </message>
+    <message>
+        <source>[↑↓←→]</source>
+        <translation>[↑↓←→]</translation>
+    </message>
+    <message>
+        <source>灰度调节</source>
+        <translation>Niveau de gris</translation>
+    </message>
+    <message>
+        <source>[Insert/Delete]</source>
+        <translation>[Inser | Suppr]</translation>
+    </message>
+    <message>
+        <source>自动增加/减少灰度</source>
+        <translation>Niveau de gris automatique +/−</translation>
+    </message>
+    <message>
+        <source>[Shift+H]</source>
+        <translation>[Maj+H]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口</source>
+        <translation>Afficher/masquer la fenêtre</translation>
+    </message>
+    <message>
+        <source>提示：Mac使用本工具时，请把菜单栏设置隐藏掉</source>
+        <translation>Conseil : sur un Mac, masquez la barre des menus pendant l&apos;utilisation</translation>
+    </message>
+    <message>
+        <source>[Fn+←]</source>
+        <translation>[Début | Fn+←]</translation>
+    </message>
+    <message>
+        <source>[Fn+→]</source>
+        <translation>[Fin | Fn+→]</translation>
+    </message>
+    <message>
+        <source>[Fn+↑]</source>
+        <translation>[Page préc. | Fn+↑]</translation>
+    </message>
+    <message>
+        <source>[Fn+↓]</source>
+        <translation>[Page suiv. | Fn+↓]</translation>
+    </message>
+    <message>
+        <source>[⇧+↑↓←→]</source>
+        <translation>[⇧+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[⇧+F/双击]</source>
+        <translation>[⇧+F | double clic]</translation>
+    </message>
+    <message>
+        <source>[⌘+↑↓←→]</source>
+        <translation>[Ctrl | ⌘ +↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[Fn+Enter/Delete]</source>
+        <translation>[Entrée num. | Retour arr.]</translation>
+    </message>
+    <message>
+        <source>[⇧+H]</source>
+        <translation>[⇧+H]</translation>
     </message>
 </context>
 <context>

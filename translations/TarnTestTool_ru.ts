@@ -306,6 +306,29 @@
     </message>
 </context>
 <context>
+    <name>ScrAboutWidget</name>
+    <message>
+        <source>Tarn：LED显示屏专业解决方案</source>
+        <translation>Tarn: профессиональные решения для светодиодных экранов</translation>
+    </message>
+    <message>
+        <source>1. LED显示屏控制系统</source>
+        <translation>1. Системы управления светодиодными экранами</translation>
+    </message>
+    <message>
+        <source>2. LED显示屏测试与校正工具</source>
+        <translation>2. Средства проверки и калибровки светодиодных экранов</translation>
+    </message>
+    <message>
+        <source>3. 视频处理与信号传输设备</source>
+        <translation>3. Оборудование для обработки видео и передачи сигнала</translation>
+    </message>
+    <message>
+        <source>全国技术支持电话：+1 555-0142</source>
+        <translation>Техническая поддержка по всей стране, телефон: +1 555-0142</translation>
+    </message>
+</context>
+<context>
     <name>ScrGridCtrlDialog</name>
     <message>
         <source>显示屏测试工具-网格</source>
@@ -362,6 +385,129 @@
     <message>
         <source>暂停</source>
         <translation>Пауза</translation>
+    </message>
+</context>
+<context>
+    <name>ScrHelperCtrlWidget</name>
+    <message>
+        <source>[Home]</source>
+        <translation>[Home]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口右下角处提示</source>
+        <translation>Показать/скрыть подсказку в правом нижнем углу окна</translation>
+    </message>
+    <message>
+        <source>[End]</source>
+        <translation>[End]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口中心处提示</source>
+        <translation>Показать/скрыть подсказку в центре окна</translation>
+    </message>
+    <message>
+        <source>[PageUp]</source>
+        <translation>[PageUp]</translation>
+    </message>
+    <message>
+        <source>功能向上切换</source>
+        <translation>Предыдущий тест</translation>
+    </message>
+    <message>
+        <source>[PageDown]</source>
+        <translation>[PageDown]</translation>
+    </message>
+    <message>
+        <source>功能向下切换</source>
+        <translation>Следующий тест</translation>
+    </message>
+    <message>
+        <source>[Shift+↑↓←→]</source>
+        <translation>[Shift+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口大小</source>
+        <translation>Размер окна</translation>
+    </message>
+    <message>
+        <source>[Shift+F/双击]</source>
+        <translation>[Shift+F | дв. щелчок]</translation>
+    </message>
+    <message>
+        <source>全屏/取消全屏</source>
+        <translation>Полный экран вкл/выкл</translation>
+    </message>
+    <message>
+        <source>[Ctrl+↑↓←→]</source>
+        <translation>[Ctrl+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口位置</source>
+        <translation>Положение окна</translation>
+    </message>
+    <message>
+        <source>[↑↓←→]</source>
+        <translation>[↑↓←→]</translation>
+    </message>
+    <message>
+        <source>灰度调节</source>
+        <translation>Уровень серого</translation>
+    </message>
+    <message>
+        <source>[Insert/Delete]</source>
+        <translation>[Insert | Delete]</translation>
+    </message>
+    <message>
+        <source>自动增加/减少灰度</source>
+        <translation>Уровень серого автоматически +/−</translation>
+    </message>
+    <message>
+        <source>[Shift+H]</source>
+        <translation>[Shift+H]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口</source>
+        <translation>Показать/скрыть окно</translation>
+    </message>
+    <message>
+        <source>提示：Mac使用本工具时，请把菜单栏设置隐藏掉</source>
+        <translation>Совет: на Mac скройте строку меню на время работы с программой</translation>
+    </message>
+    <message>
+        <source>[Fn+←]</source>
+        <translation>[Home | Fn+←]</translation>
+    </message>
+    <message>
+        <source>[Fn+→]</source>
+        <translation>[End | Fn+→]</translation>
+    </message>
+    <message>
+        <source>[Fn+↑]</source>
+        <translation>[PageUp | Fn+↑]</translation>
+    </message>
+    <message>
+        <source>[Fn+↓]</source>
+        <translation>[PageDown | Fn+↓]</translation>
+    </message>
+    <message>
+        <source>[⇧+↑↓←→]</source>
+        <translation>[⇧+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[⇧+F/双击]</source>
+        <translation>[⇧+F | двойной щелчок]</translation>
+    </message>
+    <message>
+        <source>[⌘+↑↓←→]</source>
+        <translation>[Ctrl | ⌘ +↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[Fn+Enter/Delete]</source>
+        <translation>[Enter (цифр.) | Backspace]</translation>
+    </message>
+    <message>
+        <source>[⇧+H]</source>
+        <translation>[⇧+H]</translation>
     </message>
 </context>
 <context>

@@ -306,6 +306,29 @@
     </message>
 </context>
 <context>
+    <name>ScrAboutWidget</name>
+    <message>
+        <source>Tarn：LED显示屏专业解决方案</source>
+        <translation>Tarn：LED显示屏专业解决方案</translation>
+    </message>
+    <message>
+        <source>1. LED显示屏控制系统</source>
+        <translation>1. LED显示屏控制系统</translation>
+    </message>
+    <message>
+        <source>2. LED显示屏测试与校正工具</source>
+        <translation>2. LED显示屏测试与校正工具</translation>
+    </message>
+    <message>
+        <source>3. 视频处理与信号传输设备</source>
+        <translation>3. 视频处理与信号传输设备</translation>
+    </message>
+    <message>
+        <source>全国技术支持电话：+1 555-0142</source>
+        <translation>全国技术支持电话：+1 555-0142</translation>
+    </message>
+</context>
+<context>
     <name>ScrGridCtrlDialog</name>
     <message>
         <source>显示屏测试工具-网格</source>
@@ -362,6 +385,129 @@
     <message>
         <source>暂停</source>
         <translation>暂停</translation>
+    </message>
+</context>
+<context>
+    <name>ScrHelperCtrlWidget</name>
+    <message>
+        <source>[Home]</source>
+        <translation>[Home]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口右下角处提示</source>
+        <translation>显示/隐藏窗口右下角处提示</translation>
+    </message>
+    <message>
+        <source>[End]</source>
+        <translation>[End]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口中心处提示</source>
+        <translation>显示/隐藏窗口中心处提示</translation>
+    </message>
+    <message>
+        <source>[PageUp]</source>
+        <translation>[PageUp]</translation>
+    </message>
+    <message>
+        <source>功能向上切换</source>
+        <translation>功能向上切换</translation>
+    </message>
+    <message>
+        <source>[PageDown]</source>
+        <translation>[PageDown]</translation>
+    </message>
+    <message>
+        <source>功能向下切换</source>
+        <translation>功能向下切换</translation>
+    </message>
+    <message>
+        <source>[Shift+↑↓←→]</source>
+        <translation>[Shift+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口大小</source>
+        <translation>窗口大小</translation>
+    </message>
+    <message>
+        <source>[Shift+F/双击]</source>
+        <translation>[Shift+F/双击]</translation>
+    </message>
+    <message>
+        <source>全屏/取消全屏</source>
+        <translation>全屏/取消全屏</translation>
+    </message>
+    <message>
+        <source>[Ctrl+↑↓←→]</source>
+        <translation>[Ctrl+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>窗口位置</source>
+        <translation>窗口位置</translation>
+    </message>
+    <message>
+        <source>[↑↓←→]</source>
+        <translation>[↑↓←→]</translation>
+    </message>
+    <message>
+        <source>灰度调节</source>
+        <translation>灰度调节</translation>
+    </message>
+    <message>
+        <source>[Insert/Delete]</source>
+        <translation>[Insert/Delete]</translation>
+    </message>
+    <message>
+        <source>自动增加/减少灰度</source>
+        <translation>自动增加/减少灰度</translation>
+    </message>
+    <message>
+        <source>[Shift+H]</source>
+        <translation>[Shift+H]</translation>
+    </message>
+    <message>
+        <source>显示/隐藏窗口</source>
+        <translation>显示/隐藏窗口</translation>
+    </message>
+    <message>
+        <source>提示：Mac使用本工具时，请把菜单栏设置隐藏掉</source>
+        <translation>提示：Mac使用本工具时，请把菜单栏设置隐藏掉</translation>
+    </message>
+    <message>
+        <source>[Fn+←]</source>
+        <translation>[Fn+←]</translation>
+    </message>
+    <message>
+        <source>[Fn+→]</source>
+        <translation>[Fn+→]</translation>
+    </message>
+    <message>
+        <source>[Fn+↑]</source>
+        <translation>[Fn+↑]</translation>
+    </message>
+    <message>
+        <source>[Fn+↓]</source>
+        <translation>[Fn+↓]</translation>
+    </message>
+    <message>
+        <source>[⇧+↑↓←→]</source>
+        <translation>[⇧+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[⇧+F/双击]</source>
+        <translation>[⇧+F/双击]</translation>
+    </message>
+    <message>
+        <source>[⌘+↑↓←→]</source>
+        <translation>[⌘+↑↓←→]</translation>
+    </message>
+    <message>
+        <source>[Fn+Enter/Delete]</source>
+        <translation>[Fn+Enter/Delete]</translation>
+    </message>
+    <message>
+        <source>[⇧+H]</source>
+        <translation>[⇧+H]</translation>
     </message>
 </context>
 <context>

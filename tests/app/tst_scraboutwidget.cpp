@@ -1,0 +1,157 @@
+#include "dictionary.h"
+#include "mainwindowrig.h"
+#include "scraboutwidget.h"
+#include "shippedtranslation.h"
+
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTest>
+
+#include <algorithm>
+
+class TestScrAboutWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void fiveLabels_standOneUnderTheOther();
+    void content_isBannerThreeNumberedLinesAndATelephone_data();
+    void content_isBannerThreeNumberedLinesAndATelephone();
+    void height_isAtMost192();
+    void longText_isElidedWithItsFullTextAsToolTip();
+    void everyText_fitsWithTheFontOfTheStyleSheet_data();
+    void everyText_fitsWithTheFontOfTheStyleSheet();
+    void mainWindow_showsItAsTab6AndRetranslatesIt();
+
+private:
+    static QVector<QLabel *> labelsOf(const QWidget &card);
+    static QString fullText(const QLabel *label);
+};
+
+// From the top down.
+QVector<QLabel *> TestScrAboutWidget::labelsOf(const QWidget &card)
+{
+    QVector<QLabel *> labels = card.findChildren<QLabel *>().toVector();
+    std::sort(labels.begin(), labels.end(),
+              [](const QLabel *one, const QLabel *other) { return one->y() < other->y(); });
+    return labels;
+}
+
+// A text may be elided where no style sheet gives it the small font.
+QString TestScrAboutWidget::fullText(const QLabel *label)
+{
+    return label->toolTip().isEmpty() ? label->text() : label->toolTip();
+}
+
+void TestScrAboutWidget::fiveLabels_standOneUnderTheOther()
+{
+    ScrAboutWidget card;
+    card.show();
+    const QVector<QLabel *> labels = labelsOf(card);
+    QCOMPARE(labels.size(), 5);
+    for (int index = 0; index < labels.size(); ++index) {
+        QCOMPARE(labels.at(index)->minimumWidth(), 400);
+        QCOMPARE(labels.at(index)->x(), labels.at(0)->x());
+        if (index > 0)
+            QVERIFY(labels.at(index)->y() > labels.at(index - 1)->geometry().bottom());
+    }
+}
+
+void TestScrAboutWidget::content_isBannerThreeNumberedLinesAndATelephone_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("telephone");
+    const auto row = [](const char *language, const char *telephone) {
+        QTest::newRow(language) << QString::fromLatin1(language) << QString::fromUtf8(telephone);
+    };
+    row("zh_CN", "电话");
+    row("en", "telephone");
+    row("fr", "téléphone");
+    row("de", "Telefon");
+    row("es", "teléfono");
+    row("ru", "телефон");
+}
+
+void TestScrAboutWidget::content_isBannerThreeNumberedLinesAndATelephone()
+{
+    QFETCH(const QString, language);
+    QFETCH(const QString, telephone);
+    const ShippedTranslation translation(language);
+    QVERIFY(translation.isInstalled());
+    ScrAboutWidget card;
+    card.updateLanguage();
+    const QVector<QLabel *> labels = labelsOf(card);
+    QVERIFY(labels.at(0)->text().contains(QLatin1String("LED")) || language == QLatin1String("ru"));
+    for (int line = 1; line <= 3; ++line)
+        QVERIFY(labels.at(line)->text().startsWith(QStringLiteral("%1. ").arg(line)));
+    // The range that no subscriber has.
+    const QRegularExpression reservedNumber(QStringLiteral("\\+1 555-01\\d\\d$"));
+    QVERIFY(fullText(labels.at(4)).contains(reservedNumber));
+    QVERIFY(fullText(labels.at(4)).contains(telephone));
+}
+
+void TestScrAboutWidget::height_isAtMost192()
+{
+    ScrAboutWidget card;
+    QCOMPARE(card.maximumHeight(), 192);
+    card.resize(585, 400);
+    card.show();
+    QCOMPARE(card.height(), 192);
+}
+
+void TestScrAboutWidget::longText_isElidedWithItsFullTextAsToolTip()
+{
+    const QString longText = QStringLiteral("1. a long line of products ").repeated(8).trimmed();
+    ScrAboutWidget card;
+    {
+        const Dictionary words({{QStringLiteral("1. LED显示屏控制系统"), longText}});
+        card.updateLanguage();
+    }
+    const QLabel *line = labelsOf(card).at(1);
+    QCOMPARE(line->toolTip(), longText);
+    QVERIFY(line->text().endsWith(QChar(0x2026)));
+    card.updateLanguage();
+    QCOMPARE(line->text(), QStringLiteral("1. LED显示屏控制系统"));
+    QCOMPARE(line->toolTip(), QString());
+}
+
+void TestScrAboutWidget::everyText_fitsWithTheFontOfTheStyleSheet_data()
+{
+    QTest::addColumn<QString>("language");
+    const QStringList languages = ShippedTranslation::languages();
+    for (const QString &language : languages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TestScrAboutWidget::everyText_fitsWithTheFontOfTheStyleSheet()
+{
+    QFETCH(const QString, language);
+    const ShippedTranslation translation(language);
+    MainWindowRig rig;
+    rig.start();
+    rig.window().updateLanguage();
+    const QVector<QLabel *> labels = labelsOf(*rig.find<ScrAboutWidget>());
+    QVERIFY(labels.at(0)->font().pixelSize() > labels.at(1)->font().pixelSize()); // the banner
+    for (const QLabel *label : labels) {
+        QCOMPARE(label->toolTip(), QString());
+        QVERIFY2(label->fontMetrics().boundingRect(label->text()).width() <= label->width(),
+                 qPrintable(label->text()));
+    }
+}
+
+void TestScrAboutWidget::mainWindow_showsItAsTab6AndRetranslatesIt()
+{
+    MainWindowRig rig;
+    rig.start();
+    const auto *card = qobject_cast<ScrAboutWidget *>(rig.tabs()->widget(6));
+    QVERIFY(card);
+    const QString banner = QStringLiteral("Tarn：LED显示屏专业解决方案");
+    QCOMPARE(labelsOf(*card).at(0)->text(), banner);
+    const Dictionary words({{banner, QStringLiteral("banner")}});
+    rig.window().updateLanguage();
+    QCOMPARE(labelsOf(*card).at(0)->text(), QStringLiteral("banner"));
+}
+
+QTEST_MAIN(TestScrAboutWidget)
+#include "tst_scraboutwidget.moc"
