@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Installs what is missing to run the tool, to test it or to check it as CI
-# does; says and does nothing if all of it is there.
+# Installs what is missing to run the tool, to test it, to check it as CI does
+# or to take pictures of it; says and does nothing if all of it is there.
 #
-# Usage: scripts/setup.sh run|test|ci
+# Usage: scripts/setup.sh run|test|ci|pictures
 set -euo pipefail
 
 build_packages=(build-essential cmake ninja-build pkg-config
@@ -11,6 +11,7 @@ font_packages=(fonts-noto-cjk fonts-dejavu-core fonts-liberation)
 virtual_desktop_packages=(xvfb openbox imagemagick x11-utils)
 test_packages=(libx11-dev libxtst-dev libxext-dev libxfixes-dev libxdamage-dev libxrandr-dev libsm-dev libice-dev libbenchmark-dev
   xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils)
+picture_packages=("${virtual_desktop_packages[@]}" xdotool)
 check_packages=(git clang-format clang-tidy clazy shellcheck xdotool)
 
 purpose=${1:-run}
@@ -29,8 +30,11 @@ case $purpose in
       packages+=("${check_packages[@]}")
     fi
     ;;
+  pictures)
+    packages+=("${picture_packages[@]}")
+    ;;
   *)
-    echo "Usage: scripts/setup.sh run|test|ci" >&2
+    echo "Usage: scripts/setup.sh run|test|ci|pictures" >&2
     exit 2
     ;;
 esac
