@@ -22,7 +22,7 @@ using Item = AdvancedValue::Item;
 constexpr QSize dialogSize(360, 220);
 constexpr int contentMargin = 20;
 constexpr int rowSpacing = 5;
-constexpr int pairSpacing = 12; // between a control and the next caption
+constexpr int pairSpacing = 8; // between a control and the next caption
 constexpr int headerWidth = 75;
 constexpr int captionWidth = 84;
 constexpr int controlWidth = 60;
