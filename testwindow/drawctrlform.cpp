@@ -16,6 +16,8 @@
 #include <QTimer>
 #include <QWindowStateChangeEvent>
 
+#include <algorithm>
+
 namespace {
 
 namespace Key {
@@ -38,6 +40,14 @@ constexpr QLatin1String buttonStyleName = latin1("normalContentPushBtn");
 void step(QSlider *slider, int by)
 {
     slider->setValue(slider->value() + by);
+}
+
+bool isOnOneScreen(const QRect &place)
+{
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    return std::any_of(screens.cbegin(), screens.cend(), [&](const QScreen *screen) {
+        return screen->availableGeometry().contains(place);
+    });
 }
 
 } // namespace
@@ -214,14 +224,15 @@ bool DrawCtrlForm::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-// Window managers like to pull a new window on to the screen; once it is there, they obey.
+// Window managers like to pull a new window on to one screen; once it is there, they obey.
 void DrawCtrlForm::keepPlaceOfNewWindow()
 {
-    if (!m_sinceShown.isValid() || testWindow->pos() == controlsRectangle().topLeft())
+    const QRect place = controlsRectangle();
+    if (!m_sinceShown.isValid() || testWindow->pos() == place.topLeft())
         return;
     const bool isNew = m_sinceShown.elapsed() < windowIsNewMs;
     m_sinceShown.invalidate();
-    if (isNew)
+    if (isNew && !isOnOneScreen(place))
         QTimer::singleShot(0, this, &DrawCtrlForm::applyControls);
 }
 

@@ -19,6 +19,7 @@ private slots:
     void restart_bringsPlaceSizeAndVisibilityBack();
     void placeBeyondTheScreensEdge_isKept_data();
     void placeBeyondTheScreensEdge_isKept();
+    void moveByAnotherProgram_isLeftAlone();
     void keysInFullScreen_areAppliedWhenItEnds();
     void doubleClickWithAMove_leavesTheWindowWhereItWas();
 
@@ -270,6 +271,22 @@ void tst_e2e_placement::placeBeyondTheScreensEdge_isKept()
 
     QVERIFY(testWindowCovers(place));
     QVERIFY(isStored(place));
+}
+
+/// Another program may have its reasons to move the window.
+void tst_e2e_placement::moveByAnotherProgram_isLeftAlone()
+{
+    startAt(Start);
+    shiftH();
+    QVERIFY(becomesHidden(true));
+    shiftH();
+    QVERIFY(waitFor([&] { return tool().testWindow().isMapped; }));
+
+    const QRect place = Start.translated(30, 20);
+    desktop().windows().move(tool().testWindow().id, place.topLeft());
+    QVERIFY(testWindowCovers(place));
+    QVERIFY(isStoredHidden(false)); // time enough to be moved back
+    QVERIFY(testWindowCovers(place));
 }
 
 void tst_e2e_placement::keysInFullScreen_areAppliedWhenItEnds()
