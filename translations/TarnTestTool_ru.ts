@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>高级设置</source>
-        <translation>Ещё…</translation>
+        <translation>Дополнительно</translation>
     </message>
     <message>
         <source>关闭</source>
