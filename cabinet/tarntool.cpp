@@ -25,10 +25,14 @@ namespace {
 constexpr int firstId = 0; // of each group: the solid colour, from left to right
 constexpr int secondId = 1;
 
+// The picture is read once for a run of changes of the test window's size.
+constexpr int stretchDelayMs = 100;
+
 } // namespace
 
 TarnTool::TarnTool(QWidget *drawWidget, QSettings *settings, QWidget *parent)
     : QDialog(parent)
+    , m_testWindow(drawWidget)
     , m_drawer(std::make_unique<ScrGrid>(drawWidget))
     , ui(makeForm<Ui::TarnTool>(this))
     , m_bgGroup(new QButtonGroup(this))
@@ -39,8 +43,12 @@ TarnTool::TarnTool(QWidget *drawWidget, QSettings *settings, QWidget *parent)
 {
     for (QPushButton *button : {ui->buttonFixedPosition, ui->buttonSetup})
         button->setObjectName(QStringLiteral("normalContentPushBtn"));
+    m_stretchSoon.setSingleShot(true);
+    m_stretchSoon.setInterval(stretchDelayMs);
+    connect(&m_stretchSoon, &QTimer::timeout, this, &TarnTool::stretchPicture);
     uiInit();
     updateLanguage();
+    m_testWindow->installEventFilter(this);
 }
 
 TarnTool::~TarnTool()
@@ -172,6 +180,24 @@ void TarnTool::slot_forbidControls()
 void TarnTool::slot_drawerSizeChanged(int /*width*/, int /*height*/)
 {
     m_drawer->updateBackgroundImage();
+}
+
+// The mouse reports its changes of the size by itself; keys, the placement panel and the full
+// screen do not.
+bool TarnTool::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_testWindow && event->type() == QEvent::Resize)
+        m_stretchSoon.start();
+    return QDialog::eventFilter(watched, event);
+}
+
+void TarnTool::stretchPicture()
+{
+    const bool isOfSize = m_drawer->m_bgPixmap.size() == m_testWindow->size();
+    if (m_drawer->m_bgPicturePath.isEmpty() || isOfSize)
+        return;
+    m_drawer->updateBackgroundImage();
+    m_drawer->update();
 }
 
 void TarnTool::on_buttonFixedPosition_clicked()

@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QDialog>
 #include <QPointer>
+#include <QTimer>
 
 #include <array>
 #include <memory>
@@ -66,6 +67,7 @@ public slots:
     void slot_radioPictureClicked();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private slots:
@@ -119,7 +121,9 @@ private:
     void showThumbnail(const QImage &picture);
     void showChange();
     void saveSoon();
+    void stretchPicture();
 
+    QWidget *m_testWindow;
     const std::unique_ptr<ScrGrid> m_drawer;
     const std::unique_ptr<Ui::TarnTool> ui;
     QButtonGroup *m_bgGroup;
@@ -136,6 +140,7 @@ private:
     SaveSoon *m_saveSoon;
     QString m_bgPicturePath; // of the picture in use; empty for the solid colour
     QString m_lastPictureDir; // where the next file dialog begins
+    QTimer m_stretchSoon;
     QPointer<AdvancedSetup> m_setup; // while it is open
     bool m_restoring = false; // what changes now is no choice of the operator
 };

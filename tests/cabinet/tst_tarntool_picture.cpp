@@ -58,6 +58,7 @@ private slots:
     void nextFileDialog_beginsAtTheChosenFile();
     void solidButton_takesThePictureAway();
     void changedSize_stretchesThePictureAgain();
+    void sizeChangedByOtherThanTheMouse_stretchesThePictureToo();
 
 private:
     QString file(const char *name, const QByteArray &contents);
@@ -336,6 +337,18 @@ void TestTarnToolPicture::changedSize_stretchesThePictureAgain()
     rig.panel->slot_drawerSizeChanged(200, 150);
     QCOMPARE(rig.drawer->m_bgPixmap.size(), QSize(200, 150));
     QVERIFY(!rig.isSaveDue());
+}
+
+void TestTarnToolPicture::sizeChangedByOtherThanTheMouse_stretchesThePictureToo()
+{
+    CabinetRig rig({}, pictureFile(Qt::cyan));
+    rig.click("radioPicture");
+    rig.layOut();
+    rig.canvas.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&rig.canvas));
+    rig.canvas.resize(200, 150);
+    QTRY_COMPARE(rig.drawer->m_bgPixmap.size(), QSize(200, 150));
+    QVERIFY(rig.drawer->active);
 }
 
 QTEST_MAIN(TestTarnToolPicture)
