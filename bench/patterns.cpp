@@ -89,7 +89,8 @@ MakePattern changingCabinet(const Cabinet &cabinet)
         auto drawer = shownCabinet(testWindow, cabinet);
         ScrGrid *const changed = drawer.get();
         return {std::move(drawer),
-                [changed] { changed->m_beginRow = changed->m_beginRow % 9 + 1; }};
+                [changed] { changed->m_beginRow = changed->m_beginRow % 9 + 1; },
+                [changed] { return changed->isDrawnInFull(); }};
     };
 }
 

@@ -92,7 +92,7 @@ qint64 CabinetLayout::strokeCount(Layer layer) const
         return generalLines[layer] ? lines(layer).count : 0;
     if (!layoutOn)
         return 0;
-    return layer == Numbers ? rowCount() : lines(layer).count;
+    return layer == Numbers ? rowCount() * columnCount() : lines(layer).count;
 }
 
 void CabinetLayout::drawLayer(QPainter &painter, Layer layer) const
@@ -107,8 +107,8 @@ void CabinetLayout::drawStrokes(QPainter &painter, Layer layer, qint64 from, qin
         const QFont oldFont = painter.font();
         painter.setPen(numberPen(painter));
         painter.setFont(numberFont(painter));
-        for (qint64 row = from; row < to; ++row)
-            drawNumbers(painter, row);
+        for (qint64 stroke = from; stroke < to; ++stroke)
+            drawNumber(painter, stroke / columnCount(), stroke % columnCount());
         painter.setFont(oldFont);
     } else {
         painter.setPen(linePen(oldPen, layer));
@@ -125,7 +125,7 @@ void CabinetLayout::drawLines(QPainter &painter, Layer family) const
 
 void CabinetLayout::drawText(QPainter &painter) const
 {
-    drawStrokes(painter, Numbers, 0, rowCount());
+    drawStrokes(painter, Numbers, 0, rowCount() * columnCount());
 }
 
 int CabinetLayout::position(Layer family, qint64 stroke) const
@@ -228,12 +228,9 @@ QString CabinetLayout::columnText(qint64 column) const
     return numberText(beginColumn + column);
 }
 
-void CabinetLayout::drawNumbers(QPainter &painter, qint64 row) const
+void CabinetLayout::drawNumber(QPainter &painter, qint64 row, qint64 column) const
 {
-    const qint64 columns = columnCount();
-    const QString text = rowText(row);
-    for (qint64 column = 0; column < columns; ++column)
-        painter.drawText(cell(row, column), Qt::AlignCenter, text + columnText(column));
+    painter.drawText(cell(row, column), Qt::AlignCenter, rowText(row) + columnText(column));
 }
 
 QPen CabinetLayout::numberPen(const QPainter &painter) const

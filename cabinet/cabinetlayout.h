@@ -63,7 +63,7 @@ struct CabinetLayout
     void preparePainter(QPainter &painter) const;
     void drawBackground(QPainter &painter) const;
 
-    // A layer has lines, or rows of numbers, for strokes.
+    // A layer has lines, or numbers row by row, for strokes.
     qint64 strokeCount(Layer layer) const;
     void drawStrokes(QPainter &painter, Layer layer, qint64 from, qint64 to) const;
     void drawLayer(QPainter &painter, Layer layer) const;
@@ -102,6 +102,6 @@ private:
     Lines lines(Layer family) const;
     static Lines ascending(qint64 first, qint64 step, qint64 last, qint64 reach);
     QLine line(Layer family, int position) const;
-    void drawNumbers(QPainter &painter, qint64 row) const;
+    void drawNumber(QPainter &painter, qint64 row, qint64 column) const;
     int side() const { return qMax(size.width(), size.height()); }
 };

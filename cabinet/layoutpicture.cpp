@@ -11,7 +11,7 @@ namespace {
 
 // Less than the time between two paintings of the test window.
 constexpr int partMs = 60;
-constexpr qint64 linesAtATime = 4;
+constexpr qint64 strokesAtATime = 4;
 constexpr int widestFilledLine = 255;
 
 bool isWhole(qreal value)
@@ -109,7 +109,8 @@ void LayoutPicture::proceed()
     while (!isComplete()) {
         const auto layer = Layer(m_layer);
         const qint64 count = m_layout.strokeCount(layer);
-        const qint64 step = layer == CabinetLayout::Numbers ? 1 : linesAtATime;
+        const bool byRow = layer == CabinetLayout::Numbers && m_numbersReady;
+        const qint64 step = byRow ? m_layout.columnCount() : strokesAtATime;
         for (; m_stroke < count; m_stroke += step) {
             if (clock.hasExpired(partMs))
                 return;
@@ -123,8 +124,7 @@ void LayoutPicture::proceed()
 void LayoutPicture::drawStrokes(QPainter &painter, Layer layer, qint64 from, qint64 to)
 {
     if (layer == CabinetLayout::Numbers && m_numbersReady) {
-        for (qint64 row = from; row < to; ++row)
-            m_numbers.drawRow(painter, m_layout, row);
+        m_numbers.drawRow(painter, m_layout, from / m_layout.columnCount());
     } else if (layer != CabinetLayout::Numbers
                && canFill(m_layout.linePen(m_layout.pen, layer), layer)) {
         fillLines(painter, layer, from, to);

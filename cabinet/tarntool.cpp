@@ -25,7 +25,7 @@ namespace {
 constexpr int firstId = 0; // of each group: the solid colour, from left to right
 constexpr int secondId = 1;
 
-// The picture is read once for a run of changes of the test window's size.
+// How often the picture is read in a run of changes of the test window's size.
 constexpr int stretchDelayMs = 100;
 
 } // namespace
@@ -186,7 +186,7 @@ void TarnTool::slot_drawerSizeChanged(int /*width*/, int /*height*/)
 // screen do not.
 bool TarnTool::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_testWindow && event->type() == QEvent::Resize)
+    if (watched == m_testWindow && event->type() == QEvent::Resize && !m_stretchSoon.isActive())
         m_stretchSoon.start();
     return QDialog::eventFilter(watched, event);
 }
