@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -20,92 +21,45 @@ bool isHexDigit(char character)
     return std::isxdigit(static_cast<unsigned char>(character)) != 0;
 }
 
+bool isOctalDigit(char character)
+{
+    return character >= '0' && character <= '7';
+}
+
 int digitValue(char digit)
 {
     const int letter = std::tolower(static_cast<unsigned char>(digit));
     return letter < 'a' ? letter - '0' : letter - 'a' + 10;
 }
 
-bool isOctalDigit(char character)
+// One character of INI text as its reader takes it: plain, or an escape.
+struct Character
 {
-    return character >= '0' && character <= '7';
-}
-
-// What the reader makes of the escapes and quotes in INI text. Only what may be part of a
-// serialized value's beginning matters here, so characters beyond Latin-1 become a blank.
-class Unescaping
-{
-public:
-    // The reader drops byte order marks where a run of characters begins.
-    explicit Unescaping(QByteArray text)
-        : m_text(text.replace(QByteArrayLiteral("\xef\xbb\xbf"), QByteArray()))
-    { }
-
-    QByteArray result()
-    {
-        m_result.reserve(m_text.size());
-        while (m_at < m_text.size()) {
-            const char character = m_text.at(m_at++);
-            if (character == '\\')
-                escape();
-            else if (character != '"')
-                m_result += character;
-        }
-        return m_result;
-    }
-
-private:
-    void escape()
-    {
-        static constexpr char codes[] = "abfnrtv\"?'\\";
-        static constexpr char meanings[] = "\a\b\f\n\r\t\v\"?'\\";
-        if (m_at == m_text.size())
-            return;
-        const char character = m_text.at(m_at);
-        if (isOctalDigit(character)) {
-            number(8, isOctalDigit);
-            return;
-        }
-        ++m_at;
-        if (character == 'x')
-            number(16, isHexDigit);
-        else if (character == '\n' || character == '\r')
-            continueLine(character);
-        else if (const char *code = std::strchr(codes, character); code && character)
-            m_result += meanings[code - codes];
-        // Any other character is dropped with its backslash.
-    }
-
-    void continueLine(char lineEnd)
-    {
-        const char next = m_at < m_text.size() ? m_text.at(m_at) : '\0';
-        if (next != lineEnd && (next == '\n' || next == '\r'))
-            ++m_at;
-    }
-
-    // The reader keeps the lowest 16 bits of a number of any length.
-    void number(int base, bool (*isDigit)(char))
-    {
-        quint16 value = 0;
-        const int start = m_at;
-        for (; m_at < m_text.size() && isDigit(m_text.at(m_at)); ++m_at) {
-            value = static_cast<quint16>(value * base + digitValue(m_text.at(m_at)));
-        }
-        if (m_at > start)
-            m_result += value < 0x100 ? static_cast<char>(value) : ' ';
-    }
-
-    const QByteArray m_text;
-    int m_at = 0;
-    QByteArray m_result;
+    int value; // below 0 when nothing comes of it
+    int end; // of it, in the text
+    bool isEscaped;
 };
 
-// The beginnings of values that are read by deserializing bytes.
-const QByteArray serializedStarts[] = {QByteArrayLiteral("@Variant("),
-                                       QByteArrayLiteral("@DateTime(")};
+Character characterAt(const QByteArray &text, int at)
+{
+    if (text.at(at) != '\\')
+        return {static_cast<uchar>(text.at(at)), at + 1, false};
+    const bool isHex = text.mid(at + 1, 1) == "x";
+    const int start = isHex ? at + 2 : at + 1;
+    int end = start;
+    quint16 number = 0; // the reader keeps the lowest 16 bits of a number of any length
+    while (end < text.size() && (isHex ? isHexDigit : isOctalDigit)(text.at(end)))
+        number = static_cast<quint16>(number * (isHex ? 16 : 8) + digitValue(text.at(end++)));
+    if (end > start)
+        return {number, end, true};
+    static const QByteArray codes = QByteArrayLiteral("abfnrtv\"?'\\");
+    static const QByteArray meanings = QByteArrayLiteral("\a\b\f\n\r\t\v\"?'\\");
+    const int code = isHex || start == text.size() ? -1 : codes.indexOf(text.at(start));
+    return {code < 0 ? -1 : meanings.at(code), qMin(start + (isHex ? 0 : 1), text.size()), true};
+}
 
-// The one serialized value that the program writes: the type's number, the kind of the
-// colour, and five 16-bit channels.
+// The one serialized value that the program writes: the type's number, the kind of the colour,
+// and five 16-bit channels.
 bool isColor(const QByteArray &bytes)
 {
     static const QByteArray type("\0\0\0\x43", 4);
@@ -114,20 +68,61 @@ bool isColor(const QByteArray &bytes)
            && static_cast<uchar>(bytes.at(type.size())) < colorKinds;
 }
 
-bool isHarmful(const QByteArray &text)
-{
-    const QByteArray plain = Unescaping(text).result();
-    return std::any_of(std::cbegin(serializedStarts), std::cend(serializedStarts),
-                       [&](const QByteArray &start) { return plain.contains(start); });
-}
-
-// Whether the line is a key with the value of a colour and nothing else.
+// Whether the line is a key with the value of a colour and nothing else, spelled as Qt spells it.
 bool isColorLine(const QByteArray &line)
 {
-    const QByteArray &start = serializedStarts[0];
-    const QByteArray plain = Unescaping(line.mid(line.indexOf('=') + 1)).result();
-    return plain.startsWith(start) && plain.endsWith(')')
-           && isColor(plain.mid(start.size(), plain.size() - start.size() - 1));
+    static const QRegularExpression form(QStringLiteral(
+        R"re(^[ \t]*[\w%.-]+[ \t]*=[ \t]*("?)@Variant\(((?:[ !#-\[\]-~]|\\[ -~])*)\)\1[ \t]*\r?$)re"));
+    const QRegularExpressionMatch match = form.match(QString::fromLatin1(line));
+    if (!match.hasMatch())
+        return false;
+    const QByteArray spelled = match.captured(2).toLatin1();
+    const bool isQuoted = !match.captured(1).isEmpty();
+    QByteArray bytes;
+    for (int at = 0; at < spelled.size();) {
+        const Character character = characterAt(spelled, at);
+        const bool isSeparator = !character.isEscaped && std::strchr(",;", character.value);
+        if (character.value < 0 || character.value > 0xff || (isSeparator && !isQuoted))
+            return false;
+        bytes += static_cast<char>(character.value);
+        at = character.end;
+    }
+    return isColor(bytes);
+}
+
+// Whether the line may begin a serialized value: "@Variant(" or "@DateTime(". What the reader
+// leaves out in between, such as quotes, is not looked into.
+bool hasSerialized(const QByteArray &line)
+{
+    for (int at = 0; at < line.size();) {
+        const Character character = characterAt(line, at);
+        at = character.end;
+        if (character.value != '@')
+            continue;
+        const char next = at < line.size() ? line.at(at) : '\0';
+        const bool isOrdinary = next > ' ' && next < '\x7f' && !std::strchr("\"\\,;VD", next);
+        if (!isOrdinary)
+            return true;
+    }
+    return false;
+}
+
+// Whether the line ends where it seems to: no quotes and no backslash reach over its end.
+bool isComplete(const QByteArray &line)
+{
+    bool isQuoted = false;
+    for (int at = 0; at < line.size(); ++at) {
+        const char character = line.at(at);
+        if (character == '\\')
+            ++at;
+        else if (character == '"')
+            isQuoted = !isQuoted;
+        else if (character == '\r' && at != line.size() - 1)
+            return false;
+        if (at >= line.size() || (character == '\\' && line.at(at) == '\r'))
+            return false;
+    }
+    return !isQuoted;
 }
 
 QByteArray read(const QString &path)
@@ -166,21 +161,16 @@ QSettings *openIni(const QString &path, QObject *parent)
 
 QByteArray SettingsFile::withoutSerialized(const QByteArray &text)
 {
-    if (!isHarmful(text))
+    if (!hasSerialized(text))
         return text;
     QByteArray kept;
-    QByteArray keptButColors;
     const QList<QByteArray> lines = text.split('\n');
     for (const QByteArray &line : lines) {
-        const bool isColor = isColorLine(line);
-        if (!isColor && isHarmful(line))
-            continue;
-        kept += line + '\n';
-        if (!isColor)
-            keptButColors += line + '\n';
+        if (isColorLine(line) || (isComplete(line) && !hasSerialized(line)))
+            kept += line + '\n';
     }
-    kept.chop(1);
-    return isHarmful(keptButColors) ? QByteArray() : kept;
+    kept.chop(1); // after the last line there was none
+    return kept;
 }
 
 QSettings *SettingsFile::open(const QString &path, QObject *parent)
@@ -191,7 +181,9 @@ QSettings *SettingsFile::open(const QString &path, QObject *parent)
         return openIni(path, parent);
 
     const auto place = std::make_shared<QTemporaryDir>();
-    const QString copy = place->filePath(QStringLiteral("config.ini"));
+    // Below a file nothing can be read or written.
+    const QString copy = place->isValid() ? place->filePath(QStringLiteral("config.ini"))
+                                          : path + QStringLiteral("/none");
     write(copy, safe);
     QSettings *settings = openIni(copy, parent);
     // The settings save once more when they end.

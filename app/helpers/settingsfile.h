@@ -15,8 +15,8 @@ constexpr qint64 maximumSize = 64 << 20;
 
 // The INI text without the lines that hold a serialized value ("@Variant(...)"), except those
 // of a colour: Qt trusts the lengths and depths in them, and one bad byte ends the program.
-// Text without any comes back as it is. Where such a value reaches over line ends, nothing is
-// left.
+// Lines that reach into the next one go with them, since the reader would join what is left.
+// Text without any such value comes back as it is.
 QByteArray withoutSerialized(const QByteArray &text);
 
 // Opens the file in INI format and UTF-8, whatever stands in its place; the caller owns the

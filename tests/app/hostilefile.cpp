@@ -252,10 +252,25 @@ QByteArray HostileFile::serialized()
     constexpr int typeCount = 90;
     QByteArray bytes = bigEndian(quint32(below(3) ? below(typeCount) : colorType));
     if (below(50) == 0)
-        return "@Variant(" + escaped(nestedLists(below(10000))) + ')';
+        return disguised("@Variant(") + escaped(nestedLists(below(10000))) + ')';
     for (int part = below(5); part > 0; --part)
         bytes += below(2) ? bigEndian(quint32(m_random()) >> below(32)) : garbage(below(20));
-    return (below(4) ? "@Variant(" : "@DateTime(") + escaped(bytes) + ')';
+    return disguised(below(4) ? "@Variant(" : "@DateTime(") + escaped(bytes) + ')';
+}
+
+// The same to the reader, or nearly, with what it leaves out put in and letters by their numbers.
+QByteArray HostileFile::disguised(QByteArray beginning)
+{
+    constexpr const char *leftOut[] = {"\"\"", "\"\" ",  "\xef\xbb\xbf", "\\\n",
+                                       "\\q",  "\\\r\n", "\\x",          "1, "};
+    for (int change = below(4); change > 0; --change) {
+        const int place = below(beginning.size());
+        if (below(2))
+            beginning.insert(place, leftOut[below(length(leftOut))]);
+        else
+            beginning.replace(place, 1, escaped(beginning.mid(place, 1)));
+    }
+    return beginning;
 }
 
 // The beginning of a list in a list in a list.

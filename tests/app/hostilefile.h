@@ -25,6 +25,7 @@ private:
     QByteArray text();
     QByteArray typed();
     QByteArray serialized();
+    QByteArray disguised(QByteArray beginning);
     static QByteArray nestedLists(int depth);
 
     std::mt19937 m_random;

@@ -16,6 +16,7 @@
 namespace {
 
 const QByteArray pen("@Variant(\\0\\0\\0M\\x1\\0\\0\\0)");
+const QByteArray mark("\xef\xbb\xbf"); // of the byte order
 const QByteArray color("@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\x12\\x12\\0\\0\\xff\\xff\\0\\0)");
 
 } // namespace
@@ -83,15 +84,23 @@ void TestSettingsFile::withoutSerialized_takesOutWhatQtWouldTrust_data()
     row("colours in a list", color + ", " + color);
     row("in quotes", "\"@Variant(\\0)\"");
     row("quotes inside", "@Var\"\"iant(\\0)");
+    row("quotes and a blank inside", "@Var\"\" iant(\\0)");
     row("sign by its number", "\\x40Variant(\\0)");
     row("sign by its octal number", "\\100Variant(\\0)");
     row("sign by a number of many digits", "\\x7770040Variant(\\0)");
     row("letter by its number", "@V\\x61riant(\\0)");
+    row("first letter by its number", "@\\x56" + mark + "ariant(\\0)");
     row("unknown escape inside", "@Var\\qiant(\\0)");
     row("escape without digits inside", "@Var\\xiant(\\0)");
-    row("byte order mark inside", "@Var\xef\xbb\xbfiant(\\0)");
-    QTest::newRow("over a line end") << QByteArray("a=@Var\\\niant(\\0)\n") << QByteArray();
-    QTest::newRow("over two line ends") << QByteArray("a=@Var\\\r\niant(\\0)\n") << QByteArray();
+    row("byte order mark inside", "@Var" + mark + "iant(\\0)");
+    row("colour with a mark inside", QByteArray(color).replace("\\x43", "\\x9" + mark + "0043"));
+    row("before a colour, continued", "\\\n@Variant(\\0\\0\\0\\x9\\x7f);=" + color);
+    row("before a colour and a carriage return", "\\\n@Variant(\\0\\0\\0\\x9\\x7f)\rb=" + color);
+    row("in quotes that stay open", "\"a\n@Variant(\\0)\"");
+    QTest::newRow("over a line end")
+        << QByteArray("a=1\nb=@Var\\\niant(\\0)\nc=2") << QByteArray("a=1\niant(\\0)\nc=2");
+    QTest::newRow("a line before it goes on")
+        << QByteArray("a=1\\\nb=2\nc=" + pen + "\nd=\"3\ne=4") << QByteArray("b=2\ne=4");
 }
 
 void TestSettingsFile::withoutSerialized_takesOutWhatQtWouldTrust()
@@ -108,7 +117,10 @@ void TestSettingsFile::withoutSerialized_leavesTheRestAsItIs_data()
     QTest::newRow("numbers") << QByteArray("[setting]\na=1\nb=-2");
     QTest::newRow("colours") << "[setting]\na=" + color + "\nb=" + color + '\n';
     QTest::newRow("quoted colour") << "[setting]\na=\"" + color + "\"\n";
-    QTest::newRow("other notations") << QByteArray("a=@ByteArray(x)\nb=@Rect(1 2 3 4)\nc=@@Size(");
+    QTest::newRow("colours between blanks") << " a = " + color + " \nb\t=\t" + color + '\t';
+    QTest::newRow("lines of another system") << "[setting]\r\na=1\r\nb=" + color + "\r\nc=2\r\n";
+    QTest::newRow("other notations")
+        << QByteArray("a=@ByteArray(x)\nb=@Rect(1 2 3 4)\nc=@@Size(\nd=a@b.c");
     QTest::newRow("zeros") << QByteArray(100, '\0');
     QTest::newRow("escapes at the end") << QByteArray("a=\\x4");
     QTest::newRow("backslash at the end") << QByteArray("a=\\");
