@@ -11,20 +11,50 @@ namespace {
 
 using MakePattern = std::function<Pattern(QWidget *)>;
 
-// All four families, one pixel further at every painting.
+// All four families.
+std::unique_ptr<GridDrawer> fullGrid(QWidget *testWindow, int distance, int lineWidth)
+{
+    auto grid = std::make_unique<GridDrawer>(testWindow);
+    grid->slot_colorChanged(Qt::red);
+    grid->slot_changeDistance(distance);
+    grid->slot_changePix(lineWidth);
+    grid->slot_horiToggled(true);
+    grid->slot_vertLineToggled(true);
+    grid->slot_slantLeftToggled(true);
+    grid->slot_slantRightToggled(true);
+    return grid;
+}
+
+// One pixel further at every painting.
 MakePattern scrollingGrid(int distance, int lineWidth)
 {
     return [distance, lineWidth](QWidget *testWindow) -> Pattern {
-        auto grid = std::make_unique<GridDrawer>(testWindow);
+        auto grid = fullGrid(testWindow, distance, lineWidth);
         GridDrawer *const drawer = grid.get();
-        drawer->slot_colorChanged(Qt::red);
-        drawer->slot_changeDistance(distance);
-        drawer->slot_changePix(lineWidth);
-        drawer->slot_horiToggled(true);
-        drawer->slot_vertLineToggled(true);
-        drawer->slot_slantLeftToggled(true);
-        drawer->slot_slantRightToggled(true);
         return {std::move(grid), [drawer] { drawer->scrollLines(); }};
+    };
+}
+
+// The first lines are much further from the edge than the next ones from them, as a smaller
+// distance leaves them, and at every painting further by a pixel or nearer by one.
+MakePattern shiftedGrid(int distance, int lineWidth)
+{
+    constexpr int widest = 700;
+    constexpr int offset = 690;
+    return [distance, lineWidth](QWidget *testWindow) -> Pattern {
+        auto grid = fullGrid(testWindow, distance, lineWidth);
+        GridDrawer *const drawer = grid.get();
+        const auto shift = [drawer, distance](int pixels) {
+            drawer->slot_changeDistance(widest);
+            for (int i = 0; i < pixels; ++i)
+                drawer->scrollLines();
+            drawer->slot_changeDistance(distance);
+        };
+        shift(offset);
+        return {std::move(grid), [shift, further = false]() mutable {
+                    further = !further;
+                    shift(further ? 1 : widest - 1);
+                }};
     };
 }
 
@@ -107,6 +137,10 @@ const std::vector<PatternRow> &patternRows()
         {"grid, spacing 50, width 5", scrollingGrid(50, 5)},
         {"grid, spacing 700, width 1", scrollingGrid(700, 1)},
         {"grid, spacing 700, width 5", scrollingGrid(700, 5)},
+        {"grid, spacing 3, width 1, offset beyond it", shiftedGrid(3, 1)},
+        {"grid, spacing 3, width 5, offset beyond it", shiftedGrid(3, 5)},
+        {"grid, spacing 10, width 5, offset beyond it", shiftedGrid(10, 5)},
+        {"grid, spacing 690, width 5, offset beyond it", shiftedGrid(690, 5)},
         {"gradient, 32 levels", restingGradient(32)},
         {"gradient, 256 levels", restingGradient(256)},
         {"purity", steppingPurity},

@@ -94,6 +94,12 @@ int GridPattern::reach() const
     return qMax(1, pen.width()) + 3;
 }
 
+int GridPattern::lineReach() const
+{
+    // Half the width and half a pixel, both aslant and rounded up.
+    return qMax(1, pen.width()) * 3 / 4 + 1;
+}
+
 bool GridPattern::operator==(const GridPattern &other) const
 {
     const auto key = [](const GridPattern &p) {

@@ -62,6 +62,11 @@ struct GridPattern
     // How far in pixels a line's paint can be from the line, along a row or a column.
     int reach() const;
 
+    // The same counted in positions of the line's own family, for lines at 1 or more. A pixel's
+    // position is its row, its column, the sum of both plus 1 for slant-left lines, and for
+    // slant-right ones the square's side plus its column minus its row.
+    int lineReach() const;
+
     bool operator==(const GridPattern &other) const;
     bool operator!=(const GridPattern &other) const { return !(*this == other); }
 

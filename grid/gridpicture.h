@@ -1,19 +1,16 @@
 #pragma once
 
-#include "gridpattern.h"
+#include "griddivision.h"
 #include "linetrace.h"
 
 #include <QPixmap>
-#include <QRect>
-
-#include <array>
+#include <QVector>
 
 class QPainter;
 
 // Paints a grid at about the cost of copying a picture of its size, and to the pixel as the
-// pattern itself would: away from the border the picture repeats every line distance in both
-// directions. So it is put together from nine pieces, a middle, four edges and four corners,
-// which are kept until the pattern changes and together are smaller than the picture.
+// pattern itself would: it is put together from pieces that repeat, whose tiles are kept until
+// the pattern changes and together are smaller than the picture.
 class GridPicture
 {
 public:
@@ -23,22 +20,21 @@ public:
     qint64 memory() const;
 
 private:
-    struct Piece
-    {
-        QRect area; // of the window
-        QPixmap tile; // fills the area from its upper left corner on
-    };
-
     void dropPieces();
     void prepare(const GridPattern &pattern, int scale);
-    void fillPiece(Piece &piece, const QSize &cell, const QSize &tile);
-    void paintPart(QPixmap &pixmap, const QRect &part) const;
-    void drawStraightLines(QPainter &painter, const QRect &part) const;
-    void drawSlantLines(QPainter &painter, const QRect &part) const;
+    void fillTile(QPixmap &tile, const GridPiece &piece) const;
+    void paintCell(QPainter &painter, const GridPiece &piece) const;
+    void drawPieces(QPainter &painter) const;
+    void drawPiece(QPainter &painter, const GridPiece &piece, const QPixmap &tile) const;
+    void drawLinesOver(QPainter &painter) const;
+    void drawStraightLines(QPainter &painter, const GridPattern &pattern, const QRect &part,
+                           GridSpan span = {}) const;
+    void drawSlantLines(QPainter &painter, const GridPattern &pattern, const QRect &part) const;
 
     GridPattern m_pattern; // of the pieces
     int m_scale = 0; // device pixels to a pixel; 0 while there are no pieces
+    GridDivision m_division;
+    QVector<QPixmap> m_tiles; // one for each piece; none where the pieces would save nothing
     LineTrace m_rows; // of the horizontal lines
     LineTrace m_columns; // of the vertical lines
-    std::array<Piece, 9> m_pieces;
 };
