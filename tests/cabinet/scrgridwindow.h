@@ -62,18 +62,19 @@ struct ScrGridWindow
 
     QTimer *refreshTimer() const { return window.findChild<QTimer *>(); }
 
-    // Nothing is under way any more.
+    // Waits until nothing is under way any more: a paint that is asked for comes within a few
+    // milliseconds. False if there is no end of them.
     bool settle()
     {
+        constexpr int quietMs = 50;
         refreshTimer()->stop();
-        const int before = paints.count;
-        QTest::qWait(0);
-        return QTest::qWaitFor([&] {
-                   const int now = paints.count;
-                   QCoreApplication::processEvents();
-                   return now == paints.count;
-               })
-               && paints.count - before < 5;
+        const int first = paints.count;
+        int before = first;
+        do {
+            before = paints.count;
+            QTest::qWait(quietMs);
+        } while (paints.count != before && paints.count - first < 5);
+        return paints.count == before;
     }
 
     DrawContainer window;
