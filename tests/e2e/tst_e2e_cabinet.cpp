@@ -20,6 +20,7 @@ private slots:
     void colourAndPicture_takeEachOthersPlaceAndFollowTheWindow();
     void layout_coversWhatOtherTestsHaveShown();
     void layoutOverAPicture_isPaintedTenTimesASecond();
+    void advancedSettings_showWhileTheDialogIsOpen();
 
 private:
     using Backdrop = std::function<QRgb(const QPoint &)>;
@@ -40,7 +41,12 @@ const QPoint fromRightButton = panelOffset + QPoint(407, 54);
 const QPoint solidButton = panelOffset + QPoint(38, 158);
 const QPoint pictureButton = panelOffset + QPoint(222, 158);
 const QPoint layoutButton = panelOffset + QPoint(526, 158);
+const QPoint setupButton = panelOffset + QPoint(446, 158);
 const QPoint greenButton = panelOffset + QPoint(105, 31);
+
+// In the dialog of the advanced settings.
+const QSize dialogSize(360, 220);
+const QPoint widerModuleLines(156, 132);
 
 constexpr QRect Start = QRect(100, 80, 256, 256);
 const QSize board(64, 32); // two by two modules of 32 by 16 pixels
@@ -234,6 +240,34 @@ void tst_e2e_cabinet::layoutOverAPicture_isPaintedTenTimesASecond()
     const QVector<DamageCounter::Report> reports = painted.reports();
     const unsigned long span = reports.at(intervals).time - reports.first().time;
     QVERIFY2(span >= 1800, qPrintable(QStringLiteral("Painted 20 times within %1 ms").arg(span)));
+}
+
+void tst_e2e_cabinet::advancedSettings_showWhileTheDialogIsOpen()
+{
+    startOnTheCabinetTab();
+    clickInWindow(layoutButton);
+    QVERIFY(shows([](const QPoint &) { return black; }));
+
+    clickInWindow(setupButton);
+    WindowInfo dialog;
+    const auto opens = [&] {
+        for (const WindowInfo &window : tool().mappedWindows()) {
+            if (window.geometry.size() == dialogSize)
+                dialog = window;
+        }
+        return dialog.id != 0;
+    };
+    QVERIFY(waitFor(opens));
+    const QPoint besideAModuleLine = Start.topLeft() + QPoint(board.width() / 2 - 1, 5);
+    QCOMPARE(desktop().screen().pixel(besideAModuleLine) | 0xff000000U, black);
+    desktop().mouse().click(dialog.geometry.topLeft() + widerModuleLines);
+    QVERIFY(waitFor([&] {
+        return (desktop().screen().pixel(besideAModuleLine) | 0xff000000U) == qRgb(255, 0, 0);
+    }));
+    QVERIFY(desktop().windows().info(dialog.id).isMapped);
+    QVERIFY(waitFor([&] {
+        return tool().configValue(QStringLiteral("/setting/advanceModeWidth")).toInt() == 2;
+    }));
 }
 
 QTEST_GUILESS_MAIN(tst_e2e_cabinet)
