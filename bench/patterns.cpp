@@ -118,8 +118,7 @@ MakePattern changingCabinet(const Cabinet &cabinet)
     return [cabinet](QWidget *testWindow) -> Pattern {
         auto drawer = shownCabinet(testWindow, cabinet);
         ScrGrid *const changed = drawer.get();
-        return {std::move(drawer),
-                [changed] { changed->m_beginRow = changed->m_beginRow % 9 + 1; },
+        return {std::move(drawer), [changed] { changed->m_beginRow = changed->m_beginRow % 9 + 1; },
                 [changed] { return changed->isDrawnInFull(); }};
     };
 }
