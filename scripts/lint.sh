@@ -3,8 +3,8 @@
 # code, up to level 1; every warning is an error.
 #
 # Usage: scripts/lint.sh [--all | FILE.cpp...]
-# Without files: all sources but the test programs themselves, which would take
-# longer than all the rest; with --all, these too.
+# Without files: all sources but those of the tests, which would take longer than
+# all the rest; with --all, these too.
 set -euo pipefail
 
 # lint_one FILE: silent if both linters are.
@@ -29,9 +29,9 @@ if [ "${1:-}" = --one ]; then
   exit
 fi
 
-left_out='/tst_[^/]*$'
+left_out=tests/
 if [ "${1:-}" = --all ]; then
-  left_out='^$'
+  left_out=build/
   shift
 fi
 
@@ -56,7 +56,7 @@ if [ ${#files[@]} -eq 0 ]; then
   while read -r file; do
     files+=("$file")
   done < <(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' build/compile_commands.json \
-    | grep -vF "$root/build/" | grep -v "$left_out" | sort -u)
+    | grep -vF "$root/build/" | grep -v "^$root/$left_out" | sort -u)
 fi
 if [ ${#files[@]} -eq 0 ]; then
   echo 'lint: no sources to check' >&2

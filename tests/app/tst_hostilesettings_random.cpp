@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QtTest>
 
-// Thousands of settings files that nobody would write, each for a start of the program.
+// Hundreds, and with sanitizers thousands, of settings files that nobody would write, each for a start of the program.
 // The program's style sheet is left out of this test, since it takes most of a start's time.
 class TestHostileSettingsRandom : public QObject
 {
@@ -21,7 +21,7 @@ private slots:
 void TestHostileSettingsRandom::anyFile_startsTheProgram()
 {
     constexpr quint32 seed = 20260517;
-    constexpr int files = 5000;
+    constexpr int files = TARN_HOSTILE_FILES;
     constexpr int filesPerWalk = 100; // a walk through all patterns takes as long as many starts
     HostileFile hostile(seed);
     for (int number = 0; number < files; ++number) {

@@ -175,7 +175,7 @@ QColor Lot::color()
 {
     switch (between(0, 11)) {
     case 0:
-        return QColor();
+        return {};
     case 1: // translucent
         return {between(0, 255), between(0, 255), between(0, 255), between(0, 254)};
     default:
