@@ -7,8 +7,9 @@
 #include <QFile>
 #include <QtTest>
 
-// Hundreds, and with sanitizers thousands, of settings files that nobody would write, each for a start of the program.
-// The program's style sheet is left out of this test, since it takes most of a start's time.
+// Hundreds, and with sanitizers thousands, of settings files that nobody would write, each for a
+// start of the program. The program's style sheet is left out of this test, since it takes most of
+// a start's time.
 class TestHostileSettingsRandom : public QObject
 {
     Q_OBJECT
