@@ -204,7 +204,6 @@ void AdvancedSetup::updateLanguage()
     };
     for (const auto &[item, text] : captions) {
         QLabel *caption = m_captions.at(item);
-        caption->ensurePolished(); // the font decides on what fits
         CommonHelper::setQLabelText(caption, text);
         caption->buddy()->setAccessibleName(text);
     }

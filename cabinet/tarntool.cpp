@@ -299,10 +299,6 @@ void TarnTool::setSwatch(ColorItem item, const QColor &color, const QString &sty
 
 void TarnTool::updateLanguage()
 {
-    // The font of the style sheet decides on what fits, also in a tab that was not shown yet.
-    const auto children = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QWidget *child : children)
-        child->ensurePolished();
     // Each caption with the control that it names.
     const std::tuple<QLabel *, QWidget *, QString> captions[] = {
         {ui->labelBoxWidth, ui->boxWidth, tr("模块宽度")},

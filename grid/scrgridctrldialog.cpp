@@ -224,10 +224,6 @@ void ScrGridCtrlDialog::stepGrey(int step)
 
 void ScrGridCtrlDialog::updateLanguage()
 {
-    // The font of the style sheet decides on what fits, also in a tab that was not shown yet.
-    const auto controls = findChildren<QWidget *>();
-    for (const QWidget *control : controls)
-        control->ensurePolished();
     setWindowTitle(tr("显示屏测试工具-网格"));
     m_swatches->retranslate();
     for (const Family &family : m_families)
