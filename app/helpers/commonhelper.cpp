@@ -27,7 +27,8 @@ void fitText(Widget *widget, const QString &text, int available)
     const QFontMetrics metrics(widget->font());
     const bool fits = textWidth(metrics, text) <= available;
     widget->setToolTip(fits ? QString() : text);
-    widget->setText(metrics.elidedText(text, Qt::ElideRight, available));
+    // Eliding cuts by the exact width, whose fraction of a pixel the advance above rounds away.
+    widget->setText(fits ? text : metrics.elidedText(text, Qt::ElideRight, available));
 }
 
 } // namespace
