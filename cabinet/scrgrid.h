@@ -25,6 +25,7 @@ public:
     explicit ScrGrid(QWidget *parent);
 
     void draw(bool enabled) override;
+    bool coversWindow() const override;
     void update() override;
 
     // Keeps the path, and the picture stretched to the test window's present size. A file that

@@ -20,6 +20,7 @@ public:
     explicit GridDrawer(QWidget *testWindow);
 
     void draw(bool paint) override;
+    bool coversWindow() const override { return m_bgColor.alpha() == 255; }
 
     // One family each over the test window's size, enabled or not, with the painter's pen.
     void drawHoriLines(QPainter &painter);

@@ -3,6 +3,7 @@
 #include "ui_scrtestdialog.h"
 
 #include "commonhelper.h"
+#include "drawcontainer.h"
 #include "mixselection.h"
 #include "mixsetting.h"
 #include "scrgridctrldialog.h"
@@ -191,10 +192,10 @@ void ScrGridCtrlDialog::slot_keyDeletePressed()
     rampGrey(false);
 }
 
-// The keys reach every panel; only the one whose pattern is selected answers.
+// The keys reach every panel; only the one whose pattern is shown answers.
 void ScrGridCtrlDialog::rampGrey(bool up)
 {
-    if (!isScroll || !drawer.isSelected())
+    if (!isScroll || !DrawContainer::shows(drawer))
         return;
     autoGreyUp = up;
     autoGreyDown = !up;

@@ -18,6 +18,11 @@ void ScrPurity::draw(bool paint)
                      getGrayScaleColor(color, alpha));
 }
 
+bool ScrPurity::coversWindow() const
+{
+    return color.alpha() == 255; // dimming keeps it
+}
+
 void ScrPurity::slot_colorChanged(const QColor &newColor)
 {
     active = true;

@@ -14,6 +14,7 @@ public:
     explicit ScrPurity(QWidget *target);
 
     void draw(bool paint) override;
+    bool coversWindow() const override;
 
 signals:
     // A grey level was set; a colour alone does not say so. Wanted.

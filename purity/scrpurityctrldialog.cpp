@@ -3,6 +3,7 @@
 #include "ui_scrpurityctrldialog.h"
 
 #include "commonhelper.h"
+#include "drawcontainer.h"
 #include "form.h"
 #include "puritykeys.h"
 #include "savesoon.h"
@@ -252,7 +253,7 @@ void ScrPurityCtrlDialog::slot_keyDeletePressed()
 // In automatic mode the direction changes; otherwise the run starts, in the direction of before.
 void ScrPurityCtrlDialog::stepAutomatically(bool up)
 {
-    if (!drawer.isSelected())
+    if (!DrawContainer::shows(drawer))
         return;
     if (ui->radioButtonAuto->isChecked()) {
         stepUp = up;

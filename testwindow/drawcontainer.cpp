@@ -47,6 +47,8 @@ DrawContainer::DrawContainer(QWidget *parent)
     , ui(makeForm<Ui::DrawContainer>(this))
 {
     setAttribute(Qt::WA_MouseTracking);
+    // Nothing is painted below a pattern that hides it; see paintBackground() for the others.
+    setAttribute(Qt::WA_NoSystemBackground);
     // A tool window of an inactive program would vanish from a Mac's screen.
     setAttribute(Qt::WA_MacAlwaysShowToolWindow);
     // As a mere utility window some X11 window managers would not let it fill the screen.
@@ -173,12 +175,35 @@ void DrawContainer::slot_setScreenMaxSize(int width, int height)
     maxHeight = height;
 }
 
+bool DrawContainer::shows(const DrawerBase &drawer)
+{
+    const auto *window = qobject_cast<const DrawContainer *>(drawer.targetWidget);
+    if (!window)
+        return true;
+    const DrawerBase *const shown = window->drawerToShow();
+    return (shown ? shown : window->currentDrawer) == &drawer;
+}
+
+// An inactive drawer leaves the pattern before it on the screen.
+DrawerBase *DrawContainer::drawerToShow() const
+{
+    return currentDrawer && currentDrawer->active ? currentDrawer : shownDrawer;
+}
+
+// As Qt would: a translucent colour is copied as it is, which dims it.
+void DrawContainer::paintBackground()
+{
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(rect(), palette().brush(backgroundRole()));
+}
+
 void DrawContainer::paintEvent(QPaintEvent * /*event*/)
 {
-    // An inactive drawer leaves the pattern before it on the screen.
-    if (currentDrawer && currentDrawer->active)
-        shownDrawer = currentDrawer;
-    if (currentDrawer && shownDrawer)
+    shownDrawer = drawerToShow();
+    if (!shownDrawer || !shownDrawer->coversWindow())
+        paintBackground();
+    if (shownDrawer)
         shownDrawer->draw(true);
     if (showMousePos)
         drawMousePos();

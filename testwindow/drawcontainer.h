@@ -37,6 +37,11 @@ public:
     // The drawer last handed over, null at start.
     const DrawerBase *selectedDrawer() const { return currentDrawer; }
 
+    // Whether this drawer's test is the one that the operator sees on its test window, or is
+    // going to see with the next paint. Before any pattern was shown that is the selected one's.
+    // True on a target that is not a test window.
+    static bool shows(const DrawerBase &drawer);
+
     // Where the window's own key presses go from now on; borrowed.
     void setKeyHelper(CommonHelper *helper) { keyHelper = helper; }
 
@@ -73,6 +78,8 @@ protected:
 private:
     void initContextMenu();
     void initRefreshTimer();
+    DrawerBase *drawerToShow() const;
+    void paintBackground();
     void drawMousePos();
     void drawHelperInfo();
     void findWidgetEdge(const QPoint &pointer);

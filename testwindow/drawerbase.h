@@ -18,13 +18,12 @@ public:
     // paint event; paints nothing when `paint` is false.
     virtual void draw(bool paint) = 0;
 
-    // Asks the test window, if it has this drawer selected, for a repaint on the next
-    // turn of the event loop.
+    // Asks the test window for a repaint on the next turn of the event loop.
     virtual void update();
 
-    // Whether the test window has this drawer selected, shown yet or not. Always
-    // true on a target that is not a test window.
-    bool isSelected() const;
+    // Whether every pixel of the test window is painted over by draw(true), so that nothing
+    // has to be there before.
+    virtual bool coversWindow() const { return false; }
 
     // The drawer has something to show. The test window goes on painting the drawer
     // that was shown before until the selected one is active.

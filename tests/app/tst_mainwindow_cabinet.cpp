@@ -81,7 +81,7 @@ void TestMainWindowCabinet::start_leavesTheDrawerInactive()
 {
     start();
     QCOMPARE(m_rig.tabs()->currentWidget(), static_cast<QWidget *>(panel()));
-    QVERIFY(drawer()->isSelected());
+    QVERIFY(DrawContainer::shows(*drawer()));
     QVERIFY(!drawer()->active);
     layOut();
     QVERIFY(drawer()->active);

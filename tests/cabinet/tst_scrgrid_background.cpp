@@ -15,6 +15,7 @@ private slots:
     void background_showsAfterAnotherTest();
     void windowsOwnBackground_isTheSame();
     void newStyleSheet_doesNotHideTheBackground();
+    void window_isCoveredByTheLayout();
     void unchangedBackground_asksForNoPaint_data();
     void unchangedBackground_asksForNoPaint();
     void changedBackground_asksForOneMorePaint();
@@ -96,6 +97,16 @@ void TestScrGridBackground::newStyleSheet_doesNotHideTheBackground()
     QVERIFY(rig.settle());
     QVERIFY(rig.shows(LayoutColor::black));
     QCOMPARE(rig.window.palette().color(QPalette::Window), QColor(Qt::black));
+}
+
+void TestScrGridBackground::window_isCoveredByTheLayout()
+{
+    ScrGridRig rig;
+    QVERIFY(rig.canvas.isCovered());
+    rig.drawer.setBackgroundImage(m_red);
+    QVERIFY(rig.canvas.isCovered());
+    rig.drawer.m_layoutOn = false;
+    QVERIFY(!rig.canvas.isCovered());
 }
 
 void TestScrGridBackground::unchangedBackground_asksForNoPaint_data()

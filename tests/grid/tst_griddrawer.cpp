@@ -20,6 +20,7 @@ class TestGridDrawer : public QObject
 
 private slots:
     void drawFalse_paintsNothingNotEvenTheBackground();
+    void window_isCoveredByAnOpaqueBackground();
     void noFamilies_showTheInvalidBackgroundAtStart();
     void noFamilies_showTheOldColourAfterAToggle();
     void togglingAnyFamily_resetsTheBackground_data();
@@ -49,6 +50,19 @@ void TestGridDrawer::drawFalse_paintsNothingNotEvenTheBackground()
 
     grid.canvas.setDrawer(&grid.drawer, true);
     QCOMPARE(difference(grid.painted(), Horizontal | SlantLeft, 10, 0), QString());
+}
+
+void TestGridDrawer::window_isCoveredByAnOpaqueBackground()
+{
+    Canvas canvas;
+    GridDrawer drawer(&canvas);
+    canvas.setDrawer(&drawer);
+    QVERIFY(canvas.isCovered()); // an invalid colour is black
+    drawer.slot_colorChanged(QColor(255, 0, 0, 128));
+    drawer.slot_horiToggled(true);
+    QVERIFY(canvas.isCovered());
+    drawer.slot_changeBgColor(QColor(255, 0, 0, 254));
+    QVERIFY(!canvas.isCovered());
 }
 
 void TestGridDrawer::noFamilies_showTheInvalidBackgroundAtStart()

@@ -62,6 +62,7 @@ private slots:
     void wholeWidget_isPainted_data();
     void wholeWidget_isPainted();
     void resizedWidget_isPaintedToItsNewEdges();
+    void window_isCoveredByOpaqueColours();
     void drawFalse_paintsNothing();
 
     void newDrawer_isInactiveAndHasNoParent();
@@ -208,6 +209,19 @@ void TestScrPurity::resizedWidget_isPaintedToItsNewEdges()
 
     canvas.resize(53, 31);
     QVERIFY(everyPixelIs(canvas.painted(backdrop), pixel(255, 255, 0)));
+}
+
+void TestScrPurity::window_isCoveredByOpaqueColours()
+{
+    Canvas canvas;
+    ScrPurity drawer(&canvas);
+    canvas.setDrawer(&drawer);
+    QVERIFY(canvas.isCovered()); // an invalid colour is black
+    drawer.slot_AlphaChanged(0);
+    drawer.slot_colorChanged(Qt::red);
+    QVERIFY(canvas.isCovered());
+    drawer.slot_colorChanged(QColor(255, 0, 0, 254));
+    QVERIFY(!canvas.isCovered());
 }
 
 void TestScrPurity::drawFalse_paintsNothing()

@@ -28,6 +28,15 @@ public:
         return image;
     }
 
+    // Whether the drawer says that it covers the window, which has to be what its pixels say.
+    bool isCovered()
+    {
+        const bool covered = painted(Qt::white) == painted(Qt::black);
+        if (covered != m_drawer->coversWindow())
+            qFatal("the drawer is wrong about what it covers");
+        return covered;
+    }
+
 protected:
     void paintEvent(QPaintEvent * /*event*/) override
     {

@@ -26,7 +26,10 @@ public:
         painter.fillRect(targetWidget->rect(), color);
     }
 
+    bool coversWindow() const override { return covers; }
+
     QColor color;
+    bool covers = false;
     int draws = 0;
     int refusals = 0; // calls that asked for nothing
 };

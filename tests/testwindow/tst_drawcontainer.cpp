@@ -72,6 +72,9 @@ private slots:
     void paint_ofAnInactiveDrawerLeavesTheEarlierPattern();
     void paint_ofTheShownDrawerGoesOnAfterItWasSwitchedOff();
     void paint_alwaysAsksForThePattern();
+    void paint_putsTheBackgroundBelowWhatDoesNotCoverIt();
+    void shows_theDrawerThatIsPaintedNext();
+    void shows_theSelectedDrawerWhileThereIsNoPattern();
     void palette_winsOverTheStyleSheet();
     void refresh_paintsOncePerTimeout();
     void refresh_isTheOnlyReasonToPaint();
@@ -227,6 +230,56 @@ void TestDrawContainer::paint_alwaysAsksForThePattern()
     QTRY_VERIFY(drawer.draws >= 6);
 
     QCOMPARE(drawer.refusals, 0);
+}
+
+void TestDrawContainer::paint_putsTheBackgroundBelowWhatDoesNotCoverIt()
+{
+    DrawContainer window;
+    window.setStyleSheet(QStringLiteral("QWidget{background-color:#800000ff;}"));
+    window.resize(20, 10);
+    FillDrawer drawer(&window, Qt::transparent);
+    window.setDrawer(&drawer, true);
+    const auto painted = [&window] {
+        QImage image(window.size(), QImage::Format_RGB32);
+        image.fill(Qt::yellow);
+        window.render(&image, QPoint(), QRegion(), QWidget::DrawWindowBackground);
+        return image;
+    };
+    QVERIFY(isAll(painted(), QColor(0, 0, 0x80))); // dimmed, not mixed with what was there
+
+    drawer.covers = true;
+    QVERIFY(isAll(painted(), Qt::yellow));
+}
+
+void TestDrawContainer::shows_theDrawerThatIsPaintedNext()
+{
+    DrawContainer window;
+    window.resize(20, 10);
+    FillDrawer first(&window, Qt::red);
+    FillDrawer second(&window, Qt::green);
+    window.setDrawer(&first, true);
+    QVERIFY(DrawContainer::shows(first));
+    window.grab();
+    window.setDrawer(&second, false);
+    QVERIFY(DrawContainer::shows(first));
+    QVERIFY(!DrawContainer::shows(second));
+    second.active = true;
+    QVERIFY(!DrawContainer::shows(first));
+    QVERIFY(DrawContainer::shows(second));
+}
+
+void TestDrawContainer::shows_theSelectedDrawerWhileThereIsNoPattern()
+{
+    DrawContainer window;
+    FillDrawer first(&window, Qt::red);
+    FillDrawer second(&window, Qt::green);
+    QVERIFY(!DrawContainer::shows(first));
+    window.setDrawer(&first, false);
+    QVERIFY(DrawContainer::shows(first));
+    QVERIFY(!DrawContainer::shows(second));
+
+    QWidget plain;
+    QVERIFY(DrawContainer::shows(FillDrawer(&plain, Qt::red)));
 }
 
 void TestDrawContainer::palette_winsOverTheStyleSheet()

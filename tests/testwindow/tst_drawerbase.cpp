@@ -1,4 +1,3 @@
-#include "drawcontainer.h"
 #include "drawerbase.h"
 #include "filldrawer.h"
 
@@ -35,8 +34,6 @@ private slots:
     void constructor_makesNoChildOfTheTarget();
     void metaObject_hasNothingOfItsOwn();
     void update_repaintsTheTargetOnTheNextTurn();
-    void isSelected_followsTheTestWindow();
-    void isSelected_isTrueOnAPlainWidget();
 };
 
 void TestDrawerBase::constructor_startsInactiveOnItsTarget()
@@ -83,30 +80,6 @@ void TestDrawerBase::update_repaintsTheTargetOnTheNextTurn()
 
     QCOMPARE(counter.paints, 0);
     QTRY_COMPARE(counter.paints, 1);
-}
-
-void TestDrawerBase::isSelected_followsTheTestWindow()
-{
-    DrawContainer window;
-    FillDrawer first(&window, Qt::red);
-    FillDrawer second(&window, Qt::green);
-    QVERIFY(!first.isSelected());
-
-    window.setDrawer(&first, false);
-    QVERIFY(first.isSelected());
-    QVERIFY(!second.isSelected());
-
-    window.setDrawer(&second, true);
-    QVERIFY(!first.isSelected());
-    QVERIFY(second.isSelected());
-}
-
-void TestDrawerBase::isSelected_isTrueOnAPlainWidget()
-{
-    QWidget target;
-    const FillDrawer drawer(&target, Qt::red);
-
-    QVERIFY(drawer.isSelected());
 }
 
 QTEST_MAIN(TestDrawerBase)
