@@ -1,67 +1,64 @@
 #include "gradualchange.h"
 
+#include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QWidget>
 
 namespace {
 
-// Few enough rows to stay in the processor's cache at any width, and enough to make the
-// calls that copy them cheap.
-constexpr int stripHeight = 33;
+// A row of several ramps is copied with fewer calls than a short ramp.
+constexpr int copiedWidth = 1024; // pixels, at least
 
-// Copies are exact where they hide what is below them, and land pixel on pixel.
-bool canCopy(const QPainter &painter, const QColor &color)
+// Whole ramps, in a row of pixels. Every column has the colour at its middle: the painter's own
+// repeated gradient adds up rounding errors from one ramp to the next.
+QPixmap rampRow(int level, const QColor &color)
 {
-    return color.rgba64().isOpaque() && painter.pen().brush().isOpaque()
-           && painter.deviceTransform().type() <= QTransform::TxTranslate;
+    QImage row((copiedWidth / level + 1) * level, 1, QImage::Format_ARGB32_Premultiplied);
+    auto *const pixels = reinterpret_cast<QRgb *>(row.bits());
+    const QRgb end = qPremultiply(color.rgba());
+    for (int x = 0; x < row.width(); ++x) {
+        const double share = (x % level + 0.5) / level;
+        const auto mixed = [share](int black, int full) {
+            return qRound(black + (full - black) * share);
+        };
+        pixels[x] = qRgba(mixed(0, qRed(end)), mixed(0, qGreen(end)), mixed(0, qBlue(end)),
+                          mixed(255, qAlpha(end)));
+    }
+    return QPixmap::fromImage(row);
+}
+
+// What the painter makes of a ramp without extent.
+QLinearGradient emptyRamp(int level, const QColor &color)
+{
+    QLinearGradient ramp(0, 0, level, 0);
+    ramp.setColorAt(0, Qt::black);
+    ramp.setColorAt(1, color);
+    ramp.setSpread(QGradient::RepeatSpread);
+    return ramp;
 }
 
 } // namespace
 
 GradualChange::GradualChange(QWidget *target)
     : DrawerBase(target)
+    , m_ramps(emptyRamp(m_level, m_color))
 { }
 
+// Specified: the outline of the default pen on the last column and the last row.
 void GradualChange::draw(bool paint)
 {
     if (!paint)
         return;
     QPainter painter(targetWidget);
-    if (canCopy(painter, m_color))
-        paintCopies(painter, targetWidget->size());
-    else
-        paintReference(painter, targetWidget->size());
+    painter.setBrush(m_ramps);
+    painter.drawRect(QRect(QPoint(-1, -1), targetWidget->size()));
 }
 
-// The outline of the default pen on the last column and the last row is wanted.
-void GradualChange::paintReference(QPainter &painter, const QSize &size) const
+bool GradualChange::coversWindow() const
 {
-    QLinearGradient ramp(0, 0, m_level, 0);
-    ramp.setColorAt(0, Qt::black);
-    ramp.setColorAt(1, m_color);
-    ramp.setSpread(QGradient::RepeatSpread);
-    painter.setBrush(ramp);
-    painter.drawRect(QRect(QPoint(-1, -1), size));
-}
-
-// All rows are alike but the last one, so a low window's picture serves one of any height.
-void GradualChange::paintCopies(QPainter &painter, const QSize &size)
-{
-    const QSize stripSize(size.width(), qMin(size.height(), stripHeight));
-    const QPen pen = painter.pen(); // of the window's text colour
-    const QPixmap &strip =
-        m_strip.pixmap(stripSize, {m_level, m_color, pen}, [&](QPainter &stripPainter) {
-            stripPainter.setPen(pen);
-            paintReference(stripPainter, stripSize);
-        });
-    if (strip.isNull())
-        return paintReference(painter, size);
-    const int rows = strip.height() - 1;
-    const int lastTop = size.height() - strip.height();
-    for (int top = 0; top < lastTop; top += rows)
-        painter.drawPixmap(0, top, strip, 0, 0, strip.width(), qMin(rows, lastTop - top));
-    painter.drawPixmap(0, lastTop, strip);
+    return m_level > 0 && m_ramps.isOpaque()
+           && targetWidget->palette().brush(targetWidget->foregroundRole()).isOpaque();
 }
 
 void GradualChange::slot_gradualChangeColor(short level, const QColor &color)
@@ -69,5 +66,6 @@ void GradualChange::slot_gradualChangeColor(short level, const QColor &color)
     active = true;
     m_level = level;
     m_color = color;
+    m_ramps = level > 0 ? QBrush(rampRow(level, color)) : QBrush(emptyRamp(level, color));
     targetWidget->update();
 }

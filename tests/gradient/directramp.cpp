@@ -1,25 +1,22 @@
 #include "directramp.h"
 
-#include <QLinearGradient>
-#include <QPainter>
+#include <cmath>
 
-void DirectRamp::paintOn(QImage &image) const
+// A ramp has `level` columns; the first is half a step above black, the last half a step below
+// the colour.
+QImage DirectRamp::image(const QSize &size, QImage::Format format) const
 {
-    QLinearGradient gradient(QPointF(0, 0), QPointF(level, 0));
-    gradient.setStops({{0.0, Qt::black}, {1.0, color}});
-    gradient.setSpread(QGradient::RepeatSpread);
-    const QPointF bottomRight(image.width() / image.devicePixelRatioF() - 1,
-                              image.height() / image.devicePixelRatioF() - 1);
-    QPainter painter(&image);
-    painter.setPen(outline);
-    painter.setBrush(gradient);
-    painter.drawRect(QRectF(QPointF(-1, -1), bottomRight));
-}
-
-QImage DirectRamp::image(const QSize &size) const
-{
+    const auto channel = [this](int full, int column) {
+        return int(std::floor(full * (2.0 * (column % level) + 1) / (2.0 * level) + 0.5));
+    };
     QImage image(size, QImage::Format_ARGB32);
-    image.fill(Qt::transparent);
-    paintOn(image);
-    return image;
+    for (int x = 0; x < size.width(); ++x) {
+        const QRgb pixel =
+            qRgb(channel(color.red(), x), channel(color.green(), x), channel(color.blue(), x));
+        for (int y = 0; y < size.height(); ++y) {
+            const bool isOutline = x == size.width() - 1 || y == size.height() - 1;
+            image.setPixel(x, y, isOutline ? outline.rgba() : pixel);
+        }
+    }
+    return image.convertToFormat(format);
 }

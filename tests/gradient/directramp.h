@@ -3,16 +3,12 @@
 #include <QColor>
 #include <QImage>
 
-// The pattern as Qt's painter draws it straight on to an image: what the drawer has to
-// show, pixel for pixel.
+// The pattern by arithmetic on the columns: what the drawer has to show, pixel for pixel.
 struct DirectRamp
 {
-    int level = 256;
-    QColor color = Qt::red;
+    int level = 256; // 1 or more
+    QColor color = Qt::red; // opaque
     QColor outline = Qt::black;
 
-    void paintOn(QImage &image) const;
-
-    // In the format of Canvas::painted(), over nothing.
-    QImage image(const QSize &size) const;
+    QImage image(const QSize &size, QImage::Format format = QImage::Format_ARGB32) const;
 };

@@ -32,19 +32,10 @@ struct DrawerRig
         return image;
     }
 
-    // What Qt's painter draws there.
-    static QImage direct(const QSize &size, int level, const QColor &color,
-                         QImage::Format format = QImage::Format_RGB32)
+    bool isExact(const DirectRamp &ramp, QImage::Format format = QImage::Format_RGB32)
     {
-        QImage image(size, format);
-        image.fill(backdrop);
-        DirectRamp{level, color}.paintOn(image);
-        return image;
-    }
-
-    bool isExact(int level, const QColor &color, QImage::Format format = QImage::Format_RGB32)
-    {
-        return painted(format) == direct(canvas.size(), level, color, format);
+        set(ramp.level, ramp.color);
+        return painted(format) == ramp.image(canvas.size(), format);
     }
 
     Canvas canvas;

@@ -1,121 +1,32 @@
 #include "drawerrig.h"
 #include "gradientrig.h"
 
+#include <QLinearGradient>
+#include <QPainter>
 #include <QtTest>
-
-#include <cmath>
-
-namespace {
-
-// The painter looks its colours up in a table: 1023 steps to a ramp, 1024 entries before it
-// starts again. So a ramp is a thousandth longer than its levels.
-constexpr int tableSteps = 1023;
-constexpr int tableSize = 1024;
-
-// The ramp by arithmetic: the grey level at the middle of a column.
-double greyAt(int column, int level)
-{
-    return 255 * std::fmod((column + 0.5) / level * tableSteps, tableSize) / tableSize;
-}
-
-// Grey levels that are as good as equal; 255 is next to 0, where a ramp starts again.
-bool isGrey(int actual, double expected)
-{
-    const double difference = qAbs(actual - expected);
-    return qMin(difference, 255 - difference) <= 1.1;
-}
-
-bool isRamp(QRgb pixel, const QColor &color, double grey)
-{
-    const auto isChannel = [grey](int actual, int full) {
-        return full > 0 ? isGrey(actual, grey) : actual == 0;
-    };
-    return isChannel(qRed(pixel), color.red()) && isChannel(qGreen(pixel), color.green())
-           && isChannel(qBlue(pixel), color.blue());
-}
-
-} // namespace
 
 class TestGradualChange : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void levelZero_showsWhatThePainterMakesOfItAndDoesNotCrash();
-    void level256_onAWindow1024WideShowsFourFullRamps();
-    void white_givesFourGreyRamps_red_goesFromBlackToPureRed_data();
-    void white_givesFourGreyRamps_red_goesFromBlackToPureRed();
-
-    void columns_haveTheGreyOfTheirPlaceInTheRamp_data();
-    void columns_haveTheGreyOfTheirPlaceInTheRamp();
-    void lastColumnAndRow_areOutlined_data();
-    void lastColumnAndRow_areOutlined();
+    void everyColumn_hasTheColourOfItsPlaceInTheRamp_data();
+    void everyColumn_hasTheColourOfItsPlaceInTheRamp();
+    void anySizeAndLevel_isExact_data();
+    void anySizeAndLevel_isExact();
+    void eachChange_isShown();
+    void partOfTheWindow_getsThePixelsOfTheWhole();
+    void outline_hasTheTextColourOfTheWindow();
+    void levelZero_isLeftToThePainter();
+    void translucentColour_letsTheBackgroundThrough();
+    void window_isCoveredByOpaqueRampsAlone();
 
     void drawFalse_paintsNothing();
-    void newDrawer_isInactiveRedAndWithoutLevels();
+    void newDrawer_isInactiveOnItsTarget();
     void slot_activatesAndAsksForARepaint();
 };
 
-void TestGradualChange::levelZero_showsWhatThePainterMakesOfItAndDoesNotCrash()
-{
-    DrawerRig rig;
-    QVERIFY(rig.isExact(0, Qt::red));
-    rig.set(0, Qt::red);
-    QVERIFY(rig.isExact(0, Qt::red));
-}
-
-void TestGradualChange::level256_onAWindow1024WideShowsFourFullRamps()
-{
-    DrawerRig rig(QSize(1024, 50));
-    rig.set(256, Qt::green);
-    const QImage image = rig.painted();
-
-    QVector<int> starts{0};
-    for (int x = 1; x < 1023; ++x) {
-        const int grey = qGreen(image.pixel(x, 20));
-        const int before = qGreen(image.pixel(x - 1, 20));
-        if (grey >= before)
-            continue;
-        QVERIFY(before >= 254 && grey <= 1);
-        starts << x;
-    }
-    QCOMPARE(starts.size(), 4);
-    for (int ramp = 0; ramp < 4; ++ramp)
-        QVERIFY(qAbs(starts.at(ramp) - 256 * ramp) <= 1);
-    // The last column of the fourth ramp is the outline.
-    QVERIFY(qGreen(image.pixel(1022, 20)) >= 253);
-    QCOMPARE(image.pixel(1023, 20), qRgb(0, 0, 0));
-}
-
-void TestGradualChange::white_givesFourGreyRamps_red_goesFromBlackToPureRed_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("white") << QColor(Qt::white);
-    QTest::newRow("red") << QColor(Qt::red);
-}
-
-void TestGradualChange::white_givesFourGreyRamps_red_goesFromBlackToPureRed()
-{
-    QFETCH(const QColor, color);
-    DrawerRig rig(QSize(1024, 50));
-    rig.set(256, color);
-    const QImage image = rig.painted();
-
-    QVector<int> ofEachGrey(256);
-    for (int x = 0; x < 1023; ++x) {
-        const QRgb pixel = image.pixel(x, 0);
-        const int rest = color == Qt::white ? qRed(pixel) : 0;
-        QCOMPARE(pixel, qRgb(qRed(pixel), rest, rest));
-        ++ofEachGrey[qRed(pixel)];
-    }
-    // Every grey level once in each of the four ramps, but for rounding and the outline.
-    for (int grey = 0; grey < 256; ++grey)
-        QVERIFY(ofEachGrey.at(grey) >= 2 && ofEachGrey.at(grey) <= 8);
-    QCOMPARE(image.pixel(0, 0), qRgb(0, 0, 0));
-    QCOMPARE(image.pixel(255, 0), color.rgb());
-}
-
-void TestGradualChange::columns_haveTheGreyOfTheirPlaceInTheRamp_data()
+void TestGradualChange::everyColumn_hasTheColourOfItsPlaceInTheRamp_data()
 {
     QTest::addColumn<int>("level");
     QTest::addColumn<int>("index");
@@ -125,55 +36,109 @@ void TestGradualChange::columns_haveTheGreyOfTheirPlaceInTheRamp_data()
     }
 }
 
-void TestGradualChange::columns_haveTheGreyOfTheirPlaceInTheRamp()
+void TestGradualChange::everyColumn_hasTheColourOfItsPlaceInTheRamp()
 {
     QFETCH(const int, level);
     QFETCH(const int, index);
-    const QColor color = colors[index];
-    DrawerRig rig(QSize(3001, 67));
-    rig.set(level, color);
-    const QImage image = rig.painted();
-
-    for (const int y : {0, 1, 32, 33, 65}) {
-        for (int x = 0; x < 3000; ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            const double grey = greyAt(x, level);
-            if (!isRamp(pixel, color, grey))
-                QFAIL(qPrintable(QStringLiteral("(%1, %2) is %3, not grey %4")
-                                     .arg(x)
-                                     .arg(y)
-                                     .arg(pixel, 8, 16)
-                                     .arg(grey)));
-        }
-    }
+    DrawerRig rig(QSize(15360, 3)); // two 8K screens
+    const DirectRamp ramp{level, colors[index]};
+    QVERIFY(rig.isExact(ramp));
+    QVERIFY(rig.isExact(ramp, QImage::Format_ARGB32_Premultiplied));
 }
 
-void TestGradualChange::lastColumnAndRow_areOutlined_data()
+void TestGradualChange::anySizeAndLevel_isExact_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::newRow("one pixel") << QSize(1, 1);
     QTest::newRow("one row") << QSize(301, 1);
     QTest::newRow("one column") << QSize(1, 203);
     QTest::newRow("two by two") << QSize(2, 2);
-    QTest::newRow("low") << QSize(257, 33);
-    QTest::newRow("one row more") << QSize(257, 34);
-    QTest::newRow("high") << QSize(257, 300);
+    QTest::newRow("one ramp and the outline") << QSize(257, 33);
+    QTest::newRow("high") << QSize(600, 1100);
+    QTest::newRow("four ramps") << QSize(1024, 50);
 }
 
-void TestGradualChange::lastColumnAndRow_areOutlined()
+void TestGradualChange::anySizeAndLevel_isExact()
 {
     QFETCH(const QSize, size);
     DrawerRig rig(size);
-    rig.set(256, Qt::white);
-    const QImage image = rig.painted();
+    for (const int level : {1, 2, 3, 31, 32, 255, 256, 257, 1023, 1024, 1025, 32767})
+        QVERIFY2(rig.isExact({level, QColor(10, 100, 200)}), qPrintable(QString::number(level)));
+}
 
-    // Beside the outline only the first column of a ramp is black.
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x) {
-            const bool outline = x == size.width() - 1 || y == size.height() - 1;
-            QCOMPARE(image.pixel(x, y) == qRgb(0, 0, 0), outline || x % 256 == 0);
-        }
+void TestGradualChange::eachChange_isShown()
+{
+    DrawerRig rig(QSize(200, 100));
+    QVERIFY(rig.isExact({32, Qt::cyan}));
+    QVERIFY(rig.isExact({64, Qt::cyan}));
+    QVERIFY(rig.isExact({64, Qt::magenta}));
+    rig.canvas.resize(201, 1000);
+    QVERIFY(rig.isExact({64, Qt::magenta}));
+}
+
+void TestGradualChange::partOfTheWindow_getsThePixelsOfTheWhole()
+{
+    DrawerRig rig(QSize(500, 120));
+    rig.set(100, Qt::blue);
+    const QImage whole = rig.painted();
+    for (const QRect &part :
+         {QRect(0, 0, 10, 10), QRect(123, 31, 40, 5), QRect(490, 110, 10, 10)}) {
+        QImage image(rig.canvas.size(), QImage::Format_RGB32);
+        image.fill(DrawerRig::backdrop);
+        rig.canvas.render(&image, part.topLeft(), part, QWidget::RenderFlags());
+        QCOMPARE(image.copy(part), whole.copy(part));
+        QCOMPARE(image.pixel(200, 60), DrawerRig::backdrop);
     }
+}
+
+void TestGradualChange::outline_hasTheTextColourOfTheWindow()
+{
+    DrawerRig rig(QSize(70, 50));
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, Qt::darkYellow);
+    rig.canvas.setPalette(palette);
+    QVERIFY(rig.isExact({32, Qt::white, Qt::darkYellow}));
+}
+
+void TestGradualChange::levelZero_isLeftToThePainter()
+{
+    DrawerRig rig;
+    QImage expected(rig.canvas.size(), QImage::Format_RGB32);
+    expected.fill(DrawerRig::backdrop);
+    QPainter painter(&expected);
+    QLinearGradient ramp(0, 0, 0, 0);
+    ramp.setStops({{0, Qt::black}, {1, Qt::red}});
+    ramp.setSpread(QGradient::RepeatSpread);
+    painter.setBrush(ramp);
+    painter.drawRect(QRect(QPoint(-1, -1), expected.size()));
+    painter.end();
+
+    QCOMPARE(rig.painted(), expected); // as before the panel has sent any level
+    rig.set(32, Qt::white);
+    rig.set(0, Qt::red);
+    QCOMPARE(rig.painted(), expected);
+}
+
+void TestGradualChange::translucentColour_letsTheBackgroundThrough()
+{
+    DrawerRig rig(QSize(3, 2));
+    rig.set(1, QColor(255, 255, 255, 51)); // half way from black: alpha 153, and 26 of white
+    QCOMPARE(rig.canvas.painted(Qt::white).pixel(0, 0), qRgb(128, 128, 128));
+    QCOMPARE(rig.canvas.painted(Qt::black).pixel(0, 0), qRgb(26, 26, 26));
+}
+
+void TestGradualChange::window_isCoveredByOpaqueRampsAlone()
+{
+    DrawerRig rig;
+    rig.set(256, Qt::red);
+    QVERIFY(rig.canvas.isCovered());
+    rig.set(256, QColor(255, 0, 0, 0));
+    QVERIFY(!rig.canvas.isCovered());
+    rig.set(256, Qt::red);
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, QColor(0, 0, 0, 128)); // of the outline
+    rig.canvas.setPalette(palette);
+    QVERIFY(!rig.canvas.isCovered());
 }
 
 void TestGradualChange::drawFalse_paintsNothing()
@@ -188,19 +153,13 @@ void TestGradualChange::drawFalse_paintsNothing()
     QCOMPARE(rig.canvas.paintCount(), 1);
 }
 
-void TestGradualChange::newDrawer_isInactiveRedAndWithoutLevels()
+void TestGradualChange::newDrawer_isInactiveOnItsTarget()
 {
     Canvas canvas;
     const GradualChange drawer(&canvas);
     QVERIFY(!drawer.active);
     QVERIFY(drawer.targetWidget == &canvas);
     QVERIFY(!drawer.parent());
-
-    QImage image(canvas.size(), QImage::Format_RGB32);
-    QPainter painter(&image);
-    drawer.paintReference(painter, image.size());
-    painter.end();
-    QCOMPARE(image, DrawerRig::direct(canvas.size(), 0, Qt::red));
 }
 
 void TestGradualChange::slot_activatesAndAsksForARepaint()
