@@ -242,4 +242,5 @@ void GradualChangeCtrlWidget::slot_changeColorByPageDown()
     slot_changeSelectedGradualColor(TestColor::at(m_colorIndex));
     // A button that was checked already has not said so, and the levels may be new.
     apply();
+    slot_updateSelectedColor();
 }

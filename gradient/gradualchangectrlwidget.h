@@ -67,7 +67,7 @@ public slots:
     void slot_updateSelectedColor();
     // A colour outside the colour table is ignored.
     void slot_changeSelectedGradualColor(const QColor &color);
-    // Selects the colour at m_colorIndex, whichever way the page keys have gone.
+    // Selects the colour at m_colorIndex and announces it, whichever way the page keys have gone.
     void slot_changeColorByPageDown();
 
 private:

@@ -4,6 +4,7 @@
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
 
+#include <QAbstractButton>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
@@ -47,6 +48,7 @@ private slots:
     void pageKeys_showGradientsOf256Levels();
     void pageKeys_stopTheAutomaticRun();
     void everyStop_showsItsOwnDrawer();
+    void everyStop_hasItsColourInAllPanels();
 
 private:
     static QVector<Stop> sequence();
@@ -219,6 +221,21 @@ void TestMainWindowPages::everyStop_showsItsOwnDrawer()
         default:
             QVERIFY(dynamic_cast<const GridDrawer *>(selected));
         }
+    }
+}
+
+void TestMainWindowPages::everyStop_hasItsColourInAllPanels()
+{
+    m_rig.start();
+    static const char *const names[] = {"radioButtonRed", "radioButtonGreen", "radioButtonBlue",
+                                        "radioButtonWhite"};
+    for (int step = 0; step < 24; ++step) {
+        m_rig.window().slot_SwitchDownTabControl();
+        const auto buttons = m_rig.window().findChildren<QAbstractButton *>(
+            QString::fromLatin1(names[stop().color]));
+        QCOMPARE(buttons.size(), 3);
+        for (const QAbstractButton *button : buttons)
+            QVERIFY(button->isChecked());
     }
 }
 

@@ -50,8 +50,8 @@ private slots:
 
     void veryFirstColour_doesNotSetUserChanged();
     void restoredColour_doesNotSetUserChanged_theNextColourDoes();
-    void pageKeys_showTheFirstFourWithTheLevelsOfThePanel_data();
-    void pageKeys_showTheFirstFourWithTheLevelsOfThePanel();
+    void pageKeys_showAndAnnounceTheFirstFourWithTheLevelsOfThePanel_data();
+    void pageKeys_showAndAnnounceTheFirstFourWithTheLevelsOfThePanel();
     void pageKeys_showAColourThatIsCheckedAlready();
     void pageKeys_neverReachYellowCyanAndPurple_data();
     void pageKeys_neverReachYellowCyanAndPurple();
@@ -216,7 +216,8 @@ void TestGradualChangeCtrlWidgetColors::restoredColour_doesNotSetUserChanged_the
     QVERIFY(rig.panel->m_userChanged);
 }
 
-void TestGradualChangeCtrlWidgetColors::pageKeys_showTheFirstFourWithTheLevelsOfThePanel_data()
+void TestGradualChangeCtrlWidgetColors::
+    pageKeys_showAndAnnounceTheFirstFourWithTheLevelsOfThePanel_data()
 {
     QTest::addColumn<int>("index");
     QTest::newRow("red") << 0;
@@ -225,7 +226,8 @@ void TestGradualChangeCtrlWidgetColors::pageKeys_showTheFirstFourWithTheLevelsOf
     QTest::newRow("white") << 3;
 }
 
-void TestGradualChangeCtrlWidgetColors::pageKeys_showTheFirstFourWithTheLevelsOfThePanel()
+void TestGradualChangeCtrlWidgetColors::
+    pageKeys_showAndAnnounceTheFirstFourWithTheLevelsOfThePanel()
 {
     QFETCH(const int, index);
     GradientRig rig(stored(6, 32));
@@ -240,7 +242,8 @@ void TestGradualChangeCtrlWidgetColors::pageKeys_showTheFirstFourWithTheLevelsOf
     QCOMPARE(rig.checkedColor(), index);
     QCOMPARE(rig.panel->m_colorIndex, index);
     QVERIFY(rig.shows(256, colors[index]));
-    QCOMPARE(announced.count(), 0);
+    QCOMPARE(announced.count(), 1);
+    QCOMPARE(announced.constFirst().constFirst().value<QColor>(), QColor(colors[index]));
     QCOMPARE(grey.count(), 0);
 }
 
@@ -272,6 +275,7 @@ void TestGradualChangeCtrlWidgetColors::pageKeys_neverReachYellowCyanAndPurple()
 {
     QFETCH(const int, index);
     GradientRig rig(stored(2));
+    QSignalSpy announced(rig.panel.get(), &Panel::signal_selectColorChanged);
     rig.panel->getDrawer()->active = false;
     rig.panel->m_colorIndex = index;
     rig.panel->slot_changeColorByPageDown();
@@ -280,6 +284,7 @@ void TestGradualChangeCtrlWidgetColors::pageKeys_neverReachYellowCyanAndPurple()
     QCOMPARE(rig.panel->m_colorIndex, index);
     QVERIFY(!rig.panel->getDrawer()->active);
     QVERIFY(rig.shows(256, Qt::blue));
+    QVERIFY(announced.isEmpty());
 }
 
 void TestGradualChangeCtrlWidgetColors::sharedColour_settlesBetweenTwoPanels_data()
