@@ -155,9 +155,11 @@ void MainWindow::setInitDrawWindowInfo()
     color.setAlpha(qBound(0, grey.toInt(), 255)); // painted over nothing, so it dims
     testWindow.setStyleSheet(testWindowStyle(color));
 
-    const int tab = settings->value(currentTabKey).toInt();
-    ui->tabWidget->setCurrentIndex(tab);
-    currentTabIndex = tab == GridTab ? PlacementTab : tab;
+    // Only this once the grid counts as the tab before, which resumes its run.
+    currentTabIndex = settings->value(currentTabKey).toInt();
+    ui->tabWidget->setCurrentIndex(currentTabIndex);
+    if (currentTabIndex == GridTab)
+        currentTabIndex = PlacementTab;
 }
 
 QString MainWindow::storedGrey() const
@@ -173,7 +175,7 @@ void MainWindow::saveSettings()
     placementPanel->saveWindowBaseInfo();
     purityPanel->saveScrPurityInfo();
     gradientPanel->saveGradualChangeInfo();
-    gridPanel->saveGridBaseInfo();
+    gridPanel->saveWhileRunning();
     cabinetPanel->saveTarnBaseInfo();
     settings->sync();
 }
@@ -251,7 +253,7 @@ void MainWindow::settleGrid()
 {
     if (gridPanel->pushButtonPauseChecked)
         gridPanel->gridBtnClick();
-    else if (currentTabIndex == GridTab) // which it never is after start-up
+    else if (currentTabIndex == GridTab) // at start-up and never again
         gridPanel->setScrollEnabled(true);
 }
 

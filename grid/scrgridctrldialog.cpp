@@ -44,7 +44,7 @@ ScrGridCtrlDialog::ScrGridCtrlDialog(QWidget *testWindow, QSettings *settings_, 
     , m_families(makeFamilies())
     , m_lamps(ui->signalGreenButton, ui->signalGreyButton)
     , m_swatches(makeSwatches())
-    , m_saveSoon(new SaveSoon([this] { store(isPaused()); }, this))
+    , m_saveSoon(new SaveSoon([this] { saveWhileRunning(); }, this))
 {
     for (QPushButton *button : {ui->pushButtonPause, ui->pushButtonSettings})
         button->setObjectName(QStringLiteral("beginPushBtn"));

@@ -63,7 +63,10 @@ public:
     // The page keys have left this panel.
     void canclePageUpDownSelect();
 
+    // For the end of the program: pushButtonPauseChecked becomes what is saved.
     void saveGridBaseInfo();
+    // The same in a running program, which goes by pushButtonPauseChecked as it was restored.
+    void saveWhileRunning();
     // Takes what the merged test shows from the settings.
     void initMixSettings();
     // Replaces the timer by one for the present mode; speed is 1 to 100.
@@ -149,7 +152,6 @@ private:
     void initGridStatus();
     void restoreFamilies();
     void restoreColor();
-    void store(bool paused);
     bool isPaused() const;
     void saveSoon();
 

@@ -87,12 +87,10 @@ bool ScrGridCtrlDialog::isPaused() const
 void ScrGridCtrlDialog::saveGridBaseInfo()
 {
     pushButtonPauseChecked = isPaused();
-    store(pushButtonPauseChecked);
+    saveWhileRunning();
 }
 
-// Leaves pushButtonPauseChecked alone: as long as the program runs, the main window goes by
-// how it was left the last time.
-void ScrGridCtrlDialog::store(bool paused)
+void ScrGridCtrlDialog::saveWhileRunning()
 {
     if (!settings)
         return;
@@ -109,5 +107,5 @@ void ScrGridCtrlDialog::store(bool paused)
     save(GridKey::speed, ui->labelSpeed->value());
     for (const Family &family : m_families)
         save(family.pressedKey, *family.pressed);
-    save(GridKey::paused, paused);
+    save(GridKey::paused, isPaused());
 }
