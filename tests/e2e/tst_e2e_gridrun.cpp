@@ -17,18 +17,22 @@ private slots:
     void mergedTest_goesThroughItsColoursAndLines();
     void runInTheMiddle_isResumed_data();
     void runInTheMiddle_isResumed();
+    void scroll_goesOnAfterARestartAndCanBePaused();
 
 private:
     bool startOnTheGridTab();
     void clickInPanel(const QPoint &position);
     QString shown();
+    bool scrolls();
     QStringList collect(int changes);
 };
 
 namespace {
 
 const QPoint panelOffset(0, 53); // of a tab's page in the control window
-const QPoint mergedButton(463, 86); // in the page, as the ones below
+const QPoint horizontalButton(60, 86); // in the page, as the ones below
+const QPoint pauseButton(531, 132);
+const QPoint mergedButton(463, 86);
 const QPoint agingButton(531, 86);
 constexpr int speed = 90; // a step every 960 ms
 
@@ -153,6 +157,34 @@ void tst_e2e_gridrun::runInTheMiddle_isResumed()
     QVERIFY(startTool());
     QVERIFY(testWindowTurns(qRgb(0, 0, 255)));
     QCOMPARE(collect(5), repeated(cycle, QStringLiteral("blue"), 6));
+}
+
+// Whether horizontal lines come to be somewhere else than they are.
+bool tst_e2e_gridrun::scrolls()
+{
+    int first = -1;
+    return waitFor([&] {
+        const int now =
+            gridOffset(desktop().screen().grab(tool().testWindow().geometry), qRgb(255, 0, 0), 0);
+        if (first < 0)
+            first = now;
+        return now >= 0 && now != first;
+    });
+}
+
+void tst_e2e_gridrun::scroll_goesOnAfterARestartAndCanBePaused()
+{
+    QVERIFY(startOnTheGridTab());
+    clickInPanel(horizontalButton);
+    QVERIFY(scrolls());
+    QVERIFY2(tool().endBySignal(SIGTERM), qPrintable(tool().problem()));
+
+    QVERIFY(startTool());
+    QVERIFY(scrolls());
+    clickInPanel(pauseButton);
+    QVERIFY(waitFor([this] {
+        return !tool().configValue(QStringLiteral("/setting/gridIsScroll")).toBool();
+    }));
 }
 
 QTEST_GUILESS_MAIN(tst_e2e_gridrun)
