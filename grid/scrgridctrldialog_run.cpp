@@ -62,7 +62,9 @@ void ScrGridCtrlDialog::slot_TimerOut()
 
 void ScrGridCtrlDialog::scrollStep()
 {
-    drawer.scrollLines();
+    // A grid behind another pattern would have that one painted for nothing.
+    if (DrawContainer::showsOrAwaits(drawer))
+        drawer.scrollLines();
     m_lamps.blink();
     greyRampStep();
     emit signal_greyChanged(QString::number(ui->labelGrayLevel->value()));

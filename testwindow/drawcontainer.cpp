@@ -184,6 +184,12 @@ bool DrawContainer::shows(const DrawerBase &drawer)
     return (shown ? shown : window->currentDrawer) == &drawer;
 }
 
+bool DrawContainer::showsOrAwaits(const DrawerBase &drawer)
+{
+    const auto *window = qobject_cast<const DrawContainer *>(drawer.targetWidget);
+    return shows(drawer) || window->currentDrawer == &drawer;
+}
+
 // An inactive drawer leaves the pattern before it on the screen.
 DrawerBase *DrawContainer::drawerToShow() const
 {

@@ -42,6 +42,9 @@ public:
     // True on a target that is not a test window.
     static bool shows(const DrawerBase &drawer);
 
+    // The same, or selected and not active yet.
+    static bool showsOrAwaits(const DrawerBase &drawer);
+
     // Where the window's own key presses go from now on; borrowed.
     void setKeyHelper(CommonHelper *helper) { keyHelper = helper; }
 

@@ -182,9 +182,8 @@ void tst_e2e_gridrun::scroll_goesOnAfterARestartAndCanBePaused()
     QVERIFY(startTool());
     QVERIFY(scrolls());
     clickInPanel(pauseButton);
-    QVERIFY(waitFor([this] {
-        return !tool().configValue(QStringLiteral("/setting/gridIsScroll")).toBool();
-    }));
+    QVERIFY(waitFor(
+        [this] { return !tool().configValue(QStringLiteral("/setting/gridIsScroll")).toBool(); }));
 }
 
 QTEST_GUILESS_MAIN(tst_e2e_gridrun)
