@@ -7,18 +7,19 @@
 
 namespace {
 
-// A row of several ramps is copied with fewer calls than a short ramp.
-constexpr int copiedWidth = 1024; // pixels, at least
+// Few enough rows to stay in the processor's cache at any width, and enough to make the calls
+// that copy them cheap.
+constexpr int stripHeight = 32;
 
-// Whole ramps, in a row of pixels. Every column has the colour at its middle: the painter's own
+// One ramp, in a row of pixels. Every column has the colour at its middle: the painter's own
 // repeated gradient adds up rounding errors from one ramp to the next.
 QPixmap rampRow(int level, const QColor &color)
 {
-    QImage row((copiedWidth / level + 1) * level, 1, QImage::Format_ARGB32_Premultiplied);
+    QImage row(level, 1, QImage::Format_ARGB32_Premultiplied);
     auto *const pixels = reinterpret_cast<QRgb *>(row.bits());
     const QRgb end = qPremultiply(color.rgba());
-    for (int x = 0; x < row.width(); ++x) {
-        const double share = (x % level + 0.5) / level;
+    for (int x = 0; x < level; ++x) {
+        const double share = (x + 0.5) / level;
         const auto mixed = [share](int black, int full) {
             return qRound(black + (full - black) * share);
         };
@@ -51,8 +52,28 @@ void GradualChange::draw(bool paint)
     if (!paint)
         return;
     QPainter painter(targetWidget);
+    if (coversWindow()) {
+        paintRows(painter);
+        return;
+    }
     painter.setBrush(m_ramps);
     painter.drawRect(QRect(QPoint(-1, -1), targetWidget->size()));
+}
+
+// All rows but the last are alike, so a few are kept and copied.
+void GradualChange::paintRows(QPainter &painter)
+{
+    const QSize size = targetWidget->size();
+    const QPen pen = painter.pen(); // of the window's text colour
+    const QPixmap &strip = m_strip.pixmap(
+        {size.width(), stripHeight}, {m_level, m_color, pen}, [&](QPainter &stripPainter) {
+            stripPainter.setPen(pen);
+            stripPainter.setBrush(m_ramps);
+            stripPainter.drawRect(-1, -1, size.width(), stripHeight + 1);
+        });
+    for (int top = 0; top < size.height(); top += stripHeight)
+        painter.drawPixmap(0, top, strip);
+    painter.fillRect(0, size.height() - 1, size.width(), 1, pen.brush());
 }
 
 bool GradualChange::coversWindow() const
