@@ -1,97 +1,121 @@
 #include "pictureloader.h"
 
-#include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
-#include <QIODevice>
 #include <QImageReader>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
-// Data that notices when its reader wants more than there is: some picture formats fill in what
-// is cut off and say nothing.
-class PictureData : public QIODevice
-{
-public:
-    explicit PictureData(QByteArray data)
-        : m_data(std::move(data))
-    {
-        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    }
+constexpr int usualDepth = 32; // bits to a pixel
+constexpr qint64 maxDecodedBits = qint64(16384) * 16384 * usualDepth;
+constexpr qint64 maxKeptPixels = qint64(8192) * 8192;
+constexpr qint64 maxFileBytes = maxDecodedBits / 8 + 64 * 1024; // no compression, and a header
 
-    qint64 size() const override { return m_data.size(); }
-
-    bool seek(qint64 position) override
-    {
-        if (position < 0 || position > size() || !QIODevice::seek(position))
-            return false;
-        m_at = position;
-        return true;
-    }
-
-    void expectWholePicture(bool exactReads)
-    {
-        m_exactReads = exactReads;
-        m_cutOff = false;
-    }
-
-    bool isCutOff() const { return m_cutOff; }
-
-protected:
-    qint64 readData(char *target, qint64 wanted) override
-    {
-        const qint64 count = std::min(wanted, size() - m_at);
-        if (wanted > 0 && (count == 0 || (m_exactReads && count < wanted)))
-            m_cutOff = true;
-        std::copy_n(m_data.constData() + m_at, count, target);
-        m_at += count;
-        return count;
-    }
-
-    qint64 writeData(const char *, qint64) override { return -1; }
-
-private:
-    const QByteArray m_data;
-    qint64 m_at = 0;
-    bool m_exactReads = false; // every read asks for as much as it needs, not for a block
-    bool m_cutOff = false;
-};
+int decoded = 0;
 
 bool isPixelFormat(const QByteArray &format)
 {
-    // Not the formats that are programs rather than pixels, whose cost nobody knows beforehand.
-    static const char *const formats[] = {"bmp", "gif", "jpeg", "pbm", "pgm", "png", "ppm"};
+    // Not the formats that are programs rather than pixels, nor icons, in which a picture of
+    // another size may be packed: nobody knows their cost beforehand.
+    static const char *const formats[] = {"bmp", "gif", "jpeg", "pbm", "pgm",
+                                          "png", "ppm", "xbm",  "xpm"};
     return std::any_of(std::begin(formats), std::end(formats),
                        [&format](const char *name) { return format == name; });
 }
 
-} // namespace
-
-std::optional<QByteArray> readPictureFile(const QString &path)
+// The height is negative for a BMP whose rows run from top to bottom.
+bool isOfBoundedSize(const QImageReader &reader)
 {
-    // Opening a pipe would wait for its other end.
-    if (!QFileInfo(path).isFile())
-        return std::nullopt;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    return file.size() <= maxPictureBytes ? file.read(file.size()) : QByteArray();
+    const QSize size = reader.size();
+    const qint64 pixels = qAbs(qint64(size.width()) * size.height());
+    if (size.width() <= 0 || pixels == 0)
+        return false; // and the pixels' format is anything
+    const int depth = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
+    return pixels <= maxDecodedBits / std::max(usualDepth, depth);
 }
 
-QImage readPicture(const QByteArray &data)
+bool open(QFile &file)
 {
-    PictureData device(data);
-    QImageReader reader(&device);
-    const QByteArray format = reader.format();
-    if (!isPixelFormat(format))
+    // Opening a pipe would wait for its other end.
+    return QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly);
+}
+
+bool open(QFile &file, QImageReader &reader)
+{
+    if (!open(file) || file.size() > maxFileBytes)
+        return false;
+    reader.setDevice(&file);
+    return isPixelFormat(reader.format()) && isOfBoundedSize(reader);
+}
+
+// As many eighths as may be kept.
+QSize keptSize(const QSize &size)
+{
+    constexpr int whole = 8; // JPEG is decoded to every eighth of its size
+    int eighths = whole;
+    while (qint64(size.width()) * size.height() * eighths * eighths > maxKeptPixels * whole * whole)
+        --eighths;
+    return {std::max(1, size.width() * eighths / whole),
+            std::max(1, size.height() * eighths / whole)};
+}
+
+QImage decode(const QString &path)
+{
+    QFile file(path);
+    QImageReader reader;
+    if (!open(file, reader))
         return {};
+    ++decoded;
+    QImage image;
     const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > maxPicturePixels)
+    if (reader.format() == "jpeg") {
+        reader.setScaledSize(keptSize(size));
+    } else {
+        // Formats that go on without the rows that are missing leave there what memory holds.
+        image = QImage(size.width(), qAbs(size.height()), reader.imageFormat());
+        image.fill(0);
+    }
+    if (!reader.read(&image))
         return {};
-    device.expectWholePicture(format == "bmp");
-    const QImage image = reader.read();
-    return device.isCutOff() ? QImage() : image;
+    image.setDevicePixelRatio(1); // whatever the file's name ends in
+    const QSize kept = keptSize(image.size());
+    return image.size() == kept ? image
+                                : image.scaled(kept, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+}
+
+} // namespace
+
+bool PictureLoader::isFile(const QString &path)
+{
+    QFile file(path);
+    return open(file);
+}
+
+bool PictureLoader::isPicture(const QString &path)
+{
+    QFile file(path);
+    QImageReader reader;
+    return open(file, reader);
+}
+
+QImage PictureLoader::load(const QString &path)
+{
+    const QFileInfo file(path);
+    if (path == m_path && file.lastModified() == m_modified && file.size() == m_bytes)
+        return m_picture;
+    QImage picture = decode(path);
+    if (!picture.isNull()) {
+        m_path = path;
+        m_modified = file.lastModified();
+        m_bytes = file.size();
+        m_picture = picture;
+    }
+    return picture;
+}
+
+int PictureLoader::decodedCount()
+{
+    return decoded;
 }

@@ -1,24 +1,33 @@
 #pragma once
 
+#include <QDateTime>
 #include <QImage>
+#include <QString>
 
-#include <optional>
+// Decodes the picture files that the operator or the settings name, in a bounded amount of
+// memory whatever they hold, and keeps the last picture: its thumbnail, every size of the test
+// window and another choice of the same file take one decoding together.
+class PictureLoader
+{
+public:
+    // Whether it can be read and is a regular file (no folder, no pipe, no device).
+    static bool isFile(const QString &path);
 
-class QByteArray;
-class QString;
+    // Told by the file's header, at little cost; what follows may be damaged nevertheless.
+    static bool isPicture(const QString &path);
 
-// Pictures that the operator or the settings name are read here and nowhere else: whatever
-// they hold, they take a bounded amount of memory.
+    // The format is found from the content, and what the toolkit reads counts as a picture even
+    // if its end is missing. Null for a file that is none, or whose decoding takes more memory
+    // than a picture of 16,384 x 16,384 pixels. What has more pixels than 8,192 x 8,192 comes
+    // in the largest number of eighths of its size that has not.
+    QImage load(const QString &path);
 
-// The most pixels that a picture may have, and the largest file, in bytes: as many without any
-// compression, and some room for what stands before them.
-constexpr qint64 maxPicturePixels = qint64(64) * 1024 * 1024;
-constexpr qint64 maxPictureBytes = 4 * maxPicturePixels + 64 * 1024;
+    // How many pictures have been decoded since the start of the program.
+    static int decodedCount();
 
-// All bytes of a regular file; none when it is larger than maxPictureBytes. Nothing when it
-// cannot be opened or is no regular file (a folder, a pipe, a device).
-std::optional<QByteArray> readPictureFile(const QString &path);
-
-// The format is found from the content. A null image for data that is no picture, is cut off,
-// or declares more pixels than maxPicturePixels.
-QImage readPicture(const QByteArray &data);
+private:
+    QString m_path; // of m_picture, with its state when it was decoded
+    QDateTime m_modified;
+    qint64 m_bytes = 0;
+    QImage m_picture;
+};

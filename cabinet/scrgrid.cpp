@@ -1,9 +1,9 @@
 #include "scrgrid.h"
 
-#include "pictureloader.h"
-
 #include <QPainter>
 #include <QWidget>
+
+#include <utility>
 
 ScrGrid::ScrGrid(QWidget *parent)
     : DrawerBase(parent)
@@ -52,19 +52,27 @@ void ScrGrid::update()
 void ScrGrid::setBackgroundImage(const QString &path)
 {
     m_bgPicturePath = path;
-    const std::optional<QByteArray> data = readPictureFile(path);
-    if (!data)
-        return;
-    const QImage image = readPicture(*data);
-    m_bgPixmap = image.isNull()
-                     ? QPixmap()
-                     : QPixmap::fromImage(image.scaled(targetWidget->size(), Qt::IgnoreAspectRatio,
-                                                       Qt::FastTransformation));
+    if (PictureLoader::isFile(path))
+        m_pictureToShow = path;
 }
 
 void ScrGrid::updateBackgroundImage()
 {
     setBackgroundImage(m_bgPicturePath);
+}
+
+QImage ScrGrid::picture(const QString &path)
+{
+    return m_pictures.load(path);
+}
+
+void ScrGrid::stretchPicture()
+{
+    const QImage image = picture(std::exchange(m_pictureToShow, QString()));
+    m_bgPixmap = image.isNull()
+                     ? QPixmap()
+                     : QPixmap::fromImage(image.scaled(targetWidget->size(), Qt::IgnoreAspectRatio,
+                                                       Qt::FastTransformation));
 }
 
 // A palette that is as before asks for no paint.
@@ -78,6 +86,8 @@ void ScrGrid::setBgColor(const QColor &color)
 // From a fresh palette, unlike a colour: wanted.
 void ScrGrid::loadBgPicture()
 {
+    if (!m_pictureToShow.isEmpty())
+        stretchPicture();
     QPalette palette;
     palette.setBrush(QPalette::All, targetWidget->backgroundRole(), QBrush(m_bgPixmap));
     targetWidget->setPalette(palette);

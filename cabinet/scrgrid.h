@@ -2,6 +2,7 @@
 
 #include "drawerbase.h"
 #include "layoutpicture.h"
+#include "pictureloader.h"
 
 #include <QBrush>
 #include <QColor>
@@ -28,11 +29,15 @@ public:
     bool coversWindow() const override;
     void update() override;
 
-    // Keeps the path, and the picture stretched to the test window's present size. A file that
-    // cannot be read leaves the picture before it; one that is no picture leaves none.
+    // Keeps the path. When the picture is next shown it is stretched to the test window's size
+    // at that time. A file that cannot be read leaves the picture before it; one that is no
+    // picture leaves none.
     void setBackgroundImage(const QString &path);
     // The same picture again, for another size of the test window.
     void updateBackgroundImage();
+    // As it is before it is stretched. The next one to be asked for it, or shown, costs nothing
+    // while it is of the same file.
+    QImage picture(const QString &path);
 
     // The test window's background from now on.
     void setBgColor(const QColor &color);
@@ -79,11 +84,14 @@ public:
     bool m_oldTest = false;
     int m_lineStart = 0; // of every family, modules and scan boards included, in pixels
     int m_lineStep = 8; // between the lines of the four general families
-    QPixmap m_bgPixmap; // stretched to the test window
+    QPixmap m_bgPixmap; // stretched to the test window, once it has been shown
 
 private:
     void installBackground();
+    void stretchPicture();
     CabinetLayout layout() const;
 
     LayoutPicture m_picture;
+    PictureLoader m_pictures;
+    QString m_pictureToShow; // not stretched yet; empty once it is
 };

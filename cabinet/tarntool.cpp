@@ -17,6 +17,7 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QSettings>
+#include <QTimer>
 
 #include <tuple>
 
@@ -24,9 +25,6 @@ namespace {
 
 constexpr int firstId = 0; // of each group: the solid colour, from left to right
 constexpr int secondId = 1;
-
-// How often the picture is read in a run of changes of the test window's size.
-constexpr int stretchDelayMs = 100;
 
 } // namespace
 
@@ -43,9 +41,6 @@ TarnTool::TarnTool(QWidget *drawWidget, QSettings *settings, QWidget *parent)
 {
     for (QPushButton *button : {ui->buttonFixedPosition, ui->buttonSetup})
         button->setObjectName(QStringLiteral("normalContentPushBtn"));
-    m_stretchSoon.setSingleShot(true);
-    m_stretchSoon.setInterval(stretchDelayMs);
-    connect(&m_stretchSoon, &QTimer::timeout, this, &TarnTool::stretchPicture);
     uiInit();
     updateLanguage();
     m_testWindow->installEventFilter(this);
@@ -186,18 +181,17 @@ void TarnTool::slot_drawerSizeChanged(int /*width*/, int /*height*/)
 // screen do not.
 bool TarnTool::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_testWindow && event->type() == QEvent::Resize && !m_stretchSoon.isActive())
-        m_stretchSoon.start();
+    if (watched == m_testWindow && event->type() == QEvent::Resize)
+        m_drawer->updateBackgroundImage();
     return QDialog::eventFilter(watched, event);
 }
 
-void TarnTool::stretchPicture()
+// After the first time, so that a picture that takes long does not keep the window from showing.
+void TarnTool::paintEvent(QPaintEvent *event)
 {
-    const bool isOfSize = m_drawer->m_bgPixmap.size() == m_testWindow->size();
-    if (m_drawer->m_bgPicturePath.isEmpty() || isOfSize)
-        return;
-    m_drawer->updateBackgroundImage();
-    m_drawer->update();
+    QDialog::paintEvent(event);
+    if (m_thumbnailDue)
+        QTimer::singleShot(0, this, &TarnTool::restoreThumbnail);
 }
 
 void TarnTool::on_buttonFixedPosition_clicked()

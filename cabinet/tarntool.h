@@ -5,7 +5,6 @@
 #include <QColor>
 #include <QDialog>
 #include <QPointer>
-#include <QTimer>
 
 #include <array>
 #include <memory>
@@ -68,6 +67,7 @@ public slots:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private slots:
@@ -114,14 +114,15 @@ private:
     void restoreCounts();
     void restoreColors();
     void restorePicture();
+    void restoreThumbnail();
     bool chooseColor(ColorItem item);
     void setSwatch(ColorItem item, const QColor &color, const QString &style);
+    void takePictureAway();
     void useSolidBackground();
     void usePicture(const QString &path);
     void showThumbnail(const QImage &picture);
     void showChange();
     void saveSoon();
-    void stretchPicture();
 
     QWidget *m_testWindow;
     const std::unique_ptr<ScrGrid> m_drawer;
@@ -140,7 +141,7 @@ private:
     SaveSoon *m_saveSoon;
     QString m_bgPicturePath; // of the picture in use; empty for the solid colour
     QString m_lastPictureDir; // where the next file dialog begins
-    QTimer m_stretchSoon;
     QPointer<AdvancedSetup> m_setup; // while it is open
+    bool m_thumbnailDue = false; // of the kept picture
     bool m_restoring = false; // what changes now is no choice of the operator
 };

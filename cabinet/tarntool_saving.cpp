@@ -4,13 +4,13 @@
 
 #include "advancedvalue.h"
 #include "filedialog.h"
-#include "pictureloader.h"
 #include "scrgrid.h"
 #include "settingsrules.h"
 #include "swatch.h"
 #include "tarntool.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QSaveFile>
 #include <QScopedValueRollback>
 #include <QSettings>
@@ -22,19 +22,22 @@ QString keptPicture()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/BackgroundPicture/picture");
 }
 
-QImage pictureIn(const QString &path)
+// Whatever happens meanwhile, the earlier picture or the new one is there. Where not everything
+// can be read or written, the earlier one stays.
+void keepPicture(const QString &path)
 {
-    const std::optional<QByteArray> data = readPictureFile(path);
-    return data ? readPicture(*data) : QImage();
-}
-
-// Whatever happens meanwhile, the earlier picture or the new one is there. Where nothing can be
-// written, the earlier one stays.
-void keepPicture(const QByteArray &data)
-{
-    QSaveFile file(keptPicture());
-    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size())
-        file.commit();
+    constexpr qint64 blockBytes = 1024 * 1024;
+    QFile source(path);
+    QSaveFile kept(keptPicture());
+    if (!source.open(QIODevice::ReadOnly) || !kept.open(QIODevice::WriteOnly))
+        return;
+    for (QByteArray block = source.read(blockBytes); !block.isEmpty();
+         block = source.read(blockBytes))
+        kept.write(block);
+    const bool isWhole = source.error() == QFileDevice::NoError;
+    source.close(); // it may be the kept one itself
+    if (isWhole)
+        kept.commit();
 }
 
 } // namespace
@@ -89,15 +92,29 @@ void TarnTool::restoreColors()
 // Without a kept picture the stored choice of one does not count.
 void TarnTool::restorePicture()
 {
-    const QImage picture = pictureIn(keptPicture());
-    if (picture.isNull()) {
+    m_thumbnailDue = PictureLoader::isPicture(keptPicture());
+    if (!m_thumbnailDue) {
         ui->radioBackground->setChecked(true);
         return;
     }
-    showThumbnail(picture);
     usePicture(keptPicture());
     const bool solid = m_settings->value(CabinetKey::solidBackground).toBool();
     (solid ? ui->radioBackground : ui->radioPicture)->setChecked(true);
+}
+
+// A kept picture that turns out to be damaged counts as none from here on.
+void TarnTool::restoreThumbnail()
+{
+    if (!m_thumbnailDue)
+        return;
+    m_thumbnailDue = false;
+    const QImage picture = m_drawer->picture(keptPicture());
+    if (!picture.isNull()) {
+        showThumbnail(picture);
+        return;
+    }
+    ui->radioBackground->setChecked(true);
+    takePictureAway();
 }
 
 void TarnTool::usePicture(const QString &path)
@@ -109,6 +126,7 @@ void TarnTool::usePicture(const QString &path)
 
 void TarnTool::showThumbnail(const QImage &picture)
 {
+    m_thumbnailDue = false;
     const QImage small =
         picture.scaled(ui->labelimage->size(), Qt::KeepAspectRatio, Qt::FastTransformation);
     ui->labelimage->setPixmap(QPixmap::fromImage(small));
@@ -116,11 +134,16 @@ void TarnTool::showThumbnail(const QImage &picture)
     ui->labelimage->show();
 }
 
-void TarnTool::useSolidBackground()
+void TarnTool::takePictureAway()
 {
     m_drawer->m_bgColor = m_bgColor;
     m_drawer->m_bgPicturePath.clear();
     m_bgPicturePath.clear();
+}
+
+void TarnTool::useSolidBackground()
+{
+    takePictureAway();
     showChange();
 }
 
@@ -138,7 +161,7 @@ void TarnTool::slot_radioBackgroundClicked()
 void TarnTool::slot_radioPictureRefresh()
 {
     saveSoon(); // the choice itself, whether a picture comes of it or not
-    if (pictureIn(keptPicture()).isNull())
+    if (m_drawer->picture(keptPicture()).isNull())
         slot_radioPictureClicked();
     else
         usePicture(keptPicture());
@@ -155,11 +178,10 @@ void TarnTool::slot_radioPictureClicked()
                                                      tr("图片文件 (*.jpg *.png *.bmp)"));
     if (path.isEmpty())
         return;
-    const std::optional<QByteArray> bytes = readPictureFile(path);
-    const QImage picture = bytes ? readPicture(*bytes) : QImage();
+    const QImage picture = m_drawer->picture(path);
     if (picture.isNull())
         return;
-    keepPicture(*bytes);
+    keepPicture(path);
     m_lastPictureDir = path;
     showThumbnail(picture);
     usePicture(path);

@@ -1,6 +1,7 @@
 #include "advancedsetup.h"
 #include "drawcontainer.h"
 #include "mainwindowrig.h"
+#include "pictureloader.h"
 #include "scrgrid.h"
 #include "scrgridctrldialog.h"
 #include "tarntool.h"
@@ -12,6 +13,7 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -23,6 +25,15 @@ constexpr int cabinetTab = 4;
 QString pictureFolder()
 {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/BackgroundPicture");
+}
+
+void keepPicture()
+{
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(Qt::cyan);
+    if (!QDir().mkpath(pictureFolder())
+        || !picture.save(pictureFolder() + QStringLiteral("/picture"), "PNG"))
+        qFatal("cannot keep a picture");
 }
 
 } // namespace
@@ -41,6 +52,7 @@ private slots:
     void returningToTheTab_showsTheLayoutOnceAControlIsTouched();
     void changedLayout_stopsTheGridsRun_data();
     void changedLayout_stopsTheGridsRun();
+    void keptPicture_isNotDecodedUntilItsTabIsSeen();
     void resizedTestWindow_stretchesThePictureAgain();
     void pageKeyBehindTheAdvancedSettings_leavesThemUsable();
     void saveSettings_savesThePanel();
@@ -142,18 +154,29 @@ void TestMainWindowCabinet::changedLayout_stopsTheGridsRun()
     QCOMPARE(grid->getScroll(), !changed);
 }
 
+void TestMainWindowCabinet::keptPicture_isNotDecodedUntilItsTabIsSeen()
+{
+    keepPicture();
+    const int before = PictureLoader::decodedCount();
+    start({{QStringLiteral("tarnBackgroundSelect"), true}});
+    QTRY_VERIFY(panel()->window()->windowHandle()->isExposed());
+    MainWindowRig::testWindow()->resize(300, 200);
+    MainWindowRig::testWindow()->grab();
+    QCoreApplication::processEvents();
+    QCOMPARE(PictureLoader::decodedCount(), before);
+    m_rig.tabs()->setCurrentIndex(cabinetTab);
+    QTRY_COMPARE(PictureLoader::decodedCount(), before + 1);
+}
+
 void TestMainWindowCabinet::resizedTestWindow_stretchesThePictureAgain()
 {
-    QVERIFY(QDir().mkpath(pictureFolder()));
-    QImage picture(4, 4, QImage::Format_RGB32);
-    picture.fill(Qt::cyan);
-    QVERIFY(picture.save(pictureFolder() + QStringLiteral("/picture"), "PNG"));
+    keepPicture();
     start();
     layOut();
     DrawContainer *testWindow = MainWindowRig::testWindow();
     testWindow->resize(300, 200);
     emit testWindow->signal_drawWidgetSizeChange(300, 200);
-    QCOMPARE(drawer()->m_bgPixmap.size(), QSize(300, 200));
+    QTRY_COMPARE(drawer()->m_bgPixmap.size(), QSize(300, 200));
 }
 
 void TestMainWindowCabinet::pageKeyBehindTheAdvancedSettings_leavesThemUsable()

@@ -1,9 +1,11 @@
 #include "permissions.h"
+#include "picturefolder.h"
 #include "pictureloader.h"
 
 #include <QBuffer>
+#include <QDateTime>
 #include <QImage>
-#include <QTemporaryDir>
+#include <QPainter>
 #include <QtTest>
 
 #ifdef Q_OS_UNIX
@@ -50,10 +52,51 @@ void addPictures()
                                                           {"16 bits", QImage::Format_RGB16},
                                                           {"24 bits", QImage::Format_RGB888},
                                                           {"32 bits", QImage::Format_ARGB32}};
-    for (const char *format : {"BMP", "PNG", "JPG", "PPM"}) {
+    for (const char *format : {"BMP", "PNG", "JPG", "PPM", "XBM", "XPM"}) {
         for (const auto &depth : depths)
             QTest::addRow("%s, %s", format, depth.first) << saved(noise(depth.second), format);
     }
+    QTest::newRow("GIF") << gif();
+}
+
+constexpr int bmpHeight = 22; // where it stands
+
+// With the rows from top to bottom, and the height negative for that.
+QByteArray topDownBmp(const QImage &image)
+{
+    QByteArray bytes = saved(image.mirrored(), "BMP");
+    bytes.replace(bmpHeight, 4, QByteArray::fromHex("d7ffffff"));
+    return bytes;
+}
+
+void setAge(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite)
+        || !file.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFile::FileModificationTime))
+        qFatal("cannot set the time of a file");
+}
+
+// A PNG of one pixel, with another header (size, format and checksum).
+QByteArray png(const char *header)
+{
+    QByteArray bytes = saved(PictureFolder::filled({1, 1}, Qt::red), "PNG");
+    const QByteArray other = QByteArray::fromHex(header);
+    return bytes.replace(16, other.size(), other);
+}
+
+// Four flat colours, so that no reduction makes others of them but at their edges.
+QImage quarters(const QSize &size)
+{
+    QImage image(size, QImage::Format_Mono);
+    image.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
+    QPainter painter(&image);
+    const QPoint middle(size.width() / 2, size.height() / 2);
+    painter.fillRect(image.rect(), Qt::black);
+    painter.fillRect(QRect(QPoint(), middle - QPoint(1, 1)), Qt::white);
+    painter.fillRect(QRect(middle, image.rect().bottomRight()), Qt::white);
+    painter.end();
+    return image;
 }
 
 } // namespace
@@ -65,21 +108,31 @@ class TestPictureLoader : public QObject
 private slots:
     void picture_isReadAsQtReadsIt_data();
     void picture_isReadAsQtReadsIt();
-    void gif_isReadAsQtReadsIt();
-    void cutOffPicture_isNone_data();
-    void cutOffPicture_isNone();
+    void bmpFromTopToBottom_isReadAsQtReadsIt();
+    void cutOffPicture_countsWhenQtReadsIt_data();
+    void cutOffPicture_countsWhenQtReadsIt();
+    void missingRowsOfABmp_areBlack();
+    void veryLargePicture_comesInEighths_data();
+    void veryLargePicture_comesInEighths();
+    void veryLargeJpeg_isReducedWhileItIsDecoded();
     void pictureWithTooManyPixels_isNone_data();
     void pictureWithTooManyPixels_isNone();
     void dataThatIsNoPicture_isNone_data();
     void dataThatIsNoPicture_isNone();
-    void file_isReadWhole();
-    void emptyFile_isReadAsNothing();
-    void fileThatIsTooLarge_isReadAsNothing();
-    void whatIsNoReadableFile_isNotRead_data();
-    void whatIsNoReadableFile_isNotRead();
+    void fileThatIsTooLarge_isNone();
+    void nameForAFineScreen_changesNoPicture();
+    void sameFile_isDecodedOnce();
+    void changedFile_isDecodedAgain();
+    void anotherFileOfTheSameSizeAndAge_isDecoded();
+    void fileThatIsNoPicture_leavesTheLastOneDecoded();
+    void header_isReadWithoutDecoding();
+    void whatIsNoReadableFile_isNone_data();
+    void whatIsNoReadableFile_isNone();
 
 private:
-    QTemporaryDir m_folder;
+    QImage read(const QByteArray &data) { return PictureLoader().load(m_folder.add(data)); }
+
+    PictureFolder m_folder;
 };
 
 void TestPictureLoader::picture_isReadAsQtReadsIt_data()
@@ -90,56 +143,133 @@ void TestPictureLoader::picture_isReadAsQtReadsIt_data()
 void TestPictureLoader::picture_isReadAsQtReadsIt()
 {
     QFETCH(const QByteArray, data);
-    const QImage picture = readPicture(data);
+    const QImage picture = read(data);
     QVERIFY(!picture.isNull());
     QCOMPARE(picture, QImage::fromData(data));
+    QVERIFY(PictureLoader::isPicture(m_folder.add(data)));
 }
 
-void TestPictureLoader::gif_isReadAsQtReadsIt()
+void TestPictureLoader::bmpFromTopToBottom_isReadAsQtReadsIt()
 {
-    const QImage picture = readPicture(gif());
-    QCOMPARE(picture.size(), QSize(1, 1));
-    QCOMPARE(picture.pixel(0, 0), qRgb(255, 0, 0));
+    const QImage image = noise(QImage::Format_RGB32);
+    QCOMPARE(read(topDownBmp(image)), image);
 }
 
-void TestPictureLoader::cutOffPicture_isNone_data()
+void TestPictureLoader::cutOffPicture_countsWhenQtReadsIt_data()
 {
     addPictures();
 }
 
-void TestPictureLoader::cutOffPicture_isNone()
+void TestPictureLoader::cutOffPicture_countsWhenQtReadsIt()
 {
     QFETCH(const QByteArray, data);
-    for (const int percent : {1, 10, 50, 90, 98})
-        QVERIFY2(readPicture(data.left(data.size() * percent / 100)).isNull(),
-                 qPrintable(QString::number(percent)));
+    for (const int missing : {1, 2, data.size() / 10, data.size() / 2, data.size() - 20}) {
+        const QByteArray rest = data.left(data.size() - missing);
+        const QImage expected = QImage::fromData(rest);
+        const QImage picture = read(rest);
+        QCOMPARE(picture.size(), expected.size());
+        if (!data.startsWith("BM") && !data.startsWith("#define"))
+            QCOMPARE(picture, expected); // those leave open what the missing pixels are
+    }
+}
+
+void TestPictureLoader::missingRowsOfABmp_areBlack()
+{
+    const QImage image = noise(QImage::Format_RGB32);
+    const QByteArray data = saved(image, "BMP");
+    for (const int rows : {1, 20}) {
+        const int rowBytes = (data.size() - 54) / image.height();
+        const QByteArray rest = data.left(data.size() - (rows - 1) * rowBytes - 1);
+        QImage(image.size(), image.format()).fill(Qt::red); // what may lie in the memory
+        const QImage picture = read(rest);
+        QCOMPARE(picture.copy(0, rows, image.width(), image.height()),
+                 image.copy(0, rows, image.width(), image.height()));
+        for (int y = 0; y < rows; ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                QCOMPARE(picture.pixel(x, y) & 0xffffffU, 0U);
+        }
+    }
+}
+
+void TestPictureLoader::veryLargePicture_comesInEighths_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("reduced");
+    QTest::newRow("PNG") << QSize(9000, 8000) << QSize(7875, 7000);
+    QTest::newRow("as large as it may be kept") << QSize(8192, 8192) << QSize(8192, 8192);
+}
+
+void TestPictureLoader::veryLargePicture_comesInEighths()
+{
+    QFETCH(const QSize, size);
+    QFETCH(const QSize, reduced);
+    const QString path = m_folder.add(quarters(size));
+    QVERIFY(PictureLoader::isPicture(path));
+    const QImage picture = PictureLoader().load(path);
+    QCOMPARE(picture.size(), reduced);
+    for (const int x : {0, reduced.width() / 2 - 3, reduced.width() / 2 + 3, reduced.width() - 1}) {
+        for (const int y : {0, reduced.height() / 2 - 3, reduced.height() / 2 + 3}) {
+            const bool isLight = (x < reduced.width() / 2) == (y < reduced.height() / 2);
+            QCOMPARE(qGray(picture.pixel(x, y)) > 127, isLight);
+        }
+    }
+}
+
+// It loses the finest details, of which a reduction afterwards would take every eighth.
+void TestPictureLoader::veryLargeJpeg_isReducedWhileItIsDecoded()
+{
+    QImage stripes(11648, 8736, QImage::Format_Grayscale8);
+    for (int y = 0; y < stripes.height(); ++y) {
+        uchar *line = stripes.scanLine(y);
+        for (int x = 0; x < stripes.width(); ++x)
+            line[x] = x % 2 == 0 ? 255 : 0;
+    }
+    const QImage picture = read(saved(stripes, "JPG"));
+    QCOMPARE(picture.size(), QSize(8736, 6552));
+    for (int x = 0; x < picture.width(); ++x) {
+        const int gray = qGray(picture.pixel(x, 3000));
+        QVERIFY2(gray > 16 && gray < 239, qPrintable(QString::number(gray)));
+    }
 }
 
 void TestPictureLoader::pictureWithTooManyPixels_isNone_data()
 {
     QTest::addColumn<QByteArray>("data");
-    QImage large(8200, 8200, QImage::Format_Mono);
-    large.fill(1);
-    QTest::newRow("whole PNG") << saved(large, "PNG");
     QByteArray header = saved(noise(QImage::Format_RGB32), "BMP");
-    header.replace(18, 8, QByteArray::fromHex("00000100ffff0000"));
+    header.replace(18, 8, QByteArray::fromHex("0040000001400000"));
     QTest::newRow("BMP that declares them") << header;
+    header.replace(18, 8, QByteArray::fromHex("00400000ffbfffff"));
+    QTest::newRow("BMP that declares them from top to bottom") << header;
     header.replace(18, 8, QByteArray::fromHex("ffffff7fffffff7f"));
     QTest::newRow("BMP that declares the most") << header;
+    header.replace(18, 8, QByteArray::fromHex("0100000000000080"));
+    QTest::newRow("BMP that declares the least height") << header;
+    header.replace(18, 8, QByteArray::fromHex("ffffffff01000000"));
+    QTest::newRow("BMP of a negative width") << header;
+    QTest::newRow("PPM that declares them") << QByteArray("P6 16384 16385 255\n") + header;
+    QByteArray wide = gif();
+    for (const int place : {6, 24}) // the screen and the picture on it
+        wide.replace(place, 4, QByteArray::fromHex("ffffffff"));
+    QTest::newRow("GIF that declares them") << wide;
+    QTest::newRow("PNG that declares them") << png("000040000000400108060000006294c321");
+    // 16 bits a colour: half as many pixels, 16384 x 8192.
+    QTest::newRow("deep PNG that declares them") << png("00004000000020011006000000b9b25387");
 }
 
 void TestPictureLoader::pictureWithTooManyPixels_isNone()
 {
     QFETCH(const QByteArray, data);
     QVERIFY(data.size() < 1000000);
-    QVERIFY(readPicture(data).isNull());
+    const int before = PictureLoader::decodedCount();
+    QVERIFY(read(data).isNull());
+    QVERIFY(!PictureLoader::isPicture(m_folder.add(data)));
+    QCOMPARE(PictureLoader::decodedCount(), before);
 }
 
 void TestPictureLoader::dataThatIsNoPicture_isNone_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("zero bytes") << QByteArray("");
     QTest::newRow("zeros") << QByteArray(5000, '\0');
     QTest::newRow("text") << QByteArray("no picture");
     QTest::newRow("only the start of a PNG") << QByteArray("\x89PNG\r\n\x1a\n");
@@ -150,66 +280,111 @@ void TestPictureLoader::dataThatIsNoPicture_isNone_data()
 void TestPictureLoader::dataThatIsNoPicture_isNone()
 {
     QFETCH(const QByteArray, data);
-    QVERIFY(readPicture(data).isNull());
+    const QString path = m_folder.add(data);
+    QVERIFY(PictureLoader::isFile(path));
+    QVERIFY(!PictureLoader::isPicture(path));
+    QVERIFY(PictureLoader().load(path).isNull());
 }
 
-void TestPictureLoader::file_isReadWhole()
+void TestPictureLoader::fileThatIsTooLarge_isNone()
 {
-    const QByteArray data = saved(noise(QImage::Format_RGB32), "PNG");
-    QFile file(m_folder.filePath(QStringLiteral("whole")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(data), qint64(data.size()));
-    file.close();
-    const std::optional<QByteArray> read = readPictureFile(file.fileName());
-    QVERIFY(read.has_value());
-    QCOMPARE(*read, data);
-}
-
-void TestPictureLoader::emptyFile_isReadAsNothing()
-{
-    QFile file(m_folder.filePath(QStringLiteral("empty")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    const std::optional<QByteArray> read = readPictureFile(file.fileName());
-    QVERIFY(read.has_value());
-    QVERIFY(read->isEmpty());
-}
-
-void TestPictureLoader::fileThatIsTooLarge_isReadAsNothing()
-{
-    QFile file(m_folder.filePath(QStringLiteral("large")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    QFile file(m_folder.add(noise(QImage::Format_RGB32)));
     QVERIFY(file.resize(qint64(1) << 40)); // takes no room on the disk
-    const std::optional<QByteArray> read = readPictureFile(file.fileName());
-    QVERIFY(read.has_value());
-    QVERIFY(read->isEmpty());
+    QVERIFY(!PictureLoader::isPicture(file.fileName()));
+    QVERIFY(PictureLoader().load(file.fileName()).isNull());
 }
 
-void TestPictureLoader::whatIsNoReadableFile_isNotRead_data()
+void TestPictureLoader::nameForAFineScreen_changesNoPicture()
+{
+    const QString path = m_folder.path() + QStringLiteral("/picture@2x.png");
+    QVERIFY(noise(QImage::Format_RGB32).save(path));
+    QCOMPARE(PictureLoader().load(path).devicePixelRatio(), 1.0);
+}
+
+void TestPictureLoader::sameFile_isDecodedOnce()
+{
+    const QString path = m_folder.add(Qt::red);
+    PictureLoader loader;
+    const int before = PictureLoader::decodedCount();
+    const QImage picture = loader.load(path);
+    QCOMPARE(loader.load(path), picture);
+    QCOMPARE(PictureLoader::decodedCount(), before + 1);
+}
+
+void TestPictureLoader::changedFile_isDecodedAgain()
+{
+    const QString path = m_folder.add(Qt::red);
+    PictureLoader loader;
+    loader.load(path);
+    QVERIFY(PictureFolder::filled({9, 9}, Qt::blue).save(path, "PNG")); // another length
+    QCOMPARE(loader.load(path).pixelColor(0, 0), QColor(Qt::blue));
+    setAge(path);
+    const int before = PictureLoader::decodedCount();
+    QVERIFY(!loader.load(path).isNull());
+    QCOMPARE(PictureLoader::decodedCount(), before + 1);
+}
+
+void TestPictureLoader::anotherFileOfTheSameSizeAndAge_isDecoded()
+{
+    PictureLoader loader;
+    for (const QColor color : {Qt::red, Qt::blue}) {
+        const QString path = m_folder.add(saved(PictureFolder::filled({9, 9}, color), "BMP"));
+        setAge(path);
+        QCOMPARE(loader.load(path).pixelColor(0, 0), color);
+    }
+}
+
+void TestPictureLoader::fileThatIsNoPicture_leavesTheLastOneDecoded()
+{
+    const QString path = m_folder.add(Qt::red);
+    PictureLoader loader;
+    loader.load(path);
+    const int before = PictureLoader::decodedCount();
+    QVERIFY(loader.load(m_folder.add(QByteArray("no picture"))).isNull());
+    QVERIFY(!loader.load(path).isNull());
+    QCOMPARE(PictureLoader::decodedCount(), before);
+}
+
+void TestPictureLoader::header_isReadWithoutDecoding()
+{
+    const QByteArray data = PictureFolder::png(noise(QImage::Format_RGB32));
+    const QString damaged = m_folder.add(data.left(data.size() / 2));
+    const int before = PictureLoader::decodedCount();
+    QVERIFY(PictureLoader::isPicture(damaged));
+    // 16384 x 16384 pixels; with 16 bits a colour, 16384 x 8192.
+    QVERIFY(PictureLoader::isPicture(m_folder.add(png("00004000000040000806000000a9c81084"))));
+    QVERIFY(PictureLoader::isPicture(m_folder.add(png("0000400000002000100600000072ee8022"))));
+    QCOMPARE(PictureLoader::decodedCount(), before);
+    QVERIFY(PictureLoader().load(damaged).isNull());
+}
+
+void TestPictureLoader::whatIsNoReadableFile_isNone_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("empty path") << QString();
-    QTest::newRow("missing") << m_folder.filePath(QStringLiteral("missing"));
+    QTest::newRow("missing") << m_folder.path() + QStringLiteral("/missing");
     QTest::newRow("folder") << m_folder.path();
 #ifdef Q_OS_UNIX
-    const QString pipe = m_folder.filePath(QStringLiteral("pipe"));
+    const QString pipe = m_folder.path() + QStringLiteral("/pipe");
     QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     QTest::newRow("pipe") << pipe;
-    const QString link = m_folder.filePath(QStringLiteral("link"));
+    const QString link = m_folder.path() + QStringLiteral("/link");
     QVERIFY(QFile::link(pipe, link));
     QTest::newRow("link to a pipe") << link;
     QTest::newRow("device without end") << QStringLiteral("/dev/zero");
 #endif
-    QFile locked(m_folder.filePath(QStringLiteral("locked")));
-    QVERIFY(locked.open(QIODevice::WriteOnly));
+    QFile locked(m_folder.add(Qt::red));
     QVERIFY(locked.setPermissions(QFileDevice::Permissions()));
     QTest::newRow("unreadable") << locked.fileName();
 }
 
-void TestPictureLoader::whatIsNoReadableFile_isNotRead()
+void TestPictureLoader::whatIsNoReadableFile_isNone()
 {
     QFETCH(const QString, path);
     const OrdinaryRights rights;
-    QVERIFY(!readPictureFile(path).has_value());
+    QVERIFY(!PictureLoader::isFile(path));
+    QVERIFY(!PictureLoader::isPicture(path));
+    QVERIFY(PictureLoader().load(path).isNull());
 }
 
 QTEST_GUILESS_MAIN(TestPictureLoader)

@@ -10,6 +10,7 @@ class TestScrGridPicture : public QObject
 private slots:
     void picture_isStretchedWithoutSmoothing();
     void picture_isStretchedAnewOnlyWhenAsked();
+    void picture_isDecodedWhenItIsFirstShown();
     void translucentPicture_liesOverBlack();
     void fileThatIsNoPicture_leavesBlack_data();
     void fileThatIsNoPicture_leavesBlack();
@@ -30,6 +31,7 @@ void TestScrGridPicture::picture_isStretchedWithoutSmoothing()
     image.setPixel(1, 1, LayoutColor::black);
     ScrGridRig rig(QSize(90, 20));
     rig.drawer.setBackgroundImage(m_pictures.add(image));
+    rig.painted();
     const QImage stretched = rig.drawer.m_bgPixmap.toImage();
     QCOMPARE(stretched.size(), QSize(90, 20));
     for (int y = 0; y < 20; ++y) {
@@ -45,11 +47,34 @@ void TestScrGridPicture::picture_isStretchedAnewOnlyWhenAsked()
 {
     ScrGridRig rig(QSize(40, 30));
     rig.drawer.setBackgroundImage(m_red);
+    rig.painted();
     rig.canvas.resize(50, 20);
     rig.painted();
     QCOMPARE(rig.drawer.m_bgPixmap.size(), QSize(40, 30));
     rig.drawer.updateBackgroundImage();
+    rig.painted();
     QCOMPARE(rig.drawer.m_bgPixmap.size(), QSize(50, 20));
+}
+
+void TestScrGridPicture::picture_isDecodedWhenItIsFirstShown()
+{
+    ScrGridRig rig(QSize(40, 30));
+    const int before = PictureLoader::decodedCount();
+    rig.drawer.setBackgroundImage(m_red);
+    rig.drawer.m_bgPicturePath.clear();
+    rig.painted(); // the solid colour
+    rig.drawer.setBackgroundImage(m_red);
+    rig.drawer.m_layoutOn = false;
+    rig.painted();
+    QCOMPARE(PictureLoader::decodedCount(), before);
+    rig.drawer.m_layoutOn = true;
+    for (const int width : {40, 50, 60}) {
+        rig.canvas.resize(width, 30);
+        rig.drawer.updateBackgroundImage();
+        QCOMPARE(rig.painted().pixel(5, 5), LayoutColor::red);
+        QCOMPARE(rig.drawer.m_bgPixmap.width(), width);
+        QCOMPARE(PictureLoader::decodedCount(), before + 1);
+    }
 }
 
 void TestScrGridPicture::translucentPicture_liesOverBlack()
@@ -86,9 +111,9 @@ void TestScrGridPicture::fileThatIsNoPicture_leavesBlack()
     rig.drawer.setBackgroundImage(path);
     rig.drawer.update();
 
-    QVERIFY(rig.drawer.m_bgPixmap.isNull());
     QCOMPARE(rig.drawer.m_bgPicturePath, path);
     QTRY_VERIFY(rig.shows(LayoutColor::black));
+    QVERIFY(rig.drawer.m_bgPixmap.isNull());
     QCOMPARE(onScreen(rig.window).pixel(1, 1), LayoutColor::blue); // the layout stays
     QVERIFY(rig.settle());
     rig.paints.count = 0;
@@ -110,8 +135,10 @@ void TestScrGridPicture::whatCannotBeRead_leavesThePictureBefore()
     QFETCH(const QString, path);
     ScrGridRig rig(QSize(40, 30));
     rig.drawer.setBackgroundImage(m_red);
+    rig.painted();
     const qint64 before = rig.drawer.m_bgPixmap.cacheKey();
     rig.drawer.setBackgroundImage(path);
+    rig.painted();
     QCOMPARE(rig.drawer.m_bgPicturePath, path);
     QCOMPARE(rig.drawer.m_bgPixmap.cacheKey(), before);
 }

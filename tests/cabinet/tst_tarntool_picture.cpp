@@ -1,35 +1,11 @@
 #include "cabinetrig.h"
-#include "customerqlabel.h"
 #include "filedialog.h"
 #include "permissions.h"
+#include "pictureonpanel.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#endif
-
-namespace {
-
-QRgb cornerOf(CabinetRig &rig)
-{
-    return rig.drawer->m_bgPixmap.toImage().pixel(0, 0);
-}
-
-QRgb thumbnailOf(const CabinetRig &rig)
-{
-    const QPixmap *pixmap = rig.child<CustomerQlabel>("labelimage")->pixmap();
-    return pixmap ? pixmap->toImage().pixel(0, 0) : 0;
-}
-
-bool isPictureSelected(const CabinetRig &rig)
-{
-    return rig.radio("radioPicture")->isChecked();
-}
-
-} // namespace
 
 class TestTarnToolPicture : public QObject
 {
@@ -38,13 +14,6 @@ class TestTarnToolPicture : public QObject
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
-    void keptPicture_isShownAtTheStart();
-    void storedChoice_countsWithAKeptPicture();
-    void whatIsKeptAndIsNoPicture_countsAsNone_data();
-    void whatIsKeptAndIsNoPicture_countsAsNone();
-    void keptPipe_countsAsNone();
-
-    void pictureButton_takesTheKeptPicture();
     void pictureButton_withoutAKeptPictureAsksForOne();
     void chosenPicture_isUsedFromItsPlaceAndKept();
     void chosenPicture_comesBackAfterARestart();
@@ -56,6 +25,7 @@ private slots:
     void chosenFileThatIsNoPicture_isIgnored();
     void clickOnTheThumbnailWhileSolidIsSelected_doesNothing();
     void nextFileDialog_beginsAtTheChosenFile();
+    void chosenPicture_isDecodedOnce();
     void solidButton_takesThePictureAway();
     void changedSize_stretchesThePictureAgain();
     void sizeChangedByOtherThanTheMouse_stretchesThePictureToo();
@@ -72,82 +42,6 @@ QString TestTarnToolPicture::file(const char *name, const QByteArray &contents)
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
         qFatal("cannot write the picture");
     return file.fileName();
-}
-
-void TestTarnToolPicture::keptPicture_isShownAtTheStart()
-{
-    CabinetRig rig({}, pictureFile(Qt::cyan, QSize(50, 10)));
-    QVERIFY(isPictureSelected(rig)); // nothing stored means the picture
-    QCOMPARE(thumbnailOf(rig), qRgb(0, 255, 255));
-    const auto *thumbnail = rig.child<CustomerQlabel>("labelimage");
-    QVERIFY(thumbnail->hasScaledContents());
-    QCOMPARE(thumbnail->pixmap()->width(), thumbnail->width()); // as wide as it fits
-    QCOMPARE(thumbnail->pixmap()->height(), thumbnail->width() / 5);
-    QCOMPARE(rig.drawer->m_bgPicturePath, KeptPicture::path());
-    rig.layOut();
-    QCOMPARE(rig.drawer->m_bgPicturePath, KeptPicture::path());
-    QCOMPARE(rig.drawer->m_bgPixmap.size(), rig.canvas.size());
-    QCOMPARE(cornerOf(rig), qRgb(0, 255, 255));
-}
-
-void TestTarnToolPicture::storedChoice_countsWithAKeptPicture()
-{
-    const CabinetRig rig({{QStringLiteral("tarnBackgroundSelect"), true}}, pictureFile(Qt::cyan));
-    QVERIFY(!isPictureSelected(rig));
-    rig.layOut();
-    QCOMPARE(rig.drawer->m_bgPicturePath, QString());
-}
-
-void TestTarnToolPicture::whatIsKeptAndIsNoPicture_countsAsNone_data()
-{
-    QTest::addColumn<QByteArray>("contents");
-    const QByteArray whole = pictureFile(Qt::cyan, QSize(300, 200), "BMP");
-    QTest::newRow("zero bytes") << QByteArray("");
-    QTest::newRow("text") << QByteArray("no picture");
-    QTest::newRow("cut off") << whole.left(whole.size() / 2);
-    QByteArray huge = whole;
-    huge.replace(18, 8, QByteArray::fromHex("ffff0000ffff0000"));
-    QTest::newRow("huge") << huge;
-}
-
-void TestTarnToolPicture::whatIsKeptAndIsNoPicture_countsAsNone()
-{
-    QFETCH(const QByteArray, contents);
-    CabinetRig rig({}, contents);
-    QVERIFY(!isPictureSelected(rig));
-    QCOMPARE(thumbnailOf(rig), QRgb(0));
-    rig.layOut();
-    QCOMPARE(rig.drawer->m_bgPicturePath, QString());
-    QVERIFY(rig.drawer->m_bgPixmap.isNull());
-}
-
-void TestTarnToolPicture::keptPipe_countsAsNone()
-{
-#ifdef Q_OS_UNIX
-    CabinetRig rig;
-    QCOMPARE(mkfifo(QFile::encodeName(KeptPicture::path()).constData(), 0600), 0);
-    rig.restart();
-    QVERIFY(!isPictureSelected(rig));
-    QVERIFY(QFile::remove(KeptPicture::path()));
-    QVERIFY(QDir().mkdir(KeptPicture::path()));
-    rig.restart();
-    QVERIFY(!isPictureSelected(rig));
-#else
-    QSKIP("There are no pipes in the file system");
-#endif
-}
-
-void TestTarnToolPicture::pictureButton_takesTheKeptPicture()
-{
-    const DialogAnswers answers;
-    CabinetRig rig({{QStringLiteral("tarnBackgroundSelect"), true}}, pictureFile(Qt::cyan));
-    FileDialog::setAnswer([](const QString &) -> QString { qFatal("nothing is to be asked"); });
-    rig.layOut();
-    rig.panel->getDrawer();
-    rig.click("radioPicture");
-    QCOMPARE(rig.drawer->m_bgPicturePath, KeptPicture::path());
-    QCOMPARE(cornerOf(rig), qRgb(0, 255, 255));
-    QVERIFY(rig.drawer->active);
 }
 
 void TestTarnToolPicture::pictureButton_withoutAKeptPictureAsksForOne()
@@ -192,6 +86,7 @@ void TestTarnToolPicture::chosenPicture_comesBackAfterARestart()
     m_folder->remove();
     rig.restart();
     QVERIFY(isPictureSelected(rig));
+    rig.layOut();
     QCOMPARE(rig.drawer->m_bgPicturePath, KeptPicture::path());
     QCOMPARE(cornerOf(rig), qRgb(0, 0, 255));
 }
@@ -257,6 +152,8 @@ void TestTarnToolPicture::cancelledFileDialog_changesNothing()
     const DialogAnswers answers;
     CabinetRig rig({}, pictureFile(Qt::cyan));
     rig.layOut();
+    showPanel(rig);
+    QTRY_VERIFY(thumbnailOf(rig) != 0);
     DialogAnswers::file(QString());
     rig.panel->getDrawer();
     rig.click("labelimage");
@@ -269,7 +166,8 @@ void TestTarnToolPicture::cancelledFileDialog_changesNothing()
 
 void TestTarnToolPicture::chosenFileThatIsNoPicture_isIgnored_data()
 {
-    whatIsKeptAndIsNoPicture_countsAsNone_data();
+    addWhatIsNoPicture();
+    QTest::newRow("cut off") << damagedPicture();
 }
 
 void TestTarnToolPicture::chosenFileThatIsNoPicture_isIgnored()
@@ -315,6 +213,25 @@ void TestTarnToolPicture::nextFileDialog_beginsAtTheChosenFile()
     QCOMPARE(starts, QStringList({QStringLiteral("."), path}));
 }
 
+void TestTarnToolPicture::chosenPicture_isDecodedOnce()
+{
+    const DialogAnswers answers;
+    CabinetRig rig({}, pictureFile(Qt::cyan));
+    rig.layOut();
+    DialogAnswers::file(file("blue.png", pictureFile(Qt::blue)));
+    const int decoded = decodedDuring([&] {
+        rig.click("labelimage");
+        showPanel(rig);
+        rig.panel->grab();
+        QCoreApplication::processEvents();
+        QCOMPARE(cornerOf(rig), qRgb(0, 0, 255));
+        QCOMPARE(thumbnailOf(rig), qRgb(0, 0, 255));
+        rig.canvas.resize(200, 150);
+        QCOMPARE(cornerOf(rig), qRgb(0, 0, 255));
+    });
+    QCOMPARE(decoded, 1);
+}
+
 void TestTarnToolPicture::solidButton_takesThePictureAway()
 {
     const CabinetRig rig({}, pictureFile(Qt::cyan));
@@ -333,8 +250,11 @@ void TestTarnToolPicture::changedSize_stretchesThePictureAgain()
 {
     CabinetRig rig({}, pictureFile(Qt::cyan));
     rig.layOut();
+    cornerOf(rig);
+    rig.canvas.removeEventFilter(rig.panel.get()); // the slot alone
     rig.canvas.resize(200, 150);
     rig.panel->slot_drawerSizeChanged(200, 150);
+    rig.canvas.grab();
     QCOMPARE(rig.drawer->m_bgPixmap.size(), QSize(200, 150));
     QVERIFY(!rig.isSaveDue());
 }
