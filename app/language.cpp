@@ -53,11 +53,16 @@ QString fileNameFor(int argc, const char *const *argv)
 
 bool install(const QString &fileName)
 {
-    // Never deleted, so that no text is lost on the way out; static, so that it is not leaked.
+    // Never deleted, so that no text is lost on the way out; static, so that they are not leaked.
     static auto *const translator = new QTranslator;
-    const QString path =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/ts/TarnTestTool_") + fileName;
-    return translator->load(path) && QCoreApplication::installTranslator(translator);
+    static auto *const toolkitTranslator = new QTranslator;
+    const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/ts/");
+    if (!translator->load(folder + QStringLiteral("TarnTestTool_") + fileName))
+        return false;
+    // First, so that it is asked last.
+    if (toolkitTranslator->load(folder + QStringLiteral("qtbase_") + fileName))
+        QCoreApplication::installTranslator(toolkitTranslator);
+    return QCoreApplication::installTranslator(translator);
 }
 
 } // namespace Language

@@ -2,8 +2,6 @@
 
 #include <QString>
 
-class QTranslator;
-
 // The interface languages and how the command line chooses one.
 namespace Language {
 
@@ -22,7 +20,8 @@ QString fileNameFor(int argc, const char *const *argv);
 
 // Loads the translation from "ts" beside the program and installs it. A file that is
 // missing or unreadable leaves the source texts, which are Chinese, and gives false.
-// The translator lives as long as the process.
+// Where Qt's own translation of the language stands beside it, Qt's dialogs and menus
+// speak the language too. The translators live as long as the process.
 bool install(const QString &fileName);
 
 } // namespace Language

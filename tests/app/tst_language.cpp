@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QTest>
 
 class TestLanguage : public QObject
@@ -17,7 +18,51 @@ private slots:
     void displayNames_areInTheirOwnSpelling();
     void missingTranslationFolder_installsNothing();
     void brokenTranslationFile_installsNothing();
+    void missingTranslation_leavesTheToolkitInItsOwnLanguage();
+    void missingToolkitTranslation_isNoHindrance();
+    void ourTexts_comeBeforeTheToolkits();
+    void toolkit_speaksTheLanguage_data();
+    void toolkit_speaksTheLanguage();
 };
+
+namespace {
+
+// The folder of the translations beside the program, as long as it is in scope.
+class TranslationFolder
+{
+public:
+    TranslationFolder()
+        : m_folder(QCoreApplication::applicationDirPath() + QStringLiteral("/ts"))
+    {
+        QDir().mkpath(m_folder.path());
+    }
+    ~TranslationFolder() { m_folder.removeRecursively(); }
+    Q_DISABLE_COPY(TranslationFolder)
+
+    void write(const char *name, const char *content) const
+    {
+        QFile file(m_folder.filePath(QString::fromLatin1(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    // Puts the program's file in, under another name if one is given.
+    void take(const char *name, const char *as = nullptr) const
+    {
+        QVERIFY(QFile::copy(QStringLiteral(TARN_TRANSLATIONS "/") + QString::fromLatin1(name),
+                            m_folder.filePath(QString::fromLatin1(as ? as : name))));
+    }
+
+private:
+    QDir m_folder;
+};
+
+QString ourText()
+{
+    return QCoreApplication::translate("MainWindow", "显示屏测试工具-Tarn");
+}
+
+} // namespace
 
 void TestLanguage::argument_choosesByItsFirstLetter_data()
 {
@@ -82,18 +127,58 @@ void TestLanguage::missingTranslationFolder_installsNothing()
 
 void TestLanguage::brokenTranslationFile_installsNothing()
 {
-    QDir folder(QCoreApplication::applicationDirPath());
-    QVERIFY(folder.mkdir(QStringLiteral("ts")));
-    QVERIFY(folder.cd(QStringLiteral("ts")));
-    QFile file(folder.filePath(QStringLiteral("TarnTestTool_en.qm")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("no translation at all");
-    file.close();
+    const TranslationFolder folder;
+    folder.write("TarnTestTool_en.qm", "no translation at all");
+    QVERIFY(!Language::install(QStringLiteral("en.qm")));
+}
 
-    const bool installed = Language::install(QStringLiteral("en.qm"));
+void TestLanguage::missingTranslation_leavesTheToolkitInItsOwnLanguage()
+{
+    const TranslationFolder folder;
+    folder.take("TarnTestTool_en.qm", "qtbase_en.qm");
+    QVERIFY(!Language::install(QStringLiteral("en.qm")));
+    QCOMPARE(ourText(), QStringLiteral("显示屏测试工具-Tarn"));
+}
 
-    QVERIFY(folder.removeRecursively());
-    QVERIFY(!installed);
+void TestLanguage::missingToolkitTranslation_isNoHindrance()
+{
+    const TranslationFolder folder;
+    folder.take("TarnTestTool_en.qm");
+    QVERIFY(Language::install(QStringLiteral("en.qm")));
+    QCOMPARE(ourText(), QStringLiteral("LED Screen Test Tool - Tarn"));
+}
+
+void TestLanguage::ourTexts_comeBeforeTheToolkits()
+{
+    const TranslationFolder folder;
+    folder.take("TarnTestTool_de.qm");
+    folder.take("TarnTestTool_fr.qm", "qtbase_de.qm");
+    QVERIFY(Language::install(QStringLiteral("de.qm")));
+    QCOMPARE(ourText(), QStringLiteral("LED-Bildschirm-Testwerkzeug - Tarn"));
+}
+
+void TestLanguage::toolkit_speaksTheLanguage_data()
+{
+    QTest::addColumn<QByteArray>("language");
+    for (const char *language : {"zh_CN", "fr", "de", "es", "ru"})
+        QTest::newRow(language) << QByteArray(language);
+}
+
+void TestLanguage::toolkit_speaksTheLanguage()
+{
+    QFETCH(const QByteArray, language);
+    const QByteArray toolkit = "qtbase_" + language + ".qm";
+    const QDir installed(QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    if (!installed.exists(QString::fromLatin1(toolkit)))
+        QSKIP("Qt's translations are not installed");
+    const TranslationFolder folder;
+    folder.take("TarnTestTool_" + language + ".qm");
+    folder.take(toolkit);
+
+    QVERIFY(Language::install(QString::fromLatin1(language) + QStringLiteral(".qm")));
+
+    const char *const title = "Select Color";
+    QVERIFY(QCoreApplication::translate("QColorDialog", title) != QLatin1String(title));
 }
 
 QTEST_GUILESS_MAIN(TestLanguage)
