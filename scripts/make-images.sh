@@ -1,7 +1,7 @@
 #!/bin/sh
 # Draws every image under resources/Image from the SVG sources in resources/svg.
 #
-# Needs rsvg-convert (librsvg), optipng and png2icns (icnsutils). The outputs are
+# Needs rsvg-convert (librsvg), optipng, icotool (icoutils) and png2icns (icnsutils). The outputs are
 # committed, so this runs only after a source or a colour below has changed; a
 # second run with the same tools writes the same bytes.
 #
@@ -12,7 +12,7 @@ root=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd)
 sources=$root/resources/svg
 images=${1:-$root/resources/Image}
 
-for tool in rsvg-convert optipng png2icns; do
+for tool in rsvg-convert optipng icotool png2icns; do
     command -v "$tool" >/dev/null || { echo "$0: $tool is not installed" >&2; exit 1; }
 done
 
@@ -135,42 +135,17 @@ logo()
     optipng -quiet -o5 -nx -strip all "$work/logo-$1.png"
 }
 
-# le BYTES NUMBER: NUMBER in little-endian order.
-le()
-{
-    bytes=$1
-    number=$2
-    while [ "$bytes" -gt 0 ]; do
-        # shellcheck disable=SC2059 # the format is the octal escape of one byte
-        printf "\\$(printf '%03o' $((number % 256)))"
-        number=$((number / 256))
-        bytes=$((bytes - 1))
-    done
-}
-
-# ico SIZE...: a Windows icon of PNG entries, written to standard output.
-ico()
-{
-    offset=$((6 + 16 * $#))
-    le 2 0; le 2 1; le 2 $#
-    for size; do
-        length=$(wc -c <"$work/logo-$size.png")
-        side=$((size % 256)) # 256 is written as 0
-        le 1 $side; le 1 $side; le 1 0; le 1 0; le 2 1; le 2 32; le 4 "$length"; le 4 $offset
-        offset=$((offset + length))
-    done
-    for size; do
-        cat "$work/logo-$size.png"
-    done
-}
-
 icons()
 {
     mkdir -p "$images/logo"
     for size in 16 24 32 48 64 128 256 512; do
         logo $size
     done
-    ico 16 24 32 48 64 128 256 >"$images/logo/TarnTestTool.ico"
+    set --
+    for size in 16 24 32 48 64 128 256; do
+        set -- "$@" --raw="$work/logo-$size.png"
+    done
+    icotool --create --output="$images/logo/TarnTestTool.ico" "$@"
     png2icns "$images/logo/TarnTestTool_Mac.icns" "$work/logo-16.png" "$work/logo-32.png" \
         "$work/logo-128.png" "$work/logo-256.png" "$work/logo-512.png" >"$work/icns.log" \
         || { cat "$work/icns.log" >&2; exit 1; }
