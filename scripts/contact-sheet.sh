@@ -37,21 +37,9 @@ picture() {
 }
 
 # new_window: waits for a window that was not there at the last "known_windows", prints its id.
-known_windows() { known=$(xprop -root _NET_CLIENT_LIST | grep -o '0x[0-9a-f]*'); }
-new_window() {
-  local id tries
-  for ((tries = 0; tries < 100; ++tries)); do
-    for id in $(xprop -root _NET_CLIENT_LIST | grep -o '0x[0-9a-f]*'); do
-      if ! grep -qx "$id" <<<"$known"; then
-        echo "$id"
-        return
-      fi
-    done
-    sleep 0.1
-  done
-  echo 'contact-sheet: a dialog does not open' >&2
-  return 1
-}
+known_windows() { client_windows >"$scratch/known"; }
+unknown_window() { client_windows | grep -m1 -vxFf "$scratch/known"; }
+new_window() { wait_for dialog unknown_window; }
 
 # place_of WINDOW: sets x and y.
 place_of() {

@@ -1,10 +1,12 @@
 # shellcheck shell=bash
-# The program on a virtual X server of its own, for the scripts that take pictures of it. Sourced
-# with the root of the checkout as the current folder, after the program has been built.
+# A virtual X server with a window manager, and the program on it, for the scripts that show the
+# program without a display or take pictures of it. Sourced with the root of the checkout as the
+# current folder, after the program has been built.
 #
 # shellcheck disable=SC2034  # The windows are for those that source this.
 
 scratch=$(mktemp -d)
+log=/dev/null
 server='' manager='' tool=''
 
 # end PROCESS: tells a process of ours to end and waits until it has.
@@ -22,16 +24,39 @@ end_all() {
 }
 trap end_all EXIT
 
-# start_desktop WIDTHxHEIGHT
+fail() {
+  echo "$0: $1; see $log" >&2
+  exit 1
+}
+
+# wait_for WHAT COMMAND...: repeats the command until it succeeds, for a minute at most.
+wait_for() {
+  local what=$1 deadline=$((SECONDS + 60))
+  shift
+  until "$@" 2>/dev/null; do
+    [ "$SECONDS" -lt "$deadline" ] || fail "no $what in time"
+    sleep 0.1
+  done
+}
+
+# client_windows: the ids of the windows that the manager knows.
+client_windows() { xprop -root _NET_CLIENT_LIST | grep -o '0x[0-9a-f]*'; }
+
+manager_is_up() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
+
+# start_desktop WIDTHxHEIGHT: its processes in sessions of their own, since Ctrl+C in the terminal
+# must reach nobody but the script, which sees to the order in which they end.
 start_desktop() {
   local number
   mkfifo "$scratch/display"
-  Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$scratch/display" 2>/dev/null &
+  setsid Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset \
+    3>"$scratch/display" >"$log" 2>&1 &
   server=$!
-  read -r number <"$scratch/display"
+  read -r -t 30 number <"$scratch/display" || fail 'the X server does not start'
   export DISPLAY=:$number QT_QPA_PLATFORM=xcb
-  openbox --sm-disable >/dev/null 2>&1 &
+  setsid openbox --sm-disable >>"$log" 2>&1 &
   manager=$!
+  wait_for 'window manager' manager_is_up
 }
 
 # start_tool LANGUAGE X Y: starts the program in a folder of its own, and so with its defaults,
