@@ -9,120 +9,24 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-#include <algorithm>
-#include <cctype>
-#include <cstring>
 #include <memory>
 
 namespace {
 
-bool isHexDigit(char character)
+// A colour as Qt writes it, the one serialized value of the program: the type's number, the kind
+// of the colour, and five channels of two bytes. A comma would begin another value, but for quotes.
+QString colorLine()
 {
-    return std::isxdigit(static_cast<unsigned char>(character)) != 0;
+    const QString byte = QStringLiteral(
+        R"re((?:\\(?:x[0-9a-f]{1,2}|0)(?![0-9A-Fa-f])|\\[abfnrtv"\\]|[ !#-\[\]-~]))re");
+    return QStringLiteral(R"re([\w%.-]+=("|(?!.*[,;]))@Variant\(\\0\\0\\0\\x43\\(?:0|x[1-5]))re")
+           + QStringLiteral(R"re((?![0-9A-Fa-f])%1{10}\)\1)re").arg(byte);
 }
 
-bool isOctalDigit(char character)
+// No serialized value and no escape, which may hide one, and no quotes that reach into the next.
+QString plainLine()
 {
-    return character >= '0' && character <= '7';
-}
-
-int digitValue(char digit)
-{
-    const int letter = std::tolower(static_cast<unsigned char>(digit));
-    return letter < 'a' ? letter - '0' : letter - 'a' + 10;
-}
-
-// One character of INI text as its reader takes it: plain, or an escape.
-struct Character
-{
-    int value; // below 0 when nothing comes of it
-    int end; // of it, in the text
-    bool isEscaped;
-};
-
-Character characterAt(const QByteArray &text, int at)
-{
-    if (text.at(at) != '\\')
-        return {static_cast<uchar>(text.at(at)), at + 1, false};
-    const bool isHex = text.mid(at + 1, 1) == "x";
-    const int start = isHex ? at + 2 : at + 1;
-    int end = start;
-    quint16 number = 0; // the reader keeps the lowest 16 bits of a number of any length
-    while (end < text.size() && (isHex ? isHexDigit : isOctalDigit)(text.at(end)))
-        number = static_cast<quint16>(number * (isHex ? 16 : 8) + digitValue(text.at(end++)));
-    if (end > start)
-        return {number, end, true};
-    static const QByteArray codes = QByteArrayLiteral("abfnrtv\"?'\\");
-    static const QByteArray meanings = QByteArrayLiteral("\a\b\f\n\r\t\v\"?'\\");
-    const int code = isHex || start == text.size() ? -1 : codes.indexOf(text.at(start));
-    return {code < 0 ? -1 : meanings.at(code), qMin(start + (isHex ? 0 : 1), text.size()), true};
-}
-
-// The one serialized value that the program writes: the type's number, the kind of the colour,
-// and five 16-bit channels.
-bool isColor(const QByteArray &bytes)
-{
-    static const QByteArray type("\0\0\0\x43", 4);
-    constexpr int colorKinds = 6;
-    return bytes.startsWith(type) && bytes.size() == type.size() + 1 + 5 * 2
-           && static_cast<uchar>(bytes.at(type.size())) < colorKinds;
-}
-
-// Whether the line is a key with the value of a colour and nothing else, spelled as Qt spells it.
-bool isColorLine(const QByteArray &line)
-{
-    static const QRegularExpression form(QStringLiteral(
-        R"re(^[ \t]*[\w%.-]+[ \t]*=[ \t]*("?)@Variant\(((?:[ !#-\[\]-~]|\\[ -~])*)\)\1[ \t]*\r?$)re"));
-    const QRegularExpressionMatch match = form.match(QString::fromLatin1(line));
-    if (!match.hasMatch())
-        return false;
-    const QByteArray spelled = match.captured(2).toLatin1();
-    const bool isQuoted = !match.captured(1).isEmpty();
-    QByteArray bytes;
-    for (int at = 0; at < spelled.size();) {
-        const Character character = characterAt(spelled, at);
-        const bool isSeparator = !character.isEscaped && std::strchr(",;", character.value);
-        if (character.value < 0 || character.value > 0xff || (isSeparator && !isQuoted))
-            return false;
-        bytes += static_cast<char>(character.value);
-        at = character.end;
-    }
-    return isColor(bytes);
-}
-
-// Whether the line may begin a serialized value: "@Variant(" or "@DateTime(". What the reader
-// leaves out in between, such as quotes, is not looked into.
-bool hasSerialized(const QByteArray &line)
-{
-    for (int at = 0; at < line.size();) {
-        const Character character = characterAt(line, at);
-        at = character.end;
-        if (character.value != '@')
-            continue;
-        const char next = at < line.size() ? line.at(at) : '\0';
-        const bool isOrdinary = next > ' ' && next < '\x7f' && !std::strchr("\"\\,;VD", next);
-        if (!isOrdinary)
-            return true;
-    }
-    return false;
-}
-
-// Whether the line ends where it seems to: no quotes and no backslash reach over its end.
-bool isComplete(const QByteArray &line)
-{
-    bool isQuoted = false;
-    for (int at = 0; at < line.size(); ++at) {
-        const char character = line.at(at);
-        if (character == '\\')
-            ++at;
-        else if (character == '"')
-            isQuoted = !isQuoted;
-        else if (character == '\r' && at != line.size() - 1)
-            return false;
-        if (at >= line.size() || (character == '\\' && line.at(at) == '\r'))
-            return false;
-    }
-    return !isQuoted;
+    return QStringLiteral(R"re((?:[^@\\"\r]++|"[^@\\"\r]*+")*+)re");
 }
 
 QByteArray read(const QString &path)
@@ -159,14 +63,14 @@ QSettings *openIni(const QString &path, QObject *parent)
 
 } // namespace
 
-QByteArray SettingsFile::withoutSerialized(const QByteArray &text)
+QByteArray SettingsFile::harmlessLines(const QByteArray &text)
 {
-    if (!hasSerialized(text))
-        return text;
+    static const QRegularExpression harmless(
+        QStringLiteral("^(?:%1|%2)\r?$").arg(colorLine(), plainLine()));
     QByteArray kept;
     const QList<QByteArray> lines = text.split('\n');
     for (const QByteArray &line : lines) {
-        if (isColorLine(line) || (isComplete(line) && !hasSerialized(line)))
+        if (harmless.match(QLatin1String(line.constData(), line.size())).hasMatch())
             kept += line + '\n';
     }
     kept.chop(1); // after the last line there was none
@@ -176,7 +80,7 @@ QByteArray SettingsFile::withoutSerialized(const QByteArray &text)
 QSettings *SettingsFile::open(const QString &path, QObject *parent)
 {
     const QByteArray text = read(path);
-    const QByteArray safe = withoutSerialized(text);
+    const QByteArray safe = harmlessLines(text);
     if (isPassable(path) && (safe == text || write(path, safe)))
         return openIni(path, parent);
 

@@ -11,13 +11,13 @@ class QString;
 namespace SettingsFile {
 
 // The largest file that is read, in bytes; settings need a few kilobytes.
-constexpr qint64 maximumSize = 64 << 20;
+constexpr qint64 maximumSize = 8 << 20;
 
-// The INI text without the lines that hold a serialized value ("@Variant(...)"), except those
-// of a colour: Qt trusts the lengths and depths in them, and one bad byte ends the program.
-// Lines that reach into the next one go with them, since the reader would join what is left.
-// Text without any such value comes back as it is.
-QByteArray withoutSerialized(const QByteArray &text);
+// The lines of the INI text that the reader survives. Those with a serialized value
+// ("@Variant(...)") go, except colours: Qt trusts the lengths and depths in them, and one bad
+// byte ends the program. So do those with an escape or open quotes, which may hide such a value
+// or join a line with the next; the program writes none.
+QByteArray harmlessLines(const QByteArray &text);
 
 // Opens the file in INI format and UTF-8, whatever stands in its place; the caller owns the
 // settings, or `parent` does. What the reader would not survive is taken out on the disk first.

@@ -166,6 +166,8 @@ QByteArray HostileFile::value()
     case 4:
         return serialized();
     default: // a value that it could really have
+        if (below(3) == 0)
+            return R"(@Variant(\0\0\0\x43\x1\xff\xff\x12\x12\"\"\0\0\0\0))";
         return below(2) ? QByteArray::number(below(300)) : QByteArray(below(2) ? "true" : "false");
     }
 }
