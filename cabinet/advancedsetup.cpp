@@ -16,7 +16,6 @@
 
 namespace {
 
-using UX::Widgets::TitleBar;
 using Item = AdvancedValue::Item;
 
 constexpr QSize dialogSize(360, 220);
@@ -62,7 +61,7 @@ void addPair(QGridLayout *grid, int row, int pair, QLabel *caption, QWidget *con
 } // namespace
 
 AdvancedSetup::AdvancedSetup(QSettings *settings, ScrGrid *drawer, QWidget *parent)
-    : UX::Widgets::FramelessDialog(parent)
+    : SettingsDialog("AdvancedSetup", dialogSize, parent)
     , m_settings(settings)
     , m_drawer(drawer)
 {
@@ -78,11 +77,8 @@ AdvancedSetup::~AdvancedSetup() = default;
 
 void AdvancedSetup::initFrame()
 {
-    setObjectName(QStringLiteral("AdvancedSetup"));
-    dressDialog();
     m_titleBar->setStyleSheet(QStringLiteral("background-color:rgb(48,50,56)"));
     setWindowModality(Qt::WindowModal);
-    setFixedSize(dialogSize);
     setCancelButtonVisible(false);
     m_okButton->setAutoDefault(false);
 }
@@ -101,18 +97,15 @@ void AdvancedSetup::initLayout()
     }
     m_shapeCombo = new QComboBox;
     m_shapeCombo->setObjectName(QStringLiteral("comboFontShape"));
-    auto *split = new QLabel;
-    split->setObjectName(QStringLiteral("ContentSplitLabel"));
-    split->setFixedHeight(2);
 
     auto *column = new QVBoxLayout;
     column->setContentsMargins(contentMargin, contentMargin, contentMargin, contentMargin);
     column->setSpacing(rowSpacing);
     column->addWidget(m_fontHeader);
     column->addLayout(layOutFont());
-    column->addWidget(createRule());
+    column->addWidget(createSeparator());
     column->addLayout(layOutNumbersAndLines());
-    column->addWidget(split);
+    column->addWidget(createSeparator("ContentSplitLabel"));
     setLayout(column);
 }
 
@@ -191,8 +184,6 @@ void AdvancedSetup::uiInit()
 void AdvancedSetup::updateLanguage()
 {
     setWindowTitle(tr("高级设置"));
-    m_titleBar->titleButton(TitleBar::CloseButton)->setToolTip(tr("关闭"));
-    m_okButton->setText(tr("确定"));
     m_fontHeader->setText(tr("字体"));
     const std::pair<Item, QString> captions[] = {
         {Item::FontSize, tr("大小")},

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "advancedvalue.h"
-#include "framelessdialog.h"
+#include "settingsdialog.h"
 
 #include <array>
 
@@ -13,7 +13,7 @@ class QSpinBox;
 
 // The advanced settings of the cabinet layout: the numbers' font and first values, and the
 // widths of the lines. Each change is stored and shows on the test window at once.
-class AdvancedSetup : public UX::Widgets::FramelessDialog
+class AdvancedSetup : public SettingsDialog
 {
     Q_OBJECT
 

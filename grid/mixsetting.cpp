@@ -7,7 +7,6 @@
 #include "griddrawer.h"
 #include "sliderspinboxpair.h"
 #include "swatch.h"
-#include "titlebar.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -23,7 +22,6 @@
 namespace {
 
 using UX::Widgets::FramelessMessageBox;
-using UX::Widgets::TitleBar;
 
 constexpr int thinnest = 1; // of the lines, in pixels
 constexpr int thickest = 5;
@@ -72,11 +70,12 @@ QSpinBox *createSpinBox(const char *name)
 } // namespace
 
 MixSetting::MixSetting(GridDrawer *drawer_, QSettings *settings_, QWidget *parent)
-    : UX::Widgets::FramelessDialog(parent)
+    : SettingsDialog("MixSetting", dialogSize, parent)
     , drawer(drawer_)
     , settings(settings_)
 {
-    initFrame();
+    setOKButtonVisible(false);
+    setCancelButtonVisible(false);
     initLayout();
     initSelected();
     updateLanguage();
@@ -84,15 +83,6 @@ MixSetting::MixSetting(GridDrawer *drawer_, QSettings *settings_, QWidget *paren
 }
 
 MixSetting::~MixSetting() = default;
-
-void MixSetting::initFrame()
-{
-    setObjectName(QStringLiteral("MixSetting"));
-    dressDialog();
-    setFixedSize(dialogSize);
-    setOKButtonVisible(false);
-    setCancelButtonVisible(false);
-}
 
 void MixSetting::initLayout()
 {
@@ -104,23 +94,20 @@ void MixSetting::initLayout()
     buttons->addWidget(m_allButton);
     buttons->addWidget(m_clearButton);
     buttons->addStretch();
-    auto *split = new QLabel;
-    split->setObjectName(QStringLiteral("ContentSplitLabel"));
-    split->setFixedHeight(2);
 
     auto *column = new QVBoxLayout;
     column->setContentsMargins(contentMargins);
     column->setSpacing(sectionSpacing);
     column->addWidget(m_gridHeader);
-    column->addWidget(createRule());
+    column->addWidget(createSeparator());
     column->addLayout(layOutGridControls());
     column->addStretch();
     column->addWidget(m_mixHeader);
-    column->addWidget(createRule());
+    column->addWidget(createSeparator());
     column->addLayout(layOutMixControls());
     column->addLayout(buttons);
     column->addStretch();
-    column->addWidget(split);
+    column->addWidget(createSeparator("ContentSplitLabel"));
     column->addWidget(m_confirmButton, 0, Qt::AlignHCenter);
     setLayout(column);
     m_confirmButton->setDefault(true);
@@ -255,7 +242,6 @@ void MixSetting::checkAll(bool checked)
 void MixSetting::updateLanguage()
 {
     setWindowTitle(tr("高级设置"));
-    m_titleBar->titleButton(TitleBar::CloseButton)->setToolTip(tr("关闭"));
     m_gridHeader->setText(tr("网格设置"));
     m_mixHeader->setText(tr("混测设置"));
     CommonHelper::setQLabelText(m_colorLabel, tr("背景色"));
@@ -323,7 +309,6 @@ void MixSetting::warnOfEmptySelection()
     m_warning->setAttribute(Qt::WA_DeleteOnClose);
     m_warning->setModal(false);
     QPushButton *ok = m_warning->button(QMessageBox::Ok);
-    dressButton(ok);
     ok->setStyleSheet(styleSheet());
     ok->setText(tr("确定"));
     m_warning->resize(warningSize);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framelessdialog.h"
 #include "mixselection.h"
+#include "settingsdialog.h"
 
 #include <QPointer>
 
@@ -22,7 +22,7 @@ class FramelessMessageBox;
 
 // The advanced settings of the grid test: background, width and spacing of the lines, which
 // take effect at once, and what the merged test shows, which is stored on confirmation.
-class MixSetting : public UX::Widgets::FramelessDialog
+class MixSetting : public SettingsDialog
 {
     Q_OBJECT
 
@@ -60,7 +60,6 @@ public slots:
     void slot_spinBoxDistanceValueChanged(int distance);
 
 private:
-    void initFrame();
     void initLayout();
     void initSlots();
     void createGridControls();

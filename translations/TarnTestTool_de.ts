@@ -20,14 +20,6 @@
         <translation>Erweitert</translation>
     </message>
     <message>
-        <source>关闭</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>确定</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>字体</source>
         <translation>Schrift</translation>
     </message>
@@ -259,10 +251,6 @@
     <message>
         <source>高级设置</source>
         <translation>Erweitert</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Schließen</translation>
     </message>
     <message>
         <source>网格设置</source>
@@ -613,29 +601,6 @@
     <message>
         <source>取消</source>
         <translation>Abbrechen</translation>
-    </message>
-</context>
-<context>
-    <name>UX::Widgets::FramelessMessageBox</name>
-    <message>
-        <source>确定</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>取消</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>是</source>
-        <translation>Ja</translation>
-    </message>
-    <message>
-        <source>否</source>
-        <translation>Nein</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Schließen</translation>
     </message>
 </context>
 <context>

@@ -20,14 +20,6 @@
         <translation>Avanzado</translation>
     </message>
     <message>
-        <source>关闭</source>
-        <translation>Cerrar</translation>
-    </message>
-    <message>
-        <source>确定</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
         <source>字体</source>
         <translation>Fuente</translation>
     </message>
@@ -259,10 +251,6 @@
     <message>
         <source>高级设置</source>
         <translation>Avanzado</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Cerrar</translation>
     </message>
     <message>
         <source>网格设置</source>
@@ -613,29 +601,6 @@
     <message>
         <source>取消</source>
         <translation>Cancelar</translation>
-    </message>
-</context>
-<context>
-    <name>UX::Widgets::FramelessMessageBox</name>
-    <message>
-        <source>确定</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
-        <source>取消</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>是</source>
-        <translation>Sí</translation>
-    </message>
-    <message>
-        <source>否</source>
-        <translation>No</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Cerrar</translation>
     </message>
 </context>
 <context>

@@ -20,14 +20,6 @@
         <translation>Avancé</translation>
     </message>
     <message>
-        <source>关闭</source>
-        <translation>Fermer</translation>
-    </message>
-    <message>
-        <source>确定</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>字体</source>
         <translation>Police</translation>
     </message>
@@ -259,10 +251,6 @@
     <message>
         <source>高级设置</source>
         <translation>Avancé</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Fermer</translation>
     </message>
     <message>
         <source>网格设置</source>
@@ -613,29 +601,6 @@
     <message>
         <source>取消</source>
         <translation>Annuler</translation>
-    </message>
-</context>
-<context>
-    <name>UX::Widgets::FramelessMessageBox</name>
-    <message>
-        <source>确定</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>取消</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>是</source>
-        <translation>Oui</translation>
-    </message>
-    <message>
-        <source>否</source>
-        <translation>Non</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Fermer</translation>
     </message>
 </context>
 <context>

@@ -20,14 +20,6 @@
         <translation>Дополнительно</translation>
     </message>
     <message>
-        <source>关闭</source>
-        <translation>Закрыть</translation>
-    </message>
-    <message>
-        <source>确定</source>
-        <translation>ОК</translation>
-    </message>
-    <message>
         <source>字体</source>
         <translation>Шрифт</translation>
     </message>
@@ -259,10 +251,6 @@
     <message>
         <source>高级设置</source>
         <translation>Дополнительно</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Закрыть</translation>
     </message>
     <message>
         <source>网格设置</source>
@@ -613,29 +601,6 @@
     <message>
         <source>取消</source>
         <translation>Отмена</translation>
-    </message>
-</context>
-<context>
-    <name>UX::Widgets::FramelessMessageBox</name>
-    <message>
-        <source>确定</source>
-        <translation>ОК</translation>
-    </message>
-    <message>
-        <source>取消</source>
-        <translation>Отмена</translation>
-    </message>
-    <message>
-        <source>是</source>
-        <translation>Да</translation>
-    </message>
-    <message>
-        <source>否</source>
-        <translation>Нет</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Закрыть</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,6 @@
 #include "appmainwindow.h"
 
 #include "titlebar.h"
-#include "windowframe.h"
 
 namespace UX::Utils {
 
@@ -15,33 +14,18 @@ constexpr Qt::WindowFlags framelessMainWindow =
 
 AppMainWindow::AppMainWindow(QWidget *parent)
     : QMainWindow(parent, framelessMainWindow)
-    , m_frame(new Widgets::WindowFrame(this))
+    , m_titleBar(new Widgets::TitleBar(this))
     , m_dragger(this)
 {
-    QMainWindow::setCentralWidget(m_frame);
-    titleBar()->installEventFilter(this);
+    setMenuWidget(m_titleBar);
+    m_titleBar->installEventFilter(this);
 }
 
 AppMainWindow::~AppMainWindow() = default;
 
-Widgets::TitleBar *AppMainWindow::titleBar() const
-{
-    return m_frame->titleBar();
-}
-
-QWidget *AppMainWindow::centralWidget() const
-{
-    return m_frame->content();
-}
-
-void AppMainWindow::setCentralWidget(QWidget *widget)
-{
-    m_frame->setContent(widget);
-}
-
 bool AppMainWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == titleBar() && m_dragger.handleEvent(event))
+    if (watched == m_titleBar && m_dragger.handleEvent(event))
         return true;
     return QMainWindow::eventFilter(watched, event);
 }

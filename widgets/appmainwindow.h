@@ -6,7 +6,6 @@
 
 namespace UX::Widgets {
 class TitleBar;
-class WindowFrame;
 } // namespace UX::Widgets
 
 namespace UX::Utils {
@@ -20,18 +19,13 @@ public:
     explicit AppMainWindow(QWidget *parent = nullptr);
     ~AppMainWindow() override;
 
-    Widgets::TitleBar *titleBar() const;
-
-    // What stands below the title bar; as the functions of QMainWindow otherwise, which they hide
-    // so that a generated form fills the window without knowing of the frame.
-    QWidget *centralWidget() const;
-    void setCentralWidget(QWidget *widget);
+    Widgets::TitleBar *titleBar() const { return m_titleBar; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    Widgets::WindowFrame *const m_frame;
+    Widgets::TitleBar *const m_titleBar;
     Widgets::WindowDragger m_dragger;
 };
 

@@ -1,14 +1,10 @@
 #include "framelessdialog.h"
 
-#include "commonhelper.h"
 #include "screenarea.h"
 #include "titlebar.h"
-#include "windowframe.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QIcon>
-#include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -47,7 +43,6 @@ FramelessDialog::FramelessDialog(QWidget *parent, Qt::WindowFlags f)
     setPalette(dark);
     buildFrame();
     retranslate();
-    m_titleBar->installEventFilter(this);
 }
 
 FramelessDialog::~FramelessDialog()
@@ -57,21 +52,23 @@ FramelessDialog::~FramelessDialog()
 
 void FramelessDialog::buildFrame()
 {
-    auto *frame = new WindowFrame(this);
-    m_titleBar = frame->titleBar();
+    m_titleBar = new TitleBar(this);
+    m_titleBar->setTitleButtonVisible(TitleBar::LogoButton, false);
+    m_titleBar->installEventFilter(this);
 
-    auto *body = new QWidget(frame);
-    m_content = new QWidget(body);
+    auto *frame = new QFrame(this);
+    frame->setProperty("isFramelessCentralWidget", true);
+    m_content = new QWidget(frame);
     m_buttonRow = createButtonRow();
-    auto *bodyColumn = new QVBoxLayout(body);
-    bodyColumn->setContentsMargins(0, 0, 0, 0);
-    bodyColumn->setSpacing(0);
-    bodyColumn->addWidget(m_content, 1);
-    bodyColumn->addWidget(m_buttonRow);
-    frame->setContent(body);
+    auto *body = new QVBoxLayout(frame);
+    body->setContentsMargins(0, 0, 0, 0);
+    body->setSpacing(0);
+    body->addWidget(m_content, 1);
+    body->addWidget(m_buttonRow);
 
     auto *column = new QVBoxLayout;
     column->setContentsMargins(0, 0, 0, 0);
+    column->setMenuBar(m_titleBar);
     column->addWidget(frame);
     QDialog::setLayout(column);
 }
@@ -95,25 +92,6 @@ QWidget *FramelessDialog::createButtonRow()
     connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     return row;
-}
-
-void FramelessDialog::dressDialog()
-{
-    m_defaultBackgroundColor = QColor(backgroundColor);
-    setStyleSheet(CommonHelper::setStyle(QStringLiteral(":/qss/global_style.css")));
-    m_titleBar->setTitleButtonVisible(TitleBar::LogoButton, false);
-    m_titleBar->setTitleButtonIcon(
-        TitleBar::CloseButton,
-        QIcon(QStringLiteral(":/Resource/Image/titleBar/btn_close_normal@2x.png")));
-}
-
-QLabel *FramelessDialog::createRule()
-{
-    auto *rule = new QLabel;
-    rule->setProperty("class", QStringLiteral("SplitLine"));
-    rule->setFixedHeight(2);
-    rule->setStyleSheet(QStringLiteral("background:rgb(75,80,87);"));
-    return rule;
 }
 
 void FramelessDialog::dressButton(QAbstractButton *button)

@@ -7,14 +7,14 @@
 #include <QPointer>
 
 class QAbstractButton;
-class QLabel;
 class QPushButton;
 
 namespace UX::Widgets {
 
 class TitleBar;
 
-// A dialog without a system frame: its own title bar, the subclass's content, and a button row.
+// A dialog without a system frame: its own title bar with nothing but the title and the close
+// button, the subclass's content, and a button row.
 class FramelessDialog : public QDialog
 {
     Q_OBJECT
@@ -48,13 +48,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
 
-    // The look of the program's own dialogs: the dark background, the style sheet, and a title
-    // bar with nothing but the title and the close button.
-    void dressDialog();
     // Gives button the look of the buttons in the row.
     static void dressButton(QAbstractButton *button);
-    // A thin line between two groups of controls.
-    static QLabel *createRule();
 
     // All owned by the dialog and never null.
     TitleBar *m_titleBar = nullptr;

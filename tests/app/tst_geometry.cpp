@@ -8,6 +8,7 @@
 #include "shippedtranslation.h"
 #include "testsettings.h"
 #include "textwidth.h"
+#include "titlebar.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -34,6 +35,7 @@ class TestGeometry : public QObject
 private slots:
     void initTestCase();
 
+    void titleBar_standsAboveTheMarkedFrame();
     void controlsAndTexts_haveTheirRoom_data();
     void controlsAndTexts_haveTheirRoom();
     void faults_areFound_data();
@@ -187,6 +189,15 @@ QStringList TestGeometry::faultsOfMixSetting(bool warning)
 void TestGeometry::initTestCase()
 {
     m_rig.start();
+}
+
+void TestGeometry::titleBar_standsAboveTheMarkedFrame()
+{
+    const auto *frame = qobject_cast<QFrame *>(m_rig.window().centralWidget());
+    QVERIFY(frame);
+    QVERIFY(frame->property("isFramelessCentralWidget").toBool());
+    QCOMPARE(frame->geometry(), QRect(0, 28, 585, 217));
+    QCOMPARE(m_rig.window().titleBar()->geometry(), QRect(0, 0, 585, 28));
 }
 
 void TestGeometry::controlsAndTexts_haveTheirRoom_data()

@@ -352,6 +352,7 @@ void TestAdvancedSetup::language_isAppliedToEveryText()
         words[source] = QStringLiteral("w%1").arg(words.size());
     const Dictionary dictionary(words);
     rig.dialog().updateLanguage();
+    QCoreApplication::sendPostedEvents(); // the frame hears of the language by itself
     for (const QString &source : sources) {
         QVERIFY2(!texts().contains(source), qPrintable(source));
         QVERIFY2(texts().contains(words.value(source)), qPrintable(source));

@@ -312,6 +312,7 @@ void TestMixSetting::language_isAppliedToEveryText()
     translated.sort();
     const Dictionary dictionary(words);
     rig.dialog.updateLanguage();
+    QCoreApplication::sendPostedEvents(); // the frame hears of the language by itself
     QCOMPARE(texts(), translated);
     QCOMPARE(rig.dialog.findChild<UX::Widgets::TitleBar *>()->titleButton(4)->toolTip(),
              QStringLiteral("Close"));

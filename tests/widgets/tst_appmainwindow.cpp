@@ -1,9 +1,7 @@
 #include "appmainwindow.h"
 #include "titlebar.h"
 
-#include <QFrame>
 #include <QLabel>
-#include <QPointer>
 #include <QWindow>
 #include <QtTest>
 
@@ -23,11 +21,8 @@ class TestAppMainWindow : public QObject
 
 private slots:
     void window_isFramelessAndCanBeMinimised();
-    void frame_isMarkedForTheStyleSheet();
     void windowTitle_showsInTheTitleBar();
-    void centralWidget_isWhatWasSet();
     void centralWidget_fillsTheWindowBelowTheTitleBar();
-    void newCentralWidget_replacesTheOld();
     void closeButton_closes();
     void minimiseButton_minimises();
     void dragOnTheTitleBar_movesTheWindow_data();
@@ -47,15 +42,6 @@ void TestAppMainWindow::window_isFramelessAndCanBeMinimised()
     QVERIFY(window.isWindow());
 }
 
-void TestAppMainWindow::frame_isMarkedForTheStyleSheet()
-{
-    AppMainWindow window;
-    auto *frame = qobject_cast<QFrame *>(window.QMainWindow::centralWidget());
-    QVERIFY(frame);
-    QCOMPARE(frame->property("isFramelessCentralWidget"), QVariant(true));
-    QVERIFY(frame->isAncestorOf(window.titleBar()));
-}
-
 void TestAppMainWindow::windowTitle_showsInTheTitleBar()
 {
     AppMainWindow window;
@@ -64,16 +50,6 @@ void TestAppMainWindow::windowTitle_showsInTheTitleBar()
     window.show();
     auto *label = window.titleBar()->findChild<QLabel *>();
     QCOMPARE(label->text(), QStringLiteral("显示屏测试工具-Tarn"));
-}
-
-void TestAppMainWindow::centralWidget_isWhatWasSet()
-{
-    AppMainWindow window;
-    QCOMPARE(window.centralWidget(), nullptr);
-    auto *content = new QWidget(&window);
-    window.setCentralWidget(content);
-    QCOMPARE(window.centralWidget(), content);
-    QVERIFY(window.isAncestorOf(content));
 }
 
 void TestAppMainWindow::centralWidget_fillsTheWindowBelowTheTitleBar()
@@ -88,21 +64,6 @@ void TestAppMainWindow::centralWidget_fillsTheWindowBelowTheTitleBar()
     QCOMPARE(below, QRect(0, titleBarHeight, 585, 245 - titleBarHeight));
     const QRect bar(window.titleBar()->mapTo(&window, QPoint(0, 0)), window.titleBar()->size());
     QCOMPARE(bar, QRect(0, 0, 585, titleBarHeight));
-}
-
-void TestAppMainWindow::newCentralWidget_replacesTheOld()
-{
-    AppMainWindow window;
-    window.show();
-    QPointer<QWidget> old = new QWidget;
-    window.setCentralWidget(old);
-    window.setCentralWidget(old);
-    auto *content = new QWidget;
-    window.setCentralWidget(content);
-
-    QCOMPARE(window.centralWidget(), content);
-    QTRY_VERIFY(content->isVisible());
-    QTRY_VERIFY(old.isNull());
 }
 
 void TestAppMainWindow::closeButton_closes()
