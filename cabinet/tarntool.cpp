@@ -68,7 +68,7 @@ std::array<TarnTool::ColorChoice, TarnTool::colorCount> TarnTool::makeColors() c
 // Restoring is not a change by the operator and writes nothing.
 void TarnTool::uiInit()
 {
-    const QScopedValueRollback<bool> hold(m_restoring, true);
+    const auto hold = m_saveSoon->hold();
     dataInit();
     ControlInit();
     initTarnStatus();
@@ -150,7 +150,7 @@ void TarnTool::showChange()
 
 void TarnTool::saveSoon()
 {
-    if (m_restoring)
+    if (m_saveSoon->isHeld())
         return;
     m_userChanged = true;
     m_saveSoon->schedule();

@@ -143,5 +143,4 @@ private:
     QString m_lastPictureDir; // where the next file dialog begins
     QPointer<AdvancedSetup> m_setup; // while it is open
     bool m_thumbnailDue = false; // of the kept picture
-    bool m_restoring = false; // what changes now is no choice of the operator
 };

@@ -4,6 +4,7 @@
 
 #include "advancedvalue.h"
 #include "filedialog.h"
+#include "savesoon.h"
 #include "scrgrid.h"
 #include "settingsrules.h"
 #include "swatch.h"
@@ -57,7 +58,7 @@ void TarnTool::initTarnStatus()
 {
     if (!m_settings)
         return;
-    const QScopedValueRollback<bool> hold(m_restoring, true);
+    const auto hold = m_saveSoon->hold();
     restoreCounts();
     for (const AdvancedValue &value : advancedValues)
         *m_drawer.*value.field = value.stored(*m_settings).value_or(*m_drawer.*value.field);

@@ -10,7 +10,6 @@
 #include "swatchrow.h"
 #include "testcolor.h"
 
-#include <QScopedValueRollback>
 #include <QSettings>
 
 #include <limits>
@@ -114,7 +113,7 @@ void GradualChangeCtrlWidget::initGradualChangeStatus()
 {
     if (!m_settings)
         return;
-    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const auto hold = m_saveSoon->hold();
     const QColor color = storedColor(*m_settings);
     slot_changeSelectedGradualColor(color);
     m_colorIndex = CommonHelper::getColorIndex(color);
@@ -217,8 +216,7 @@ void GradualChangeCtrlWidget::selectColor(int index)
 void GradualChangeCtrlWidget::apply()
 {
     m_drawer.slot_gradualChangeColor(m_level, m_color);
-    if (!m_savingHeld)
-        m_saveSoon->schedule();
+    m_saveSoon->schedule();
 }
 
 void GradualChangeCtrlWidget::slot_updateSelectedColor()

@@ -87,5 +87,4 @@ private:
     const std::array<QPushButton *, levelCount> m_levelButtons;
     SwatchRow *m_swatches;
     SaveSoon *m_saveSoon;
-    bool m_savingHeld = false; // while controls change without the operator
 };

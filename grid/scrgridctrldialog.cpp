@@ -11,7 +11,6 @@
 #include "testcolor.h"
 
 #include <QKeyEvent>
-#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <initializer_list>
@@ -127,7 +126,7 @@ void ScrGridCtrlDialog::initOldTestSlots()
 // The speed comes first: a slider without a range would start the timer for speed 0.
 void ScrGridCtrlDialog::initCtrls()
 {
-    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const auto hold = m_saveSoon->hold();
     SliderSpinBoxPair::setRange(ui->hScrollBarSpeed, ui->labelSpeed, minimumSpeed, maximumSpeed);
     SliderSpinBoxPair::setRange(ui->hScrollBarGrayLevel, ui->labelGrayLevel, 0, maximumGrey);
     for (QSpinBox *spinBox : {ui->labelSpeed, ui->labelGrayLevel})
@@ -177,7 +176,7 @@ void ScrGridCtrlDialog::selectColor(int index)
 {
     colorIndex = static_cast<qint16>(index);
     const QColor color = TestColor::at(index);
-    if (settings && !m_savingHeld)
+    if (settings && !m_saveSoon->isHeld())
         SettingsRules::store(*settings, SharedKey::baseColor, color);
     emit signal_colorChanged(color);
     enableAdvanceSettings();
@@ -189,7 +188,7 @@ void ScrGridCtrlDialog::slot_changeSelectedGridColor(const QColor &color)
     if (!button)
         return;
     button->setChecked(true);
-    if (settings && !m_savingHeld)
+    if (settings && !m_saveSoon->isHeld())
         SettingsRules::store(*settings, SharedKey::baseColor, color);
 }
 

@@ -153,7 +153,6 @@ private:
     void restoreFamilies();
     void restoreColor();
     bool isPaused() const;
-    void saveSoon();
 
     void selectColor(int index);
     void toggleFamily(int index);
@@ -205,5 +204,4 @@ private:
     SwatchRow *m_swatches;
     SaveSoon *m_saveSoon;
     bool m_runningShown = false; // by the text of the start/pause button
-    bool m_savingHeld = false; // while controls change without the operator
 };

@@ -3,10 +3,9 @@
 #include "ui_scrtestdialog.h"
 
 #include "gridkeys.h"
+#include "savesoon.h"
 #include "scrgridctrldialog.h"
 #include "testcolor.h"
-
-#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -140,7 +139,7 @@ void ScrGridCtrlDialog::canclePageUpDownSelect()
 // Not a change by the operator: what it leads to is saved with the next one.
 void ScrGridCtrlDialog::gridBtnClick()
 {
-    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const auto hold = m_saveSoon->hold();
     for (const Family &family : m_families) {
         if (*family.pressed) {
             family.button->click();

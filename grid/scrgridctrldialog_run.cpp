@@ -6,10 +6,10 @@
 #include "drawcontainer.h"
 #include "mixselection.h"
 #include "mixsetting.h"
+#include "savesoon.h"
 #include "scrgridctrldialog.h"
 #include "testcolor.h"
 
-#include <QScopedValueRollback>
 #include <QTimer>
 
 namespace {
@@ -45,7 +45,7 @@ void ScrGridCtrlDialog::initTimer(int speed)
 // The run's own steps are not worth a write each.
 void ScrGridCtrlDialog::slot_TimerOut()
 {
-    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const auto hold = m_saveSoon->hold();
     showRunning(isScroll);
     if (isScroll) {
         emit signal_gridAutoChange();

@@ -9,32 +9,24 @@
 #include "settingsrules.h"
 #include "swatchrow.h"
 
-#include <QScopedValueRollback>
 #include <QSettings>
 
 void ScrGridCtrlDialog::initSaving()
 {
     for (QSpinBox *spinBox : {ui->labelGrayLevel, ui->labelSpeed})
-        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), this,
-                &ScrGridCtrlDialog::saveSoon);
-    connect(m_swatches, &SwatchRow::selected, this, &ScrGridCtrlDialog::saveSoon);
-    connect(ui->netGridCheckBox, &QCheckBox::toggled, this, &ScrGridCtrlDialog::saveSoon);
+        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), m_saveSoon, &SaveSoon::schedule);
+    connect(m_swatches, &SwatchRow::selected, m_saveSoon, &SaveSoon::schedule);
+    connect(ui->netGridCheckBox, &QCheckBox::toggled, m_saveSoon, &SaveSoon::schedule);
     for (QPushButton *button : {ui->pushButtonPause, ui->pushButtonMerged, ui->pushButtonOld})
-        connect(button, &QPushButton::clicked, this, &ScrGridCtrlDialog::saveSoon);
+        connect(button, &QPushButton::clicked, m_saveSoon, &SaveSoon::schedule);
     for (const Family &family : m_families)
-        connect(family.button, &QPushButton::clicked, this, &ScrGridCtrlDialog::saveSoon);
-}
-
-void ScrGridCtrlDialog::saveSoon()
-{
-    if (settings && !m_savingHeld)
-        m_saveSoon->schedule();
+        connect(family.button, &QPushButton::clicked, m_saveSoon, &SaveSoon::schedule);
 }
 
 // Restoring is not a change by the operator and writes nothing.
 void ScrGridCtrlDialog::initGridStatus()
 {
-    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const auto hold = m_saveSoon->hold();
     if (settings) {
         ui->netGridCheckBox->setChecked(!settings->value(GridKey::overlayOff).toBool());
         restoreFamilies();

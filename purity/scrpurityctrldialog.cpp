@@ -13,7 +13,6 @@
 #include "testcolor.h"
 
 #include <QButtonGroup>
-#include <QScopedValueRollback>
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -90,14 +89,13 @@ void ScrPurityCtrlDialog::initSlots()
 void ScrPurityCtrlDialog::initSaving()
 {
     for (QSpinBox *spinBox : {ui->spinBoxScale, ui->spinBoxSpeed, ui->spinBoxAutoScale})
-        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), this,
-                &ScrPurityCtrlDialog::saveSoon);
-    connect(ui->radioButtonAuto, &QRadioButton::toggled, this, &ScrPurityCtrlDialog::saveSoon);
+        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), m_saveSoon, &SaveSoon::schedule);
+    connect(ui->radioButtonAuto, &QRadioButton::toggled, m_saveSoon, &SaveSoon::schedule);
 }
 
 void ScrPurityCtrlDialog::initCtrls()
 {
-    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const auto hold = m_saveSoon->hold();
     ui->buttonPauseResume->setObjectName(QStringLiteral("beginPushBtn"));
     SliderSpinBoxPair::setRange(ui->hScrollBarSpeed, ui->spinBoxSpeed, minimumSpeed, maximumSpeed);
     SliderSpinBoxPair::setRange(ui->hScrollBarScale, ui->spinBoxScale, 0, maximumGrey);
@@ -118,7 +116,7 @@ void ScrPurityCtrlDialog::initPurityStatus()
 {
     if (!settings)
         return;
-    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const auto hold = m_saveSoon->hold();
     const QColor stored = SettingsRules::color(*settings, SharedKey::baseColor);
     slot_changeSelectedPurityColor(stored.isValid() ? stored : QColor(Qt::red));
     restoreControls();
@@ -151,12 +149,6 @@ DrawerBase *ScrPurityCtrlDialog::getDrawer()
     return &drawer;
 }
 
-void ScrPurityCtrlDialog::saveSoon()
-{
-    if (!m_savingHeld)
-        m_saveSoon->schedule();
-}
-
 void ScrPurityCtrlDialog::saveScrPurityInfo()
 {
     if (!settings)
@@ -186,7 +178,7 @@ void ScrPurityCtrlDialog::selectColor(int index)
 {
     colorIndex = index;
     const QColor color = TestColor::at(index);
-    if (settings && !m_savingHeld)
+    if (settings && !m_saveSoon->isHeld())
         SettingsRules::store(*settings, SharedKey::baseColor, color);
     emit signal_colorChanged(color);
     if (!firstColorPending)
@@ -204,7 +196,7 @@ void ScrPurityCtrlDialog::slot_changeSelectedPurityColor(const QColor &color)
     // the click makes it select its colour again.
     if (color == Qt::white)
         button->click();
-    if (settings && !m_savingHeld)
+    if (settings && !m_saveSoon->isHeld())
         SettingsRules::store(*settings, SharedKey::baseColor, color);
 }
 
@@ -345,7 +337,7 @@ void ScrPurityCtrlDialog::enableControls(bool automatic)
 void ScrPurityCtrlDialog::slot_AutoTimerFinished()
 {
     // The run's own steps are not worth a write each.
-    const QScopedValueRollback<bool> hold(m_savingHeld, true);
+    const auto hold = m_saveSoon->hold();
     int grey = ui->spinBoxAutoScale->value();
     if (stepUp)
         grey = wrappedGrey(grey + 1);

@@ -79,7 +79,6 @@ private:
     void stepAutomatically(bool up);
     void stopTimer();
     void enableControls(bool automatic);
-    void saveSoon();
 
     const std::unique_ptr<Ui::ScrPurityCtrlDialog> ui;
     ScrPurity drawer;
@@ -92,5 +91,4 @@ private:
     LampPair m_lamps;
     SwatchRow *m_swatches;
     SaveSoon *m_saveSoon;
-    bool m_savingHeld = false; // while controls change without the operator
 };

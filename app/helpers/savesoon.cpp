@@ -13,6 +13,6 @@ SaveSoon::SaveSoon(std::function<void()> save, QObject *parent)
 
 void SaveSoon::schedule()
 {
-    if (!isDue())
+    if (!m_isHeld && !isDue())
         m_timer.start();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <functional>
@@ -21,10 +22,18 @@ public:
 
     bool isDue() const { return m_timer.isActive(); }
 
+    // Until the result ends, controls change without the operator, and nothing is scheduled.
+    [[nodiscard]] QScopedValueRollback<bool> hold()
+    {
+        return QScopedValueRollback<bool>(m_isHeld, true);
+    }
+    bool isHeld() const { return m_isHeld; }
+
 public slots:
     void schedule();
 
 private:
     std::function<void()> m_save;
     QTimer m_timer;
+    bool m_isHeld = false;
 };

@@ -27,6 +27,7 @@ private slots:
     void endlessChanges_doNotPutTheSaveOff();
     void changeAfterASave_isSavedToo();
     void changeWhileSaving_isSavedToo();
+    void changesWhileHeld_areNotSaved();
     void destroyedHelper_doesNotSave();
 };
 
@@ -109,6 +110,23 @@ void TestSaveSoon::changeWhileSaving_isSavedToo()
     saveSoon.schedule();
     QTRY_COMPARE(saves, 2);
     QVERIFY(!saveSoon.isDue());
+}
+
+void TestSaveSoon::changesWhileHeld_areNotSaved()
+{
+    SaveSoon saveSoon([] {}, nullptr);
+    {
+        const auto hold = saveSoon.hold();
+        {
+            const auto inner = saveSoon.hold();
+        }
+        QVERIFY(saveSoon.isHeld());
+        saveSoon.schedule();
+        QVERIFY(!saveSoon.isDue());
+    }
+    QVERIFY(!saveSoon.isHeld());
+    saveSoon.schedule();
+    QVERIFY(saveSoon.isDue());
 }
 
 void TestSaveSoon::destroyedHelper_doesNotSave()
