@@ -87,38 +87,7 @@ signals:
     void signal_keyShiftHPressed();
 
 private:
-    enum Row {
-        Home,
-        End,
-        PageUp,
-        PageDown,
-        ShiftUp,
-        ShiftDown,
-        ShiftLeft,
-        ShiftRight,
-        ShiftF,
-        CtrlUp,
-        CtrlDown,
-        CtrlLeft,
-        CtrlRight,
-        Left,
-        Down,
-        Up,
-        Right,
-        Delete,
-        Insert,
-        ShiftH,
-        rowCount
-    };
-
-    struct Combination
-    {
-        int key;
-        Qt::KeyboardModifier modifiers; // what must be among the event's modifiers
-        void (CommonHelper::*signal)();
-    };
-
-    static const Combination combinations[rowCount];
-
-    bool emitIf(Row row, QKeyEvent *event);
+    // The modifiers are what must be among the event's.
+    bool emitIf(QKeyEvent *event, int key, Qt::KeyboardModifier modifiers,
+                void (CommonHelper::*signal)());
 };
