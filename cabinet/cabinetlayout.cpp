@@ -57,7 +57,7 @@ bool CabinetLayout::Outline::operator==(const Outline &other) const
 bool CabinetLayout::operator==(const CabinetLayout &other) const
 {
     const auto key = [](const CabinetLayout &l) {
-        return std::tie(l.size, l.background, l.pen, l.brush, l.font, l.dotsPerInch, l.direction,
+        return std::tie(l.size, l.background, l.pen, l.font, l.dotsPerInch, l.direction,
                         l.lineStart, l.lineStep, l.layoutOn, l.module, l.scanBoard, l.leftToRight,
                         l.fontColor, l.fontSize, l.fontShape, l.beginRow, l.beginColumn);
     };
@@ -71,7 +71,6 @@ void CabinetLayout::preparePainter(QPainter &painter) const
     painter.setFont(font);
     painter.setLayoutDirection(direction);
     painter.setPen(pen);
-    painter.setBrush(brush);
 }
 
 void CabinetLayout::drawBackground(QPainter &painter) const

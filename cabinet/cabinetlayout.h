@@ -42,7 +42,6 @@ struct CabinetLayout
     QSize size; // of the window
     QBrush background; // below all layers, over black
     QPen pen; // before the first layer
-    QBrush brush;
     QFont font; // of the window
     QSize dotsPerInch; // of the window
     Qt::LayoutDirection direction = Qt::LeftToRight; // of the window

@@ -23,6 +23,7 @@ void ScrGrid::draw(bool enabled)
         return;
     }
     current.preparePainter(painter);
+    painter.setBrush(m_brush);
     for (int layer = 0; layer < CabinetLayout::LayerCount; ++layer)
         current.drawLayer(painter, CabinetLayout::Layer(layer));
 }
@@ -144,7 +145,6 @@ CabinetLayout ScrGrid::layout() const
     else
         layout.background = QBrush(m_bgPixmap);
     layout.pen = m_pen;
-    layout.brush = m_brush;
     layout.font = targetWidget->font();
     layout.dotsPerInch = {targetWidget->logicalDpiX(), targetWidget->logicalDpiY()};
     layout.direction = targetWidget->layoutDirection();

@@ -51,7 +51,6 @@ GridPattern GridDrawer::pattern() const
     pattern.slantLeft = m_slantLeftEnabled;
     pattern.slantRight = m_slantRightEnabled;
     pattern.pen = m_pen;
-    pattern.brush = m_brush;
     pattern.background = m_bgColor;
     return pattern;
 }

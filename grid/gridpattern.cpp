@@ -17,7 +17,6 @@ void drawLine(QPainter &painter, const QLine &line)
 void GridPattern::paint(QPainter &painter) const
 {
     painter.setPen(pen);
-    painter.setBrush(brush);
     painter.fillRect(0, 0, size.width(), size.height(), background);
     if (horizontal)
         drawHorizontal(painter);
@@ -104,7 +103,7 @@ bool GridPattern::operator==(const GridPattern &other) const
 {
     const auto key = [](const GridPattern &p) {
         return std::tie(p.size, p.distance, p.offset, p.horizontal, p.vertical, p.slantLeft,
-                        p.slantRight, p.pen, p.brush, p.background);
+                        p.slantRight, p.pen, p.background);
     };
     return key(*this) == key(other);
 }

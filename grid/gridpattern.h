@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QBrush>
 #include <QColor>
 #include <QPen>
 #include <QSize>
@@ -37,10 +36,9 @@ struct GridPattern
     bool slantLeft = false;
     bool slantRight = false;
     QPen pen;
-    QBrush brush;
     QColor background;
 
-    // Paints the background, then the enabled families, with the pattern's own pen and brush.
+    // Paints the background, then the enabled families, with the pattern's own pen.
     void paint(QPainter &painter) const;
 
     // One family each, enabled or not, with the painter's pen.
