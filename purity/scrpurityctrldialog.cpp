@@ -252,10 +252,7 @@ void ScrPurityCtrlDialog::stepAutomatically(bool up)
         stepDown = !up;
         return;
     }
-    ui->radioButtonAuto->setChecked(true);
-    emit signal_purityAutoChange();
-    autoRunning = true;
-    slot_SpeedChanged(ui->hScrollBarSpeed->value());
+    ui->radioButtonAuto->setChecked(true); // which starts the run
 }
 
 void ScrPurityCtrlDialog::slot_AutoScaleChanged(int grey)
