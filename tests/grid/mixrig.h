@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvas.h"
 #include "customerqlabel.h"
 #include "framelessmessagebox.h"
 #include "griddrawer.h"
@@ -62,8 +63,15 @@ struct MixRig
         return names;
     }
 
+    // What the test window shows between its lines.
+    QRgb background()
+    {
+        testWindow.setDrawer(&drawer);
+        return testWindow.painted().pixel(0, 0);
+    }
+
     TestSettings settings;
-    QWidget testWindow;
+    Canvas testWindow;
     GridDrawer drawer{&testWindow};
     MixSetting dialog{&drawer, settings.get(), nullptr};
 };

@@ -90,6 +90,7 @@ void TestMixSettingLines::pickedColour_isTheBackgroundAndTheOldColour()
 
     QCOMPARE(asked, QColor(Qt::green));
     QCOMPARE(rig.drawer.getOldColor(), QColor(1, 2, 0xab));
+    QCOMPARE(rig.background(), qRgb(1, 2, 0xab));
     QVERIFY(rig.drawer.active);
     QCOMPARE(rig.colorLabel()->styleSheet(), QStringLiteral("background:#0102ab"));
     QVERIFY(rig.settings.stored().isEmpty());
@@ -98,10 +99,13 @@ void TestMixSettingLines::pickedColour_isTheBackgroundAndTheOldColour()
 void TestMixSettingLines::cancelledColour_isAppliedAsInvalid()
 {
     MixRig rig;
+    rig.drawer.slot_changeBgColor(Qt::red);
+    rig.drawer.active = false;
     ColorDialog::setAnswer([](const QColor &) { return QColor(); });
     QTest::mouseClick(rig.colorLabel(), Qt::LeftButton);
 
     QVERIFY(!rig.drawer.getOldColor().isValid());
+    QCOMPARE(rig.background(), qRgb(0, 0, 0)); // which is what the painter makes of it
     QVERIFY(rig.drawer.active);
     QCOMPARE(rig.colorLabel()->styleSheet(), QStringLiteral("background:#000000"));
 }

@@ -34,6 +34,7 @@ private slots:
 
     void pressSetters_rememberOneFamilyAlone_data();
     void pressSetters_rememberOneFamilyAlone();
+    void gridBtnClick_pressesTheRememberedFamilies_data();
     void gridBtnClick_pressesTheRememberedFamilies();
     void gridBtnClick_withNothingRememberedDoesNothing();
 };
@@ -359,18 +360,28 @@ void TestScrGridCtrlDialogLines::pressSetters_rememberOneFamilyAlone()
     QCOMPARE(rig.checked(), QStringLiteral("HVLR"));
 }
 
+void TestScrGridCtrlDialogLines::gridBtnClick_pressesTheRememberedFamilies_data()
+{
+    QTest::addColumn<QString>("families");
+    QTest::newRow("one") << QStringLiteral("V");
+    QTest::newRow("two in overlay") << QStringLiteral("HV");
+}
+
 void TestScrGridCtrlDialogLines::gridBtnClick_pressesTheRememberedFamilies()
 {
-    GridRig rig({{QStringLiteral("isVerticalPress"), true},
-                 {QStringLiteral("gridNetChecked"), true},
+    QFETCH(const QString, families);
+    const bool overlay = families.size() > 1;
+    GridRig rig({{QStringLiteral("isHorizontalPress"), overlay},
+                 {QStringLiteral("isVerticalPress"), true},
+                 {QStringLiteral("gridNetChecked"), !overlay},
                  {QStringLiteral("gridIsOldTest"), true},
                  {QStringLiteral("gridSpeed"), 100}});
     QCOMPARE(rig.checked(), QString());
     QCOMPARE(rig.interval(), 160);
     rig.panel->gridBtnClick();
 
-    QCOMPARE(rig.checked(), QStringLiteral("V"));
-    QCOMPARE(rig.shown().families, QStringLiteral("V"));
+    QCOMPARE(rig.checked(), families);
+    QCOMPARE(rig.shown().families, families);
     QCOMPARE(rig.interval(), 14);
     QVERIFY(rig.panel->getScroll());
     QCOMPARE(rig.runControls(), 1);

@@ -71,6 +71,7 @@ private slots:
     void colours_areDimmedByTheGreySlider();
     void start_releasesTheFamiliesAndEnablesTheControls();
     void start_goesOnWhereTheTestStopped();
+    void startOfTheAgingTest_endsTheLinesThatAreShown();
     void bothModes_runInOneTickAgingFirst();
     void lineCount_isThatOfTheSelectedFamilies_data();
     void lineCount_isThatOfTheSelectedFamilies();
@@ -191,6 +192,15 @@ void TestScrGridCtrlDialogMerged::start_goesOnWhereTheTestStopped()
     rig.tick(3);
     rig.click(rig.merged());
     QCOMPARE(pictures(rig, 2), QStringLiteral("V #ff0000"));
+}
+
+void TestScrGridCtrlDialogMerged::startOfTheAgingTest_endsTheLinesThatAreShown()
+{
+    GridRig rig(selecting({QStringLiteral("SL")}));
+    rig.click(rig.merged());
+    QCOMPARE(nextPicture(rig), QStringLiteral("L"));
+    rig.click(rig.aging());
+    QCOMPARE(nextPicture(rig), QStringLiteral("#ff0000"));
 }
 
 void TestScrGridCtrlDialogMerged::bothModes_runInOneTickAgingFirst()

@@ -288,6 +288,9 @@ void TestWindowEdge::resized_stopsAtTheLimit_data()
     QTest::addColumn<QRect>("result");
 
     QTest::newRow("right") << 8 << QPoint(900, 0) << QSize(400, 400) << borders(100, 200, 500, 349);
+    for (const int beyond : {0, 1, 2})
+        QTest::addRow("right, %d beyond", beyond)
+            << 8 << QPoint(500 + beyond, 0) << QSize(400, 400) << borders(100, 200, 500, 349);
     QTest::newRow("right, one below")
         << 8 << QPoint(499, 0) << QSize(400, 400) << borders(100, 200, 499, 349);
     QTest::newRow("bottom") << 2 << QPoint(0, 900) << QSize(400, 400)
