@@ -15,7 +15,6 @@
 
 #include <QButtonGroup>
 #include <QKeyEvent>
-#include <QScopedValueRollback>
 #include <QSettings>
 #include <QTimer>
 

@@ -13,7 +13,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QSaveFile>
-#include <QScopedValueRollback>
 #include <QSettings>
 
 namespace {

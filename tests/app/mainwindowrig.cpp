@@ -3,10 +3,44 @@
 #include "drawcontainer.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QFile>
 #include <QImage>
+#include <QPainter>
+#include <QPixmap>
 #include <QSettings>
 #include <QTabWidget>
+
+#include <utility>
+
+namespace {
+
+// What the test window shows with the pointer outside of it.
+class ExpectedOverlay : public QWidget
+{
+public:
+    ExpectedOverlay(const QPixmap &background, QString text)
+        : m_background(background)
+        , m_text(std::move(text))
+    {
+        setAttribute(Qt::WA_TranslucentBackground, background.hasAlphaChannel());
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter painter(this);
+        painter.drawPixmap(0, 0, m_background);
+        painter.setPen(Qt::white);
+        painter.drawText(QRect(QPoint(width() / 2 - 20, height() / 2 - 10), size()), 0, m_text);
+    }
+
+private:
+    QPixmap m_background;
+    QString m_text;
+};
+
+} // namespace
 
 MainWindowRig::MainWindowRig() = default;
 MainWindowRig::~MainWindowRig() = default;
@@ -54,4 +88,17 @@ DrawContainer *MainWindowRig::testWindow()
 QRgb MainWindowRig::shownPixel()
 {
     return testWindow()->grab().toImage().pixel(testWindow()->rect().center());
+}
+
+bool MainWindowRig::overlaySays(const QString &text)
+{
+    DrawContainer *window = testWindow();
+    QCursor::setPos(window->mapToGlobal(QPoint(-50, -50))); // outside: no coordinates in the text
+    ExpectedOverlay expected(window->grab(), text);
+    expected.setFont(window->font());
+    expected.resize(window->size());
+    window->slot_keyEndPressed();
+    const QImage overlay = window->grab().toImage();
+    window->slot_keyEndPressed();
+    return overlay == expected.grab().toImage();
 }

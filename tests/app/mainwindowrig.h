@@ -26,6 +26,8 @@ public:
     QTabWidget *tabs();
     static DrawContainer *testWindow();
     static QRgb shownPixel();
+    // Whether this is what the overlay at the test window's centre says.
+    static bool overlaySays(const QString &text);
 
     template<typename Widget>
     Widget *find(const char *name = nullptr);

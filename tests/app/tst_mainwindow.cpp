@@ -1,25 +1,21 @@
-#include "commonhelper.h"
 #include "drawcontainer.h"
 #include "drawerbase.h"
+#include "gradualchangectrlwidget.h"
 #include "mainwindowrig.h"
+#include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
 
-#include <QApplication>
-#include <QCursor>
+#include <QAbstractButton>
+#include <QAction>
 #include <QFile>
+#include <QIcon>
 #include <QImage>
-#include <QKeyEvent>
-#include <QPainter>
-#include <QRadioButton>
+#include <QLabel>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QSlider>
 #include <QTabWidget>
 #include <QTest>
-#include <QTimer>
 #include <QTranslator>
-
-#include <utility>
 
 namespace {
 
@@ -35,42 +31,6 @@ public:
     }
 };
 
-// Paints black.
-class BlackDrawer : public DrawerBase
-{
-public:
-    using DrawerBase::DrawerBase;
-
-    void draw(bool paint) override
-    {
-        if (paint)
-            QPainter(targetWidget).fillRect(targetWidget->rect(), Qt::black);
-    }
-};
-
-// What the test window shows with the pointer outside of it.
-class ExpectedOverlay : public QWidget
-{
-public:
-    ExpectedOverlay(QString text, const QColor &background)
-        : m_text(std::move(text))
-        , m_background(background)
-    { }
-
-protected:
-    void paintEvent(QPaintEvent * /*event*/) override
-    {
-        QPainter painter(this);
-        painter.fillRect(rect(), m_background);
-        painter.setPen(Qt::white);
-        painter.drawText(QRect(QPoint(width() / 2 - 20, height() / 2 - 10), size()), 0, m_text);
-    }
-
-private:
-    QString m_text;
-    QColor m_background;
-};
-
 } // namespace
 
 class TestMainWindow : public QObject
@@ -82,19 +42,26 @@ private slots:
 
     void freshSettings_showTab0AndSendGrey255AndRed();
     void storedGreyAndColour_areSentToTheTestWindow();
+    void storedGrey_dimsTheTestWindowBeforeItsFirstPattern();
+    void testWindow_isABorderlessToolOnTop();
     void automaticMode_sendsTheAutomaticGrey();
     void savedTab3_isShownAndCountsAs0();
     void savedTab_comesBack_data();
     void savedTab_comesBack();
+    void tab_countsForTheGridAsItsIndexOr0();
     void selectingTab0Or5Or6_keepsTheStoredTab();
     void selectingTheTab_doesNotChangeThePicture();
-    void arrowKeys_belongToTheCurrentTab();
-    void savedTab1_hasTheArrowKeysOnce();
-    void feed_followsTheCurrentTab();
+    void freshGridTab_paintsNothingNew();
+    void changedPattern_stopsTheGridsRun_data();
+    void changedPattern_stopsTheGridsRun();
+    void changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain_data();
+    void changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain();
     void everyTabButTheCabinet_forbidsItsControls();
     void updateLanguage_reachesTitleTabsAndPanels();
     void doubleClick_doesNothing();
     void window_hasItsFixedSize();
+    void window_hasItsIcon();
+    void tabsThatChangeAtTheEnd_runNothing();
     void saveSettings_reachesTheDiskAtOnce();
     void restoring_writesNothing();
 
@@ -103,8 +70,6 @@ private:
     int storedTab();
     QTabWidget *tabs() { return m_rig.tabs(); }
     ScrPurityCtrlDialog *purity() { return m_window->findChild<ScrPurityCtrlDialog *>(); }
-    QImage overlay();
-    QImage overlayOf(const QString &text, const QColor &background = Qt::black);
 
     static DrawContainer *testWindow() { return MainWindowRig::testWindow(); }
     static QRgb shownPixel() { return MainWindowRig::shownPixel(); }
@@ -126,40 +91,33 @@ int TestMainWindow::storedTab()
     return file.value(QStringLiteral("/setting/currentTabIndex"), -1).toInt();
 }
 
-// The test window with the overlay at its centre, on black.
-QImage TestMainWindow::overlay()
-{
-    DrawContainer *window = testWindow();
-    window->setStyleSheet(QString());
-    QPalette black;
-    black.setColor(QPalette::Window, Qt::black);
-    window->setPalette(black);
-    window->slot_keyEndPressed();
-    QCursor::setPos(window->mapToGlobal(QPoint(-50, -50))); // outside: no coordinates in the text
-    return window->grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
-QImage TestMainWindow::overlayOf(const QString &text, const QColor &background)
-{
-    ExpectedOverlay expected(text, background);
-    expected.setFont(testWindow()->font());
-    expected.resize(testWindow()->size());
-    return expected.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
 void TestMainWindow::freshSettings_showTab0AndSendGrey255AndRed()
 {
     start();
     QCOMPARE(tabs()->currentIndex(), 0);
     QCOMPARE(shownPixel(), qRgb(255, 0, 0));
-    QCOMPARE(overlay(), overlayOf(QStringLiteral("红:255")));
+    QVERIFY(MainWindowRig::overlaySays(QStringLiteral("红:255")));
 }
 
 void TestMainWindow::storedGreyAndColour_areSentToTheTestWindow()
 {
     start({{QStringLiteral("testPurityGreyLevel"), 100},
            {QStringLiteral("testWindowBaseColor"), QColor(Qt::blue)}});
-    QCOMPARE(overlay(), overlayOf(QStringLiteral("蓝:100")));
+    QVERIFY(MainWindowRig::overlaySays(QStringLiteral("蓝:100")));
+}
+
+void TestMainWindow::storedGrey_dimsTheTestWindowBeforeItsFirstPattern()
+{
+    start({{QStringLiteral("testPurityGreyLevel"), 100}});
+    QVERIFY(testWindow()->styleSheet().startsWith(
+        QStringLiteral("QWidget{background-color:#64ff0000;}QMenu {")));
+}
+
+void TestMainWindow::testWindow_isABorderlessToolOnTop()
+{
+    start();
+    QCOMPARE(testWindow()->windowFlags(),
+             Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
 }
 
 void TestMainWindow::automaticMode_sendsTheAutomaticGrey()
@@ -167,7 +125,7 @@ void TestMainWindow::automaticMode_sendsTheAutomaticGrey()
     start({{QStringLiteral("AutoTest"), true},
            {QStringLiteral("testAutoScale"), 77},
            {QStringLiteral("testPurityGreyLevel"), 100}});
-    QCOMPARE(overlay(), overlayOf(QStringLiteral("红:77")));
+    QVERIFY(MainWindowRig::overlaySays(QStringLiteral("红:77")));
 }
 
 void TestMainWindow::savedTab3_isShownAndCountsAs0()
@@ -195,6 +153,16 @@ void TestMainWindow::savedTab_comesBack()
     QTEST(tabs()->currentIndex(), "shown");
 }
 
+void TestMainWindow::tab_countsForTheGridAsItsIndexOr0()
+{
+    start();
+    const int counted[] = {0, 1, 2, 0, 4, 0, 0};
+    for (const int tab : {1, 3, 2, 5, 4, 6, 1, 0}) {
+        tabs()->setCurrentIndex(tab);
+        QCOMPARE(m_window->tabIndexForGrid(), counted[tab]);
+    }
+}
+
 void TestMainWindow::selectingTab0Or5Or6_keepsTheStoredTab()
 {
     start();
@@ -217,55 +185,69 @@ void TestMainWindow::selectingTheTab_doesNotChangeThePicture()
     QCOMPARE(shownPixel(), qRgb(255, 255, 255));
 }
 
-void TestMainWindow::arrowKeys_belongToTheCurrentTab()
-{
-    start({{QStringLiteral("testPurityGreyLevel"), 100}});
-    auto *grey = m_window->findChild<QSlider *>(QStringLiteral("hScrollBarScale"));
-    QKeyEvent up(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
-    for (const int tab : {0, 2, 3, 4, 5, 6}) {
-        tabs()->setCurrentIndex(tab);
-        m_window->slot_keyPressed(&up);
-        QCOMPARE(grey->value(), 100);
-    }
-    for (int visit = 1; visit <= 3; ++visit) {
-        tabs()->setCurrentIndex(0);
-        tabs()->setCurrentIndex(1);
-        m_window->slot_keyPressed(&up);
-        QCOMPARE(grey->value(), 100 + visit);
-    }
-}
-
-void TestMainWindow::savedTab1_hasTheArrowKeysOnce()
-{
-    start({{QStringLiteral("currentTabIndex"), 1}, {QStringLiteral("testPurityGreyLevel"), 100}});
-    QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
-    m_window->slot_keyPressed(&down);
-    QCOMPARE(m_window->findChild<QSlider *>(QStringLiteral("hScrollBarScale"))->value(), 99);
-}
-
-void TestMainWindow::feed_followsTheCurrentTab()
+void TestMainWindow::freshGridTab_paintsNothingNew()
 {
     start();
-    testWindow()->slot_keyEndPressed();
-    QCursor::setPos(testWindow()->mapToGlobal(QPoint(-50, -50)));
-    BlackDrawer black(testWindow());
-    const auto text = [&black] {
-        testWindow()->setDrawer(&black, true);
-        return testWindow()->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    };
+    m_window->slot_SwitchDownTabControl();
+    QCOMPARE(shownPixel(), qRgb(0, 255, 0));
+    const QImage before = testWindow()->grab().toImage();
+    tabs()->setCurrentIndex(3);
+    QVERIFY(!testWindow()->selectedDrawer()->active);
+    QCOMPARE(testWindow()->grab().toImage(), before);
+}
+
+void TestMainWindow::changedPattern_stopsTheGridsRun_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<bool>("changed");
+    QTest::addColumn<bool>("locked");
+    for (const int tab : {1, 2}) {
+        QTest::addRow("tab %d changed", tab) << tab << true << false;
+        QTest::addRow("tab %d changed, grid locked", tab) << tab << true << true;
+        QTest::addRow("tab %d only visited", tab) << tab << false << false;
+    }
+}
+
+// As long as the grid is not locked.
+void TestMainWindow::changedPattern_stopsTheGridsRun()
+{
+    QFETCH(const int, tab);
+    QFETCH(const bool, changed);
+    QFETCH(const bool, locked);
+    start();
+    tabs()->setCurrentIndex(tab);
+    auto *gradient = m_rig.find<GradualChangeCtrlWidget>();
+    auto *grid = m_rig.find<ScrGridCtrlDialog>();
+    if (changed)
+        tabs()
+            ->widget(tab)
+            ->findChild<QAbstractButton *>(QStringLiteral("radioButtonBlue"))
+            ->click();
+    QCOMPARE(tab == 1 ? purity()->puritySelected : gradient->m_userChanged, changed);
+    grid->scrollLocked = locked;
+    grid->setScrollEnabled(true);
+    tabs()->setCurrentIndex(3);
+    QCOMPARE(grid->getScroll(), !changed || locked);
+    QVERIFY(!purity()->puritySelected);
+    QVERIFY(!gradient->m_userChanged);
+}
+
+void TestMainWindow::changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain_data()
+{
+    QTest::addColumn<bool>("paused");
+    QTest::newRow("paused") << true;
+    QTest::newRow("running") << false;
+}
+
+void TestMainWindow::changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain()
+{
+    QFETCH(const bool, paused);
+    start({{QStringLiteral("isVerticalPress"), true},
+           {QStringLiteral("pushButtonPauseChecked"), paused}});
+    auto *vertical = m_rig.find<QAbstractButton>("radioButtonVertical");
+    QVERIFY(!vertical->isChecked());
     tabs()->setCurrentIndex(1);
-    purity()->slot_changeSelectedPurityColor(Qt::green);
-    QCOMPARE(text(), overlayOf(QStringLiteral("绿:255")));
-    tabs()->setCurrentIndex(2);
-    purity()->slot_changeSelectedPurityColor(Qt::blue);
-    QCOMPARE(text(), overlayOf(QStringLiteral("绿:255")));
-    tabs()->setCurrentIndex(0); // leaves the feed as it is
-    purity()->slot_changeSelectedPurityColor(Qt::red);
-    QCOMPARE(text(), overlayOf(QStringLiteral("绿:255")));
-    tabs()->setCurrentIndex(1);
-    purity()->slot_changeSelectedPurityColor(Qt::magenta);
-    QCOMPARE(text(), overlayOf(QStringLiteral("紫:255")));
-    testWindow()->setDrawer(purity()->getDrawer(), false);
+    QCOMPARE(vertical->isChecked(), paused);
 }
 
 void TestMainWindow::everyTabButTheCabinet_forbidsItsControls()
@@ -287,20 +269,21 @@ void TestMainWindow::updateLanguage_reachesTitleTabsAndPanels()
     MarkingTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
     m_window->updateLanguage();
-    const QString title = m_window->windowTitle();
-    QStringList titles;
-    for (int tab = 0; tab < tabs()->count(); ++tab)
-        titles << tabs()->tabText(tab);
-    const QString mode =
-        m_window->findChild<QRadioButton *>(QStringLiteral("radioButtonAuto"))->text();
     QCoreApplication::removeTranslator(&translator);
 
-    QCOMPARE(title, QStringLiteral("!显示屏测试工具-Tarn"));
-    QCOMPARE(titles,
-             QStringList({QStringLiteral("!窗口"), QStringLiteral("!纯色"), QStringLiteral("!渐变"),
-                          QStringLiteral("!网格"), QStringLiteral("!定位"), QStringLiteral("!帮助"),
-                          QStringLiteral("!关于")}));
-    QCOMPARE(mode, QStringLiteral("!自动"));
+    QStringList texts{m_window->windowTitle(), testWindow()->actions().constFirst()->text()};
+    for (int tab = 0; tab < tabs()->count(); ++tab)
+        texts << tabs()->tabText(tab);
+    // A control of each panel, and one of each card.
+    for (const char *name : {"normalContentPushBtn", "radioButtonAuto", "levelPushBtn",
+                             "pushButtonMerged", "radioBeginLeft"})
+        texts << m_rig.find<QAbstractButton>(name)->text();
+    for (const char *name : {"labelHome", "labelControl"})
+        texts << m_rig.find<QLabel>(name)->text();
+    for (const QString &text : texts)
+        QVERIFY2(text.startsWith(QLatin1Char('!')), qPrintable(text));
+    m_window->setStyleSheet(QString()); // it sets another font over the tabs' own
+    QCOMPARE(tabs()->font().family(), QStringLiteral("Arial"));
 }
 
 void TestMainWindow::doubleClick_doesNothing()
@@ -322,6 +305,23 @@ void TestMainWindow::window_hasItsFixedSize()
         tabs()->setCurrentIndex(tab);
         QCOMPARE(tabs()->currentWidget()->size(), QSize(585, 192));
     }
+}
+
+void TestMainWindow::window_hasItsIcon()
+{
+    start();
+    const QIcon icon(QStringLiteral(":/Resource/Image/logo/TarnTestTool.ico"));
+    QVERIFY(!icon.pixmap(32).isNull());
+    QCOMPARE(m_window->windowIcon().pixmap(32).toImage(), icon.pixmap(32).toImage());
+}
+
+void TestMainWindow::tabsThatChangeAtTheEnd_runNothing()
+{
+    start();
+    QSignalSpy switched(m_window, &MainWindow::signal_forbidTarnToolCtrls);
+    connect(tabs(), &QObject::destroyed, [widget = tabs()] { emit widget->currentChanged(1); });
+    m_rig.end();
+    QCOMPARE(switched.count(), 0);
 }
 
 void TestMainWindow::saveSettings_reachesTheDiskAtOnce()

@@ -5,6 +5,7 @@
 #include "scrpurityctrldialog.h"
 
 #include <QAbstractButton>
+#include <QButtonGroup>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
@@ -29,6 +30,9 @@ char *toString(const Stop &stop)
         QStringLiteral("tab %1 colour %2 lines %3").arg(stop.tab).arg(stop.color).arg(stop.lines)));
 }
 
+using Key = void (MainWindow::*)();
+Q_DECLARE_METATYPE(Key)
+
 class TestMainWindowPages : public QObject
 {
     Q_OBJECT
@@ -45,7 +49,12 @@ private slots:
     void pageUpFromOtherTabs_jumpsToTab3_data();
     void pageUpFromOtherTabs_jumpsToTab3();
     void pageUpIntoTheGrid_stepsBackFromWhereItStood();
+    void pageKeys_showGradientsOf256Levels_data();
     void pageKeys_showGradientsOf256Levels();
+    void leavingTheGrid_releasesHorizontalAndSlantRight_data();
+    void leavingTheGrid_releasesHorizontalAndSlantRight();
+    void betweenPurityAndGradient_whiteIsReleased_data();
+    void betweenPurityAndGradient_whiteIsReleased();
     void pageKeys_stopTheAutomaticRun();
     void everyStop_showsItsOwnDrawer();
     void everyStop_hasItsColourInAllPanels();
@@ -53,7 +62,7 @@ private slots:
 private:
     static QVector<Stop> sequence();
     Stop stop();
-    QVector<Stop> walk(int steps, void (MainWindow::*key)());
+    QVector<Stop> walk(int steps, Key key);
 
     MainWindowRig m_rig;
 };
@@ -84,7 +93,7 @@ Stop TestMainWindowPages::stop()
     return {tab, grid->colorIndex, grid->lineIndex};
 }
 
-QVector<Stop> TestMainWindowPages::walk(int steps, void (MainWindow::*key)())
+QVector<Stop> TestMainWindowPages::walk(int steps, Key key)
 {
     QVector<Stop> stops;
     for (int step = 0; step < steps; ++step) {
@@ -177,14 +186,82 @@ void TestMainWindowPages::pageUpIntoTheGrid_stepsBackFromWhereItStood()
     QCOMPARE(stop(), (Stop{3, 0, 3}));
 }
 
+void TestMainWindowPages::pageKeys_showGradientsOf256Levels_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<Key>("key");
+    QTest::addColumn<int>("steps");
+    QTest::addColumn<int>("color");
+    QTest::newRow("entered downwards") << 1 << &MainWindow::slot_SwitchDownTabControl << 4 << 0;
+    QTest::newRow("downwards") << 2 << &MainWindow::slot_SwitchDownTabControl << 1 << 1;
+    QTest::newRow("entered upwards") << 3 << &MainWindow::slot_SwitchUpTabControl << 1 << 3;
+}
+
 void TestMainWindowPages::pageKeys_showGradientsOf256Levels()
 {
-    m_rig.start({{QStringLiteral("gradualChangeColorLevel"), 32}});
+    QFETCH(const int, tab);
+    QFETCH(const Key, key);
+    QFETCH(const int, steps);
+    m_rig.start({{QStringLiteral("currentTabIndex"), tab},
+                 {QStringLiteral("gradualChangeColorLevel"), 32}});
     auto *gradient = m_rig.find<GradualChangeCtrlWidget>();
     QCOMPARE(int(gradient->m_level), 32);
-    walk(4, &MainWindow::slot_SwitchDownTabControl);
-    QCOMPARE(stop(), (Stop{2, 0, -1}));
+    walk(steps, key);
+    QTEST(stop().color, "color");
     QCOMPARE(int(gradient->m_level), 256);
+}
+
+void TestMainWindowPages::leavingTheGrid_releasesHorizontalAndSlantRight_data()
+{
+    QTest::addColumn<Key>("key");
+    QTest::addColumn<int>("index");
+    QTest::newRow("upwards") << &MainWindow::slot_SwitchUpTabControl << 0;
+    QTest::newRow("downwards") << &MainWindow::slot_SwitchDownTabControl << 3;
+}
+
+void TestMainWindowPages::leavingTheGrid_releasesHorizontalAndSlantRight()
+{
+    QFETCH(const Key, key);
+    QFETCH(const int, index);
+    m_rig.start({{QStringLiteral("currentTabIndex"), 3}});
+    auto *grid = m_rig.find<ScrGridCtrlDialog>();
+    grid->colorIndex = grid->lineIndex = qint16(index);
+    const auto buttons = {m_rig.find<QAbstractButton>("radioButtonHorizontal"),
+                          m_rig.find<QAbstractButton>("radioButtonSlantRight")};
+    for (QAbstractButton *button : buttons)
+        button->setChecked(true);
+    walk(1, key);
+    QVERIFY(stop().tab != 3);
+    for (const QAbstractButton *button : buttons)
+        QVERIFY(!button->isChecked());
+}
+
+void TestMainWindowPages::betweenPurityAndGradient_whiteIsReleased_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<Key>("key");
+    QTest::newRow("downwards") << 1 << &MainWindow::slot_SwitchDownTabControl;
+    QTest::newRow("upwards") << 2 << &MainWindow::slot_SwitchUpTabControl;
+}
+
+// Colour buttons are exclusive, and of those the checked one stays; so they are not, here.
+void TestMainWindowPages::betweenPurityAndGradient_whiteIsReleased()
+{
+    QFETCH(const int, tab);
+    QFETCH(const Key, key);
+    m_rig.start({{QStringLiteral("currentTabIndex"), tab}});
+    auto *purity = m_rig.find<ScrPurityCtrlDialog>();
+    auto *white = purity->findChild<QAbstractButton *>(QStringLiteral("radioButtonWhite"));
+    white->setChecked(true);
+    QCOMPARE(purity->colorIndex, 3);
+    m_rig.find<GradualChangeCtrlWidget>()->m_colorIndex = 0;
+    white->group()->setExclusive(false);
+    QSignalSpy toggled(white, &QAbstractButton::toggled);
+    walk(1, key);
+    QVERIFY(stop().tab != tab);
+    QCOMPARE(toggled.value(0), QVariantList{false});
+    if (tab == 2) // white comes next, and is checked again
+        QCOMPARE(toggled.value(1), QVariantList{true});
 }
 
 void TestMainWindowPages::pageKeys_stopTheAutomaticRun()
