@@ -32,9 +32,6 @@ constexpr const char *tabTitles[] = {
     QT_TRANSLATE_NOOP("MainWindow", "关于"),
 };
 
-// Long enough for the window manager to have moved what it moves itself.
-constexpr int screenChangeSettlesMs = 300;
-
 // The test window before its first pattern, and its context menu.
 QString testWindowStyle(const QColor &background)
 {
@@ -58,9 +55,6 @@ MainWindow::MainWindow(QWidget *parent)
     , ui(makeForm<Ui::MainWindow>(this))
     , settings(openSettings(this))
 {
-    m_afterScreenChange.setSingleShot(true);
-    m_afterScreenChange.setInterval(screenChangeSettlesMs);
-    connect(&m_afterScreenChange, &QTimer::timeout, this, &MainWindow::stayReachable);
     initCtrls();
     initTitleBar();
     initSlots();

@@ -5,7 +5,6 @@
 #include "latin1.h"
 
 #include <QString>
-#include <QTimer>
 
 #include <map>
 #include <memory>
@@ -127,5 +126,4 @@ private:
     qint16 cycleTab = 0; // where the page keys stand
     int currentTabIndex = 0;
     QSettings *settings;
-    QTimer m_afterScreenChange;
 };

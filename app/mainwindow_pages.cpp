@@ -20,9 +20,9 @@ constexpr int beforeFirst = -1;
 
 } // namespace
 
+// With it goes cycleTab.
 void MainWindow::makeTabCurrent(int index)
 {
-    cycleTab = static_cast<qint16>(index);
     ui->tabWidget->setCurrentIndex(index);
 }
 

@@ -11,6 +11,14 @@
 #include "tarntool.h"
 
 #include <QSettings>
+#include <QTimer>
+
+namespace {
+
+// Long enough for the window manager to have moved what it moves itself.
+constexpr int screenChangeSettlesMs = 300;
+
+} // namespace
 
 void MainWindow::initSlots()
 {
@@ -69,8 +77,9 @@ void MainWindow::initTestWindowSlots()
             &DrawContainer::slot_setScreenMaxSize);
     connect(this, &MainWindow::signal_sendScreenMaxSize, placementPanel, &P::getScreenSize);
     emit signal_sendScreenMaxSize();
-    connect(placementPanel, &P::signal_screenMaxSizeChanged, &m_afterScreenChange,
-            qOverload<>(&QTimer::start));
+    connect(placementPanel, &P::signal_screenMaxSizeChanged, this, [this] {
+        QTimer::singleShot(screenChangeSettlesMs, this, &MainWindow::stayReachable);
+    });
     connect(this, &MainWindow::signal_colorChanged, &testWindow,
             &DrawContainer::slot_changeSelectedDrawColor);
     connect(this, &MainWindow::signal_greyChanged, &testWindow,

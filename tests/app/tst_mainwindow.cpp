@@ -1,6 +1,6 @@
 #include "drawcontainer.h"
-#include "drawerbase.h"
-#include "gradualchangectrlwidget.h"
+#include "drawctrlform.h"
+#include "griddrawer.h"
 #include "mainwindowrig.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
@@ -9,10 +9,12 @@
 #include <QAction>
 #include <QFile>
 #include <QIcon>
-#include <QImage>
 #include <QLabel>
+#include <QPointer>
+#include <QScreen>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
 #include <QTranslator>
@@ -48,20 +50,15 @@ private slots:
     void savedTab3_isShownAndCountsAs0();
     void savedTab_comesBack_data();
     void savedTab_comesBack();
-    void tab_countsForTheGridAsItsIndexOr0();
     void selectingTab0Or5Or6_keepsTheStoredTab();
-    void selectingTheTab_doesNotChangeThePicture();
-    void freshGridTab_paintsNothingNew();
-    void changedPattern_stopsTheGridsRun_data();
-    void changedPattern_stopsTheGridsRun();
-    void changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain_data();
-    void changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain();
-    void everyTabButTheCabinet_forbidsItsControls();
     void updateLanguage_reachesTitleTabsAndPanels();
     void doubleClick_doesNothing();
     void window_hasItsFixedSize();
-    void window_hasItsIcon();
+    void window_hasItsIconAndTitle();
+    void window_comesBackFromAScreenThatIsGone();
+    void spareGridDrawer_belongsToTheWindow();
     void tabsThatChangeAtTheEnd_runNothing();
+    void panels_goBeforeTheTestWindow();
     void saveSettings_reachesTheDiskAtOnce();
     void restoring_writesNothing();
 
@@ -73,6 +70,7 @@ private:
 
     static DrawContainer *testWindow() { return MainWindowRig::testWindow(); }
     static QRgb shownPixel() { return MainWindowRig::shownPixel(); }
+    static QByteArray settingsContent();
     static QString settingsPath() { return MainWindowRig::settingsPath(); }
 
     MainWindowRig m_rig;
@@ -89,6 +87,13 @@ int TestMainWindow::storedTab()
     m_window->saveSettings();
     const QSettings file(settingsPath(), QSettings::IniFormat);
     return file.value(QStringLiteral("/setting/currentTabIndex"), -1).toInt();
+}
+
+// What stands on the disk, nothing pending included.
+QByteArray TestMainWindow::settingsContent()
+{
+    QFile file(settingsPath());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void TestMainWindow::freshSettings_showTab0AndSendGrey255AndRed()
@@ -153,16 +158,6 @@ void TestMainWindow::savedTab_comesBack()
     QTEST(tabs()->currentIndex(), "shown");
 }
 
-void TestMainWindow::tab_countsForTheGridAsItsIndexOr0()
-{
-    start();
-    const int counted[] = {0, 1, 2, 0, 4, 0, 0};
-    for (const int tab : {1, 3, 2, 5, 4, 6, 1, 0}) {
-        tabs()->setCurrentIndex(tab);
-        QCOMPARE(m_window->tabIndexForGrid(), counted[tab]);
-    }
-}
-
 void TestMainWindow::selectingTab0Or5Or6_keepsTheStoredTab()
 {
     start();
@@ -171,95 +166,6 @@ void TestMainWindow::selectingTab0Or5Or6_keepsTheStoredTab()
     for (const int tab : {0, 5, 6}) {
         tabs()->setCurrentIndex(tab);
         QCOMPARE(storedTab(), 1);
-    }
-}
-
-void TestMainWindow::selectingTheTab_doesNotChangeThePicture()
-{
-    start({{QStringLiteral("testWindowBaseColor"), QColor(Qt::blue)}});
-    m_window->slot_SwitchDownTabControl(); // blue is followed by white
-    QCOMPARE(shownPixel(), qRgb(255, 255, 255));
-    tabs()->setCurrentIndex(0);
-    tabs()->setCurrentIndex(1);
-    QVERIFY(!purity()->getDrawer()->active);
-    QCOMPARE(shownPixel(), qRgb(255, 255, 255));
-}
-
-void TestMainWindow::freshGridTab_paintsNothingNew()
-{
-    start();
-    m_window->slot_SwitchDownTabControl();
-    QCOMPARE(shownPixel(), qRgb(0, 255, 0));
-    const QImage before = testWindow()->grab().toImage();
-    tabs()->setCurrentIndex(3);
-    QVERIFY(!testWindow()->selectedDrawer()->active);
-    QCOMPARE(testWindow()->grab().toImage(), before);
-}
-
-void TestMainWindow::changedPattern_stopsTheGridsRun_data()
-{
-    QTest::addColumn<int>("tab");
-    QTest::addColumn<bool>("changed");
-    QTest::addColumn<bool>("locked");
-    for (const int tab : {1, 2}) {
-        QTest::addRow("tab %d changed", tab) << tab << true << false;
-        QTest::addRow("tab %d changed, grid locked", tab) << tab << true << true;
-        QTest::addRow("tab %d only visited", tab) << tab << false << false;
-    }
-}
-
-// As long as the grid is not locked.
-void TestMainWindow::changedPattern_stopsTheGridsRun()
-{
-    QFETCH(const int, tab);
-    QFETCH(const bool, changed);
-    QFETCH(const bool, locked);
-    start();
-    tabs()->setCurrentIndex(tab);
-    auto *gradient = m_rig.find<GradualChangeCtrlWidget>();
-    auto *grid = m_rig.find<ScrGridCtrlDialog>();
-    if (changed)
-        tabs()
-            ->widget(tab)
-            ->findChild<QAbstractButton *>(QStringLiteral("radioButtonBlue"))
-            ->click();
-    QCOMPARE(tab == 1 ? purity()->puritySelected : gradient->m_userChanged, changed);
-    grid->scrollLocked = locked;
-    grid->setScrollEnabled(true);
-    tabs()->setCurrentIndex(3);
-    QCOMPARE(grid->getScroll(), !changed || locked);
-    QVERIFY(!purity()->puritySelected);
-    QVERIFY(!gradient->m_userChanged);
-}
-
-void TestMainWindow::changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain_data()
-{
-    QTest::addColumn<bool>("paused");
-    QTest::newRow("paused") << true;
-    QTest::newRow("running") << false;
-}
-
-void TestMainWindow::changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain()
-{
-    QFETCH(const bool, paused);
-    start({{QStringLiteral("isVerticalPress"), true},
-           {QStringLiteral("pushButtonPauseChecked"), paused}});
-    auto *vertical = m_rig.find<QAbstractButton>("radioButtonVertical");
-    QVERIFY(!vertical->isChecked());
-    tabs()->setCurrentIndex(1);
-    QCOMPARE(vertical->isChecked(), paused);
-}
-
-void TestMainWindow::everyTabButTheCabinet_forbidsItsControls()
-{
-    start();
-    QSignalSpy forbidden(m_window, &MainWindow::signal_forbidTarnToolCtrls);
-    tabs()->setCurrentIndex(4);
-    QCOMPARE(forbidden.count(), 0);
-    int expected = 0;
-    for (const int tab : {3, 2, 1, 0, 5, 6}) {
-        tabs()->setCurrentIndex(tab);
-        QCOMPARE(forbidden.count(), ++expected);
     }
 }
 
@@ -307,12 +213,29 @@ void TestMainWindow::window_hasItsFixedSize()
     }
 }
 
-void TestMainWindow::window_hasItsIcon()
+void TestMainWindow::window_hasItsIconAndTitle()
 {
     start();
     const QIcon icon(QStringLiteral(":/Resource/Image/logo/TarnTestTool.ico"));
     QVERIFY(!icon.pixmap(32).isNull());
     QCOMPARE(m_window->windowIcon().pixmap(32).toImage(), icon.pixmap(32).toImage());
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("显示屏测试工具-Tarn"));
+}
+
+void TestMainWindow::window_comesBackFromAScreenThatIsGone()
+{
+    start();
+    const QRect screen = m_window->screen()->geometry();
+    m_window->move(screen.bottomRight() + QPoint(1000, 1000));
+    emit m_rig.find<DrawCtrlForm>()->signal_screenMaxSizeChanged(screen.width(), screen.height());
+    QVERIFY(!screen.intersects(m_window->geometry())); // the window manager comes first
+    QTRY_VERIFY(screen.contains(m_window->geometry()));
+}
+
+void TestMainWindow::spareGridDrawer_belongsToTheWindow()
+{
+    start();
+    QVERIFY(m_window->findChild<GridDrawer *>(QString(), Qt::FindDirectChildrenOnly));
 }
 
 void TestMainWindow::tabsThatChangeAtTheEnd_runNothing()
@@ -324,28 +247,41 @@ void TestMainWindow::tabsThatChangeAtTheEnd_runNothing()
     QCOMPARE(switched.count(), 0);
 }
 
+void TestMainWindow::panels_goBeforeTheTestWindow()
+{
+    start();
+    const QPointer<QWidget> panel(purity());
+    bool hasGone = false;
+    connect(testWindow(), &QObject::destroyed, this, [&panel, &hasGone] { hasGone = !panel; });
+    m_rig.end();
+    QVERIFY(hasGone);
+}
+
 void TestMainWindow::saveSettings_reachesTheDiskAtOnce()
 {
     start({{QStringLiteral("testPurityGreyLevel"), 100}});
-    tabs()->setCurrentIndex(1);
     purity()->slot_keyUpPressed();
+    m_rig.find<QSpinBox>("spinBoxX")->setValue(21);
+    m_rig.find<QAbstractButton>("levelPushBtn")->click();
+    m_rig.find<ScrGridCtrlDialog>()
+        ->findChild<QSpinBox *>(QStringLiteral("labelSpeed"))
+        ->setValue(77);
+    m_rig.find<QSpinBox>("boxRow")->setValue(9);
     m_window->saveSettings();
-    const QSettings file(settingsPath(), QSettings::IniFormat);
-    QCOMPARE(file.value(QStringLiteral("/setting/testPurityGreyLevel")).toInt(), 101);
+    const QByteArray content = settingsContent();
+    for (const char *line : {"testPurityGreyLevel=101", "testWindowPointX=21",
+                             "gradualChangeColorLevel=32", "gridSpeed=77", "tarnModelRowCount=9"})
+        QVERIFY2(content.contains(line), line);
 }
 
 void TestMainWindow::restoring_writesNothing()
 {
     start({{QStringLiteral("currentTabIndex"), 1}, {QStringLiteral("testWindowPointX"), 30}});
-    const auto content = [] {
-        QFile file(settingsPath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
-    const QByteArray before = content();
+    const QByteArray before = settingsContent();
     QVERIFY(!before.isEmpty());
     m_window->updateLanguage();
     QTest::qWait(1200); // longer than any save is put off
-    QCOMPARE(content(), before);
+    QCOMPARE(settingsContent(), before);
 }
 
 QTEST_MAIN(TestMainWindow)

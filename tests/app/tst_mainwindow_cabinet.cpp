@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QImage>
 #include <QPushButton>
-#include <QSettings>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
@@ -55,7 +54,6 @@ private slots:
     void keptPicture_isNotDecodedUntilItsTabIsSeen();
     void resizedTestWindow_stretchesThePictureAgain();
     void pageKeyBehindTheAdvancedSettings_leavesThemUsable();
-    void saveSettings_savesThePanel();
 
 private:
     TarnTool *panel() { return m_rig.find<TarnTool>(); }
@@ -189,16 +187,6 @@ void TestMainWindowCabinet::pageKeyBehindTheAdvancedSettings_leavesThemUsable()
     m_rig.window().slot_SwitchDownTabControl();
     QCOMPARE(m_rig.tabs()->currentIndex(), 1);
     QVERIFY(dialog->isEnabled());
-}
-
-void TestMainWindowCabinet::saveSettings_savesThePanel()
-{
-    start();
-    layOut();
-    m_rig.find<QSpinBox>("boxWidth")->setValue(50);
-    m_rig.window().saveSettings();
-    const QSettings file(MainWindowRig::settingsPath(), QSettings::IniFormat);
-    QCOMPARE(file.value(QStringLiteral("/setting/tarnBoxWidth")).toInt(), 50);
 }
 
 QTEST_MAIN(TestMainWindowCabinet)

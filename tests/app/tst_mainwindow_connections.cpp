@@ -1,9 +1,13 @@
+#include "drawcontainer.h"
+#include "drawctrlform.h"
 #include "gradualchangectrlwidget.h"
 #include "mainwindowrig.h"
 #include "scrgridctrldialog.h"
+#include "scriptedpointer.h"
 #include "scrpurityctrldialog.h"
 
 #include <QAbstractButton>
+#include <QImage>
 #include <QKeyEvent>
 #include <QSlider>
 #include <QSpinBox>
@@ -14,6 +18,16 @@
 #include <utility>
 
 Q_DECLARE_METATYPE(QVector<int>)
+
+namespace {
+
+// A start makes it a square.
+const QVariantMap placed{{QStringLiteral("testWindowPointX"), 50},
+                         {QStringLiteral("testWindowPointY"), 60},
+                         {QStringLiteral("testWindowWidth"), 200},
+                         {QStringLiteral("testWindowHeight"), 200}};
+
+} // namespace
 
 // What the panels, the keys and the test window tell one another, and on which tab.
 class TestMainWindowConnections : public QObject
@@ -30,6 +44,15 @@ private slots:
     void overlay_listensToTheGridsTestsOnAnyTab();
     void arrowKeys_belongToTheTab_data();
     void arrowKeys_belongToTheTab();
+    void shiftAndCtrlArrows_stepTheTestWindow_data();
+    void shiftAndCtrlArrows_stepTheTestWindow();
+    void shiftH_hidesAndShowsTheTestWindow();
+    void shiftF_togglesTheFullScreen();
+    void pageUp_jumpsIntoTheWalk();
+    void keysOfTheTestWindow_areTheProgramsToo();
+    void geometryThatTheTestWindowReports_isShownByThePlacementPanel();
+    void draggedBorder_mayGoAsFarAsTheScreen();
+    void homeAndEnd_showAndHideTheHints();
     void insertAndDelete_rampTheGridsGrey();
     void stepOfTheGrid_stopsThePurityRun();
     void pageKey_stopsThePurityRunAndLetsTheGridGoOn();
@@ -40,7 +63,8 @@ private:
     ScrPurityCtrlDialog *purity() { return m_rig.find<ScrPurityCtrlDialog>(); }
     ScrGridCtrlDialog *grid() { return m_rig.find<ScrGridCtrlDialog>(); }
     void visit(const QVector<int> &tabs);
-    void press(int key);
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    QRect shownPlacement();
     void tellGreen7(int tab);
     void startPurityRun();
     bool isPurityRunning();
@@ -54,10 +78,16 @@ void TestMainWindowConnections::visit(const QVector<int> &tabs)
         m_rig.tabs()->setCurrentIndex(tab);
 }
 
-void TestMainWindowConnections::press(int key)
+void TestMainWindowConnections::press(int key, Qt::KeyboardModifiers modifiers)
 {
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QKeyEvent event(QEvent::KeyPress, key, modifiers);
     m_rig.window().slot_keyPressed(&event);
+}
+
+QRect TestMainWindowConnections::shownPlacement()
+{
+    const auto value = [this](const char *name) { return m_rig.find<QSpinBox>(name)->value(); };
+    return {value("spinBoxX"), value("spinBoxY"), value("spinBoxWidth"), value("spinBoxHeight")};
 }
 
 // Has a tab's panel announce the colour green and the grey level 7.
@@ -191,6 +221,111 @@ void TestMainWindowConnections::arrowKeys_belongToTheTab()
         QCOMPARE(m_rig.find<QSlider>("hScrollBarScale")->value(), tab == 1 ? grey : 100);
         QCOMPARE(m_rig.find<QSlider>("hScrollBarGrayLevel")->value(), tab == 3 ? grey : 100);
     }
+}
+
+void TestMainWindowConnections::shiftAndCtrlArrows_stepTheTestWindow_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("shift");
+    QTest::addColumn<QRect>("placement");
+    QTest::newRow("lower") << int(Qt::Key_Up) << true << QRect(50, 60, 200, 199);
+    QTest::newRow("higher") << int(Qt::Key_Down) << true << QRect(50, 60, 200, 201);
+    QTest::newRow("narrower") << int(Qt::Key_Left) << true << QRect(50, 60, 199, 200);
+    QTest::newRow("wider") << int(Qt::Key_Right) << true << QRect(50, 60, 201, 200);
+    QTest::newRow("up") << int(Qt::Key_Up) << false << QRect(50, 59, 200, 200);
+    QTest::newRow("down") << int(Qt::Key_Down) << false << QRect(50, 61, 200, 200);
+    QTest::newRow("left") << int(Qt::Key_Left) << false << QRect(49, 60, 200, 200);
+    QTest::newRow("right") << int(Qt::Key_Right) << false << QRect(51, 60, 200, 200);
+}
+
+void TestMainWindowConnections::shiftAndCtrlArrows_stepTheTestWindow()
+{
+    QFETCH(const int, key);
+    QFETCH(const bool, shift);
+    m_rig.start(placed);
+    press(key, shift ? Qt::ShiftModifier : Qt::ControlModifier);
+    QTEST(shownPlacement(), "placement");
+    QTEST(MainWindowRig::testWindow()->geometry(), "placement");
+}
+
+void TestMainWindowConnections::shiftH_hidesAndShowsTheTestWindow()
+{
+    m_rig.start();
+    const auto buttons = panel(0)->findChildren<QAbstractButton *>(
+        QStringLiteral("normalContentPushBtn")); // to show and to hide
+    QCOMPARE(buttons.size(), 2);
+    for (const bool visible : {false, true}) {
+        press(Qt::Key_H, Qt::ShiftModifier);
+        QCOMPARE(MainWindowRig::testWindow()->isVisible(), visible);
+        QCOMPARE(buttons.first()->isEnabled(), !visible);
+        QCOMPARE(buttons.last()->isEnabled(), visible);
+    }
+}
+
+void TestMainWindowConnections::shiftF_togglesTheFullScreen()
+{
+    m_rig.start();
+    press(Qt::Key_F, Qt::ShiftModifier);
+    QVERIFY(MainWindowRig::testWindow()->isFullScreen());
+    press(Qt::Key_F, Qt::ShiftModifier);
+    QVERIFY(!MainWindowRig::testWindow()->isFullScreen());
+}
+
+void TestMainWindowConnections::pageUp_jumpsIntoTheWalk()
+{
+    m_rig.start();
+    press(Qt::Key_PageUp);
+    QCOMPARE(m_rig.tabs()->currentIndex(), 2); // by way of the first step of the grid
+}
+
+void TestMainWindowConnections::geometryThatTheTestWindowReports_isShownByThePlacementPanel()
+{
+    m_rig.start(placed);
+    DrawContainer *window = MainWindowRig::testWindow();
+    window->resize(321, 223);
+    emit window->signal_drawWidgetSizeChange(321, 223);
+    QCOMPARE(shownPlacement(), QRect(50, 60, 321, 223));
+    window->move(12, 34);
+    emit window->signal_drawWidgetPositionChange(12, 34);
+    QCOMPARE(shownPlacement(), QRect(12, 34, 321, 223));
+}
+
+// And not as far as the window was large when it was built.
+void TestMainWindowConnections::draggedBorder_mayGoAsFarAsTheScreen()
+{
+    m_rig.start(placed);
+    DrawContainer *window = MainWindowRig::testWindow();
+    ScriptedPointer pointer(window);
+    pointer.drag(QPoint(249, 130), QPoint(649, 130));
+    QCOMPARE(window->geometry(), QRect(50, 60, 600, 200));
+    emit m_rig.find<DrawCtrlForm>()->signal_screenMaxSizeChanged(300, 200);
+    pointer.move(QPoint(648, 130), Qt::LeftButton);
+    QCOMPARE(window->width(), 301);
+}
+
+void TestMainWindowConnections::keysOfTheTestWindow_areTheProgramsToo()
+{
+    m_rig.start();
+    QTest::keyClick(MainWindowRig::testWindow(), Qt::Key_PageDown);
+    QCOMPARE(m_rig.tabs()->currentIndex(), 1);
+}
+
+void TestMainWindowConnections::homeAndEnd_showAndHideTheHints()
+{
+    m_rig.start();
+    MainWindowRig::testWindow()->resize(800, 400); // wide enough for all that Home shows
+    const auto picture = [] { return MainWindowRig::testWindow()->grab().toImage(); };
+    const QImage plain = picture();
+    press(Qt::Key_Home);
+    const QImage hint = picture();
+    press(Qt::Key_Home);
+    press(Qt::Key_End);
+    const QImage overlay = picture();
+    press(Qt::Key_End);
+    QVERIFY(hint != plain);
+    QVERIFY(overlay != plain);
+    QVERIFY(overlay != hint);
+    QCOMPARE(picture(), plain);
 }
 
 void TestMainWindowConnections::insertAndDelete_rampTheGridsGrey()

@@ -84,13 +84,20 @@ QVector<Stop> TestMainWindowPages::sequence()
 
 Stop TestMainWindowPages::stop()
 {
-    const int tab = m_rig.tabs()->currentIndex();
-    const auto *grid = m_rig.find<ScrGridCtrlDialog>();
-    if (tab == 1)
-        return {tab, m_rig.find<ScrPurityCtrlDialog>()->colorIndex, -1};
-    if (tab == 2)
-        return {tab, m_rig.find<GradualChangeCtrlWidget>()->m_colorIndex, -1};
-    return {tab, grid->colorIndex, grid->lineIndex};
+    const auto checked = [panel = m_rig.tabs()->currentWidget()](const QStringList &names) {
+        for (int index = 0; index < names.size(); ++index) {
+            const auto *button = panel->findChild<QAbstractButton *>(names.at(index));
+            if (button && button->isChecked())
+                return index;
+        }
+        return -1;
+    };
+    return {
+        m_rig.tabs()->currentIndex(),
+        checked({QStringLiteral("radioButtonRed"), QStringLiteral("radioButtonGreen"),
+                 QStringLiteral("radioButtonBlue"), QStringLiteral("radioButtonWhite")}),
+        checked({QStringLiteral("radioButtonHorizontal"), QStringLiteral("radioButtonVertical"),
+                 QStringLiteral("radioButtonSlantLeft"), QStringLiteral("radioButtonSlantRight")})};
 }
 
 QVector<Stop> TestMainWindowPages::walk(int steps, Key key)
