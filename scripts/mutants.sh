@@ -8,9 +8,10 @@
 # environment variable MUTANT has its number.
 set -euo pipefail
 
-# run PROGRAM SECONDS: runs a test program of this copy; its output goes to PROGRAM.log.
+# run PROGRAM SECONDS: runs a test program of this copy up to its first failure; its output goes to
+# PROGRAM.log.
 run() {
-  (cd "tests/$1" && timeout -k 5 "$2" "./$1") >"$1.log" 2>&1
+  (cd "tests/$1" && timeout -k 5 "$2" "./$1" 2>&1 | sed '/^FAIL!/q') >"$1.log"
 }
 
 # noticed: what fails without the statement $MUTANT, the likeliest and fastest programs first.
@@ -25,6 +26,21 @@ noticed() {
     return
   done <../plan
   echo SURVIVED
+}
+
+# distance PROGRAM FILE...: 0 if the program is named after one of the files, 1 if it tests their
+# folder, otherwise 2.
+distance() {
+  local program=$1 file stem nearest=2
+  shift
+  for file in "$@"; do
+    stem=$(basename "$file" .cpp)
+    case $program in "tst_${stem%%_*}"*) nearest=0 ;; esac
+    if [ "$nearest" -eq 2 ] && [ -e "../tests/$(dirname "$file")/$program.cpp" ]; then
+      nearest=1
+    fi
+  done
+  echo "$nearest"
 }
 
 # --one LINE: LINE of the list with what noticed, run in the copy of the test programs numbered MUTANTS_SLOT.
@@ -72,7 +88,7 @@ git ls-files -coz --exclude-standard | scripts/mutants.pl "$copy" "$@" >"$copy/l
 cd "$copy"
 configure release >configure.log
 
-# The test programs that link the sources' libraries, those of the sources' own folders first.
+# The test programs that link the sources' libraries.
 libraries=$(for source in "$@"; do
   sed -n "s|.*-o \([^ ]*\)/CMakeFiles/\([^/]*\)\.dir/[^ ]* -c .*/${source}\".*|\1/lib\2.a|p" build/compile_commands.json
 done | sort -u)
@@ -107,12 +123,7 @@ for program in "${programs[@]}"; do
     cat "$program.log" >&2
     exit 1
   fi
-  folder=$(cd "$copy" && dirname tests/*/"$program.cpp")
-  near=1
-  for source in "$@"; do
-    [ "tests/$(dirname "$source")" != "$folder" ] || near=0
-  done
-  echo "$near $SECONDS $program"
+  echo "$(distance "$program" "$@") $SECONDS $program"
 done | sort -k 1,1n -k 2,2n | cut -d ' ' -f 2- >../plan
 cd ../..
 

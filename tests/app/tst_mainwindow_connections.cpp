@@ -54,6 +54,7 @@ private slots:
     void draggedBorder_mayGoAsFarAsTheScreen();
     void homeAndEnd_showAndHideTheHints();
     void insertAndDelete_rampTheGridsGrey();
+    void insertAndDelete_startAndTurnThePurityRun();
     void stepOfTheGrid_stopsThePurityRun();
     void pageKey_stopsThePurityRunAndLetsTheGridGoOn();
     void startOfThePurityRun_stopsTheGrid();
@@ -340,6 +341,21 @@ void TestMainWindowConnections::insertAndDelete_rampTheGridsGrey()
         for (int tick = 0; tick < 5; ++tick)
             grid()->slot_TimerOut();
         QCOMPARE(m_rig.find<QSpinBox>("labelGrayLevel")->value(), grey);
+    }
+}
+
+void TestMainWindowConnections::insertAndDelete_startAndTurnThePurityRun()
+{
+    m_rig.start({{QStringLiteral("testAutoScale"), 100}});
+    press(Qt::Key_PageDown);
+    MainWindowRig::shownPixel(); // from here on the colour is what is shown
+    press(Qt::Key_Enter);
+    QVERIFY(isPurityRunning());
+    const std::pair<Qt::Key, int> ramps[] = {{Qt::Key_Enter, 101}, {Qt::Key_Backspace, 100}};
+    for (const auto &[key, grey] : ramps) {
+        press(key);
+        purity()->slot_AutoTimerFinished();
+        QCOMPARE(m_rig.find<QSpinBox>("spinBoxAutoScale")->value(), grey);
     }
 }
 
