@@ -1,5 +1,4 @@
 #include "drawcontainer.h"
-#include "drawctrlform.h"
 #include "mainwindowrig.h"
 #include "permissions.h"
 #include "startinspection.h"
@@ -8,7 +7,6 @@
 #include <QFile>
 #include <QSettings>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <random>
@@ -69,7 +67,6 @@ private slots:
     void readOnlyFolder_losesNothingButTheSaving();
     void unwritablePlace_losesNothingButTheSaving_data();
     void unwritablePlace_losesNothingButTheSaving();
-    void folderThatIsAFile_losesNothingButTheSaving();
     void longFile_startsWithItsValues();
 };
 
@@ -97,9 +94,7 @@ void TestHostileSettings::strangeFile_startsWithDefaults_data()
 
     QTest::newRow("missing") << false << QByteArray();
     QTest::newRow("empty") << true << QByteArray();
-    QTest::newRow("one line end") << true << QByteArray("\n");
     QTest::newRow("zeros") << true << QByteArray(4096, '\0');
-    QTest::newRow("binary garbage") << true << garbage(4096);
     QTest::newRow("megabytes of garbage") << true << garbage(4 << 20);
     QTest::newRow("a line of megabytes") << true << QByteArray(4 << 20, 'x');
     QTest::newRow("megabytes of sections") << true << QByteArray("[a]\n").repeated(1 << 20);
@@ -186,26 +181,6 @@ void TestHostileSettings::unwritablePlace_losesNothingButTheSaving()
     stepThrough(window);
     QCOMPARE(problemOf(window), QString());
     QCOMPARE(MainWindowRig::testWindow()->geometry(), QRect(44, 0, 256, 256));
-}
-
-void TestHostileSettings::folderThatIsAFile_losesNothingButTheSaving()
-{
-    const QTemporaryDir place;
-    const QString folder = place.filePath(QStringLiteral("application"));
-    QFile file(folder);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QSettings settings(folder + QStringLiteral("/config.ini"), QSettings::IniFormat);
-    QWidget testWindow(nullptr, Qt::FramelessWindowHint);
-    DrawCtrlForm panel(&testWindow, &settings, nullptr);
-    QCOMPARE(testWindow.geometry(), QRect(0, 0, 256, 256));
-
-    panel.findChild<QSpinBox *>(QStringLiteral("spinBoxX"))->setValue(44);
-    panel.saveWindowBaseInfo();
-    settings.sync();
-
-    QCOMPARE(settings.status(), QSettings::AccessError);
-    QCOMPARE(testWindow.geometry(), QRect(44, 0, 256, 256));
-    QCOMPARE(QFile(folder).size(), 0);
 }
 
 void TestHostileSettings::longFile_startsWithItsValues()
