@@ -37,6 +37,7 @@ sub is_expression {
     return 1 if $statement =~ /^(?:emit|delete)\b/;
     return 0 if $statement =~ /^(?:return|break|continue|using|typedef|static_assert|goto|throw|Q_UNUSED
         |if|else|for|while|do|switch|case|default|struct|class|enum|static|const|constexpr|auto|template)\b/x;
+    return 0 if $statement =~ /=\s*(?:default|delete);$/; # with the functions before it
     return 0 if $statement =~ /^[\w:]+(?:<[^;]*?>)?[\s*&]+[\w:]+\s*(?:[=;({\[,]|$)/; # declares a name
     return $statement =~ /^(?:[\w:(]|\*|\+\+|--)/;
 }
