@@ -35,6 +35,15 @@ int widestLine(const QString &text, const QFontMetrics &metrics)
     return widest;
 }
 
+// The same number of pixels on every desktop, however dense its screens are: that of 96 dots per
+// inch.
+QFont inPixels(QFont font)
+{
+    if (font.pointSizeF() > 0)
+        font.setPixelSize(qRound(font.pointSizeF() * 96 / 72));
+    return font;
+}
+
 QPoint globalPosition(const QMouseEvent &event)
 {
     return event.screenPos().toPoint();
@@ -51,8 +60,6 @@ DrawContainer::DrawContainer(QWidget *parent)
     setAttribute(Qt::WA_NoSystemBackground);
     // A tool window of an inactive program would vanish from a Mac's screen.
     setAttribute(Qt::WA_MacAlwaysShowToolWindow);
-    // As a mere utility window some X11 window managers would not let it fill the screen.
-    setAttribute(Qt::WA_X11NetWmWindowTypeDialog);
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
                    | Qt::CustomizeWindowHint);
     slot_setScreenMaxSize(width(), height());
@@ -220,6 +227,7 @@ void DrawContainer::paintEvent(QPaintEvent * /*event*/)
 void DrawContainer::drawMousePos()
 {
     QPainter painter(this);
+    painter.setFont(inPixels(font()));
     painter.setPen(Qt::white);
     const QPoint pointer = mapFromGlobal(QCursor::pos());
     QString text;
@@ -233,10 +241,11 @@ void DrawContainer::drawMousePos()
 
 void DrawContainer::drawHelperInfo()
 {
-    const int widest = widestLine(helpText, fontMetrics());
+    const int widest = widestLine(helpText, QFontMetrics(inPixels(font())));
     if (width() < widest + helperInfoMargin)
         return;
     QPainter painter(this);
+    painter.setFont(inPixels(font()));
     painter.setPen(Qt::white);
     const QPoint topLeft(width() - widest - helperInfoMargin, height() - helperInfoHeight);
     painter.drawText(QRect(topLeft, size()), 0, helpText);
@@ -244,7 +253,7 @@ void DrawContainer::drawHelperInfo()
 
 void DrawContainer::findWidgetEdge(const QPoint &pointer)
 {
-    edge = WindowEdge::at(frameGeometry(), pointer, edgeMargin);
+    edge = WindowEdge::at(geometry(), pointer, edgeMargin);
     setCursor(WindowEdge::cursor(edge));
 }
 
@@ -254,7 +263,7 @@ void DrawContainer::mousePressEvent(QMouseEvent *event)
         return;
     m_dragging = true;
     setCursor(Qt::PointingHandCursor);
-    dragOffset = globalPosition(*event) - pos();
+    dragOffset = globalPosition(*event) - geometry().topLeft();
 }
 
 void DrawContainer::mouseMoveEvent(QMouseEvent *event)
@@ -277,19 +286,20 @@ void DrawContainer::mouseMoveEvent(QMouseEvent *event)
 
 void DrawContainer::resizeTo(const QPoint &pointer)
 {
-    const QRect frame = frameGeometry();
+    const QRect frame = geometry();
     const QRect wanted = WindowEdge::resized(frame, edge, pointer, {minimumSize(), maximumSize()},
                                              {maxWidth, maxHeight});
     if (wanted == frame)
         return;
     setGeometry(wanted);
-    emit signal_drawWidgetSizeChange(frameGeometry().width(), frameGeometry().height());
+    emit signal_drawWidgetSizeChange(width(), height());
 }
 
 void DrawContainer::moveTo(const QPoint &pointer)
 {
-    move(pointer - dragOffset);
-    emit signal_drawWidgetPositionChange(pos().x(), pos().y());
+    // Some window managers put a border around it, which is not the operator's concern.
+    setGeometry(QRect(pointer - dragOffset, size()));
+    emit signal_drawWidgetPositionChange(geometry().x(), geometry().y());
 }
 
 void DrawContainer::showGeometryToolTip()
@@ -302,7 +312,7 @@ void DrawContainer::showGeometryToolTip()
                                .arg(now.y())
                                .arg(now.right() - now.left())
                                .arg(now.bottom() - now.top());
-    const QPoint place = pos() + QPoint(width(), height() - toolTipRise);
+    const QPoint place = geometry().topLeft() + QPoint(width(), height() - toolTipRise);
     QToolTip::showText(place, text, this, QRect(QPoint(width(), height()), toolTipRect));
 }
 

@@ -5,6 +5,7 @@
 #include "commonhelper.h"
 #include "form.h"
 #include "latin1.h"
+#include "placekeeper.h"
 #include "savesoon.h"
 #include "settingsrules.h"
 #include "sliderspinboxpair.h"
@@ -13,8 +14,6 @@
 #include <QDesktopWidget>
 #include <QScreen>
 #include <QSettings>
-#include <QTimer>
-#include <QWindowStateChangeEvent>
 
 #include <algorithm>
 
@@ -32,9 +31,6 @@ constexpr QLatin1String hidden = latin1("/setting/testWindowVisible");
 constexpr int defaultSize = 256;
 constexpr int sizeWithoutSettings = 200;
 
-// How long after it appears the window manager, and not the operator, moves a window.
-constexpr int windowIsNewMs = 1000;
-
 constexpr QLatin1String buttonStyleName = latin1("normalContentPushBtn");
 
 void step(QSlider *slider, int by)
@@ -42,12 +38,13 @@ void step(QSlider *slider, int by)
     slider->setValue(slider->value() + by);
 }
 
-bool isOnOneScreen(const QRect &place)
+QVector<QRect> screenGeometries()
 {
+    QVector<QRect> geometries;
     const QList<QScreen *> screens = QGuiApplication::screens();
-    return std::any_of(screens.cbegin(), screens.cend(), [&](const QScreen *screen) {
-        return screen->availableGeometry().contains(place);
-    });
+    for (const QScreen *screen : screens)
+        geometries.append(screen->geometry());
+    return geometries;
 }
 
 } // namespace
@@ -58,6 +55,7 @@ DrawCtrlForm::DrawCtrlForm(QWidget *testWindow_, QSettings *settings_, QWidget *
     , testWindow(testWindow_)
     , settings(settings_)
     , m_saveSoon(new SaveSoon([this] { saveWindowBaseInfo(); }, this))
+    , m_keeper(new PlaceKeeper(testWindow, new ManagerEcho, this))
 {
     ui->pushButtonShow->setObjectName(buttonStyleName);
     ui->pushButtonHide->setObjectName(buttonStyleName);
@@ -82,6 +80,7 @@ void DrawCtrlForm::initSlots()
     connect(ui->hScrollBarY, &QSlider::valueChanged, this, &DrawCtrlForm::slot_MoveY);
     connect(ui->hScrollBarWidth, &QSlider::valueChanged, this, &DrawCtrlForm::slot_resetWidth);
     connect(ui->hScrollBarHeight, &QSlider::valueChanged, this, &DrawCtrlForm::slot_resetHeight);
+    connect(m_keeper, &PlaceKeeper::displaced, this, &DrawCtrlForm::follow);
     connect(ui->pushButtonShow, &QPushButton::clicked, this, &DrawCtrlForm::slot_showPushed);
     connect(ui->pushButtonHide, &QPushButton::clicked, this, &DrawCtrlForm::slot_HidePushed);
 }
@@ -113,13 +112,16 @@ void DrawCtrlForm::getScreenSize()
 {
     desktop = QApplication::desktop();
     QSize sum(0, 0);
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    for (const QScreen *screen : screens)
-        sum += screen->geometry().size();
+    QRegion region;
+    const QVector<QRect> screens = screenGeometries();
+    for (const QRect &screen : screens) {
+        sum += screen.size();
+        region += screen;
+    }
     setRanges(sum);
     setControls(m_placement);
-    if (controlsRectangle() == m_placement)
-        applyControls();
+    if (controlsRectangle() == m_placement && region.intersects(m_placement))
+        m_keeper->setPlace(m_placement);
     emit signal_screenMaxSizeChanged(sum.width(), sum.height());
 }
 
@@ -173,7 +175,7 @@ void DrawCtrlForm::slot_dealScreenChange(int /*screen*/)
 void DrawCtrlForm::initWindowPosition()
 {
     if (!settings) {
-        place({0, 0, sizeWithoutSettings, sizeWithoutSettings});
+        restore({0, 0, sizeWithoutSettings, sizeWithoutSettings});
         return;
     }
     // Far beyond every desktop, and small enough to add up as the edges of a rectangle.
@@ -183,67 +185,63 @@ void DrawCtrlForm::initWindowPosition()
     // A stored height is answered with the stored width: a restart gives a square window. Wanted.
     const int width = stored(Key::width) < 1 ? defaultSize : stored(Key::width);
     const int height = stored(Key::height) < 1 ? defaultSize : stored(Key::width);
-    place({stored(Key::x), stored(Key::y), width, height});
+    restore({stored(Key::x), stored(Key::y), width, height});
     setTestWindowShown(!settings->value(Key::hidden).toBool());
+}
+
+void DrawCtrlForm::restore(const QRect &rectangle)
+{
+    m_placement = rectangle;
+    m_screens = screenGeometries();
+    setControls(rectangle);
+    m_keeper->setPlace(controlsRectangle());
+}
+
+// Notes what the operator has changed, and returns it as far as the ranges allow. What he leaves
+// alone stays as it is, in the file too, even if it is beyond the ranges just now.
+QRect DrawCtrlForm::adopt(const QRect &rectangle)
+{
+    const QRect before = m_keeper->place();
+    setControls(rectangle);
+    const QRect within = controlsRectangle();
+    const auto changed = [&](const QRect &kept) {
+        const auto pick = [&](int (QRect::*value)() const) {
+            return (rectangle.*value)() == (before.*value)() ? (kept.*value)() : (within.*value)();
+        };
+        return QRect(pick(&QRect::x), pick(&QRect::y), pick(&QRect::width), pick(&QRect::height));
+    };
+    m_placement = changed(m_placement);
+    m_screens = screenGeometries();
+    m_saveSoon->schedule();
+    return changed(before);
 }
 
 void DrawCtrlForm::place(const QRect &rectangle)
 {
-    m_placement = rectangle;
-    setControls(rectangle);
-    applyControls();
+    m_keeper->setPlace(adopt(rectangle));
 }
 
-// All four values at once: the window's own idea of its place may lag behind the window manager.
-// A full screen is left alone, since it would not come back from full screen as it was: what
-// changes meanwhile is applied when it ends.
-void DrawCtrlForm::applyControls()
-{
-    if (!testWindow->isFullScreen())
-        testWindow->setGeometry(controlsRectangle());
-}
-
-bool DrawCtrlForm::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched != testWindow)
-        return QWidget::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::WindowStateChange:
-        if (static_cast<QWindowStateChangeEvent *>(event)->oldState() & Qt::WindowFullScreen)
-            applyControls();
-        break;
-    case QEvent::Show:
-        m_sinceShown.start();
-        break;
-    case QEvent::Move:
-        keepPlaceOfNewWindow();
-        break;
-    default:
-        break;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-// Window managers like to pull a new window on to one screen; once it is there, they obey.
-void DrawCtrlForm::keepPlaceOfNewWindow()
-{
-    const QRect place = controlsRectangle();
-    if (!m_sinceShown.isValid() || testWindow->pos() == place.topLeft())
-        return;
-    const bool isNew = m_sinceShown.elapsed() < windowIsNewMs;
-    m_sinceShown.invalidate();
-    if (isNew && !isOnOneScreen(place))
-        QTimer::singleShot(0, this, &DrawCtrlForm::applyControls);
-}
-
-// The mouse has placed the test window at this rectangle.
+// Somebody else has moved the test window: the operator, by means of the window manager, or that of
+// its own accord because a screen is gone.
 void DrawCtrlForm::follow(const QRect &rectangle)
 {
+    if (m_screens == screenGeometries())
+        adopt(rectangle);
+    m_keeper->accept(rectangle);
     setControls(rectangle);
-    m_placement = controlsRectangle();
-    if (m_placement != rectangle)
-        applyControls();
-    m_saveSoon->schedule();
+}
+
+// Whoever shows or hides the test window; but what is minimised is not hidden.
+bool DrawCtrlForm::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isShown = event->type() == QEvent::Show;
+    const bool isOfInterest = isShown || event->type() == QEvent::Hide;
+    if (watched == testWindow && isOfInterest && !event->spontaneous()
+        && ui->pushButtonHide->isEnabled() != isShown) {
+        showVisibility(isShown);
+        m_saveSoon->schedule();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void DrawCtrlForm::setTestWindowShown(bool shown)
@@ -285,14 +283,14 @@ void DrawCtrlForm::updateLanguage()
 
 void DrawCtrlForm::slot_showPushed()
 {
-    setTestWindowShown(true);
-    m_saveSoon->schedule();
+    testWindow->show();
+    slot_disableShowButton();
 }
 
 void DrawCtrlForm::slot_HidePushed()
 {
-    setTestWindowShown(false);
-    m_saveSoon->schedule();
+    testWindow->hide();
+    slot_enableShowButton();
 }
 
 void DrawCtrlForm::slot_enableShowButton()
@@ -309,30 +307,28 @@ void DrawCtrlForm::slot_disableShowButton()
 
 void DrawCtrlForm::slot_MoveX(int x)
 {
-    QRect rectangle = m_placement;
+    QRect rectangle = m_keeper->place();
     rectangle.moveLeft(x);
     place(rectangle);
-    m_saveSoon->schedule();
 }
 
 void DrawCtrlForm::slot_MoveY(int y)
 {
-    QRect rectangle = m_placement;
+    QRect rectangle = m_keeper->place();
     rectangle.moveTop(y);
     place(rectangle);
-    m_saveSoon->schedule();
 }
 
 void DrawCtrlForm::slot_resetWidth(unsigned int width)
 {
-    place({m_placement.topLeft(), QSize(static_cast<int>(width), m_placement.height())});
-    m_saveSoon->schedule();
+    const QRect now = m_keeper->place();
+    place({now.topLeft(), QSize(static_cast<int>(width), now.height())});
 }
 
 void DrawCtrlForm::slot_resetHeight(unsigned int height)
 {
-    place({m_placement.topLeft(), QSize(m_placement.width(), static_cast<int>(height))});
-    m_saveSoon->schedule();
+    const QRect now = m_keeper->place();
+    place({now.topLeft(), QSize(now.width(), static_cast<int>(height))});
 }
 
 // The sliders stop at the ends of their ranges, so every key step is one pixel or none.
@@ -379,10 +375,10 @@ void DrawCtrlForm::slot_keyCtrlRightPressed()
 // A border at the top or the left moves the window too.
 void DrawCtrlForm::slot_drawWidgetSizeChange(int width, int height)
 {
-    follow({testWindow->pos(), QSize(width, height)});
+    place({testWindow->geometry().topLeft(), QSize(width, height)});
 }
 
 void DrawCtrlForm::slot_drawWidgetPositionChange(int x, int y)
 {
-    follow({QPoint(x, y), testWindow->size()});
+    place({QPoint(x, y), testWindow->size()});
 }

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QRect>
 #include <QSignalBlocker>
+#include <QVector>
 #include <QWidget>
 
 #include <memory>
 #include <vector>
 
+class PlaceKeeper;
 class QDesktopWidget;
 class QSettings;
 class SaveSoon;
@@ -70,9 +71,9 @@ private:
     std::vector<QSignalBlocker> blockControls();
     void setControls(const QRect &rectangle);
     QRect controlsRectangle() const;
+    void restore(const QRect &rectangle);
+    QRect adopt(const QRect &rectangle);
     void place(const QRect &rectangle);
-    void applyControls();
-    void keepPlaceOfNewWindow();
     void follow(const QRect &rectangle);
     void setTestWindowShown(bool shown);
     void showVisibility(bool shown);
@@ -82,6 +83,7 @@ private:
     QSettings *settings;
     QDesktopWidget *desktop = nullptr;
     SaveSoon *m_saveSoon;
-    QElapsedTimer m_sinceShown; // invalid once the window manager has had its say
+    PlaceKeeper *m_keeper;
     QRect m_placement; // asked for by the operator; the controls clip it to the desktop
+    QVector<QRect> m_screens; // as they were then
 };

@@ -95,7 +95,11 @@ bool MainWindowRig::overlaySays(const QString &text)
     DrawContainer *window = testWindow();
     QCursor::setPos(window->mapToGlobal(QPoint(-50, -50))); // outside: no coordinates in the text
     ExpectedOverlay expected(window->grab(), text);
-    expected.setFont(window->font());
+    // In the size in pixels that it has at 96 dots per inch.
+    QFont font = window->font();
+    if (font.pointSizeF() > 0)
+        font.setPixelSize(qRound(font.pointSizeF() / 0.75));
+    expected.setFont(font);
     expected.resize(window->size());
     window->slot_keyEndPressed();
     const QImage overlay = window->grab().toImage();

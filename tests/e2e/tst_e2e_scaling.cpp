@@ -1,4 +1,5 @@
 #include "endtoendtest.h"
+#include "waiting.h"
 
 #include <QTest>
 
@@ -16,6 +17,10 @@ protected:
 private slots:
     void windowOf256_covers256ScreenPixels_data();
     void windowOf256_covers256ScreenPixels();
+    void overlays_lookTheSameOnADenserScreen();
+
+private:
+    QImage overlays(int dotsPerInch);
 };
 
 // So dense a screen makes Qt choose a scale of two where it is allowed to.
@@ -58,6 +63,36 @@ void tst_e2e_scaling::windowOf256_covers256ScreenPixels()
     QCOMPARE(tool().testWindow().geometry, place);
     QVERIFY(desktop().screen().isFilled(place, Green254));
     QCOMPARE(desktop().screen().count(desktop().screen().rect(), Green254), 256 * 256);
+}
+
+/// The reminder and the text at the centre of a test window, on a desktop of its own.
+QImage tst_e2e_scaling::overlays(int dotsPerInch)
+{
+    const QRect place(0, 0, 590, 590);
+    VirtualDesktop sharp(std::make_unique<XvfbServer>(VirtualDesktop::DefaultSize, dotsPerInch));
+    if (!sharp.start())
+        return {};
+    ToolProcess program(sharp);
+    program.writeConfig({{QStringLiteral("/setting/testWindowWidth"), place.width()},
+                         {QStringLiteral("/setting/testWindowHeight"), place.height()}});
+    sharp.mouse().move(sharp.screen().rect().bottomRight());
+    if (!program.start() || !program.focusControlWindow())
+        return {};
+    const auto written = [&] { return sharp.screen().count(place, qRgb(255, 255, 255)); };
+    const auto comesWith = [&](const char *key) {
+        const int before = written();
+        sharp.keyboard().key(key);
+        return waitFor([&] { return written() > before; });
+    };
+    sharp.windows().move(program.controlWindow().id, {600, 480});
+    return comesWith("Home") && comesWith("End") ? sharp.screen().grab(place) : QImage();
+}
+
+void tst_e2e_scaling::overlays_lookTheSameOnADenserScreen()
+{
+    const QImage usual = overlays(96);
+    QVERIFY(!usual.isNull());
+    QCOMPARE(overlays(192), usual);
 }
 
 QTEST_GUILESS_MAIN(tst_e2e_scaling)

@@ -21,6 +21,8 @@ private slots:
     void fullScreen_coversTheScreenOfTheTestWindow_data();
     void fullScreen_coversTheScreenOfTheTestWindow();
     void unplugging_keepsTheTestWindow_andPluggingInBringsItBack();
+    void fullScreen_comesBackWithItsScreen();
+    void dragWhileAScreenIsOff_changesThePlaceAlone();
     void controlWindow_leavesAScreenThatIsGone();
 
 protected:
@@ -278,6 +280,44 @@ void tst_e2e_screens::unplugging_keepsTheTestWindow_andPluggingInBringsItBack()
     QVERIFY(testWindowCovers(OnTheRight));
     QVERIFY2(tool().quit(), qPrintable(tool().problem()));
     QCOMPARE(stored(), OnTheRight);
+}
+
+void tst_e2e_screens::fullScreen_comesBackWithItsScreen()
+{
+    plugIn("--right-of");
+    startAt(OnTheRight);
+    desktop().keyboard().key("f", Qt::ShiftModifier);
+    QVERIFY(testWindowCovers(Right));
+
+    for (int turn = 0; turn < 2; ++turn) {
+        unplug();
+        handleScreenChange();
+        plugIn("--right-of");
+        QVERIFY(testWindowCovers(Right));
+    }
+    QVERIFY(tool().focusControlWindow());
+    desktop().keyboard().key("f", Qt::ShiftModifier);
+    QVERIFY(testWindowCovers(OnTheRight));
+    QCOMPARE(stored(), OnTheRight);
+}
+
+void tst_e2e_screens::dragWhileAScreenIsOff_changesThePlaceAlone()
+{
+    const QRect place(100, 100, 3000, 3000);
+    plugIn("--right-of");
+    startAt(place);
+    QVERIFY(testWindowCovers({place.topLeft(), QSize(3000, 2160)}));
+
+    unplug();
+    handleScreenChange();
+    const QPoint from = tool().testWindow().geometry.topLeft() + QPoint(300, 200);
+    desktop().mouse().drag(from, from + QPoint(40, 30));
+    QVERIFY(waitFor([&] { return stored().topLeft() != place.topLeft(); }));
+    QVERIFY(waitFor([&] { return stored().topLeft() == tool().testWindow().geometry.topLeft(); }));
+    QCOMPARE(stored().width(), 3000);
+
+    plugIn("--right-of");
+    QVERIFY(testWindowCovers({stored().topLeft(), QSize(3000, 2160)}));
 }
 
 void tst_e2e_screens::controlWindow_leavesAScreenThatIsGone()

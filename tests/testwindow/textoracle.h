@@ -12,6 +12,14 @@ inline QPalette blackPalette()
     return palette;
 }
 
+// The window's own texts have the size in pixels that they have at 96 dots per inch.
+inline QFont overlayFont(QFont font)
+{
+    if (font.pointSizeF() > 0)
+        font.setPixelSize(qRound(font.pointSizeF() / 0.75));
+    return font;
+}
+
 inline QImage picture(QWidget &widget)
 {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
@@ -24,7 +32,7 @@ public:
     TextOracle(const QSize &size, const QFont &font)
     {
         setPalette(blackPalette());
-        setFont(font);
+        setFont(overlayFont(font));
         resize(size);
     }
 

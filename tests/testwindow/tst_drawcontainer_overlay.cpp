@@ -33,7 +33,7 @@ int widestLine(const QString &text, const QFont &font)
     int widest = 0;
     const QStringList lines = text.split(QLatin1Char('\n'));
     for (const QString &line : lines)
-        widest = qMax(widest, textWidth(QFontMetrics(font), line));
+        widest = qMax(widest, textWidth(QFontMetrics(overlayFont(font)), line));
     return widest;
 }
 
@@ -179,7 +179,7 @@ void TestDrawContainerOverlay::mousePosition_startsAtTheMiddle()
     const QImage image = picture(*m_window);
     const QString text = QStringLiteral(":88888");
     QCOMPARE(image, TextOracle(size, m_window->font()).with(start, text).image());
-    const QFontMetrics metrics(m_window->font());
+    const QFontMetrics metrics(overlayFont(m_window->font()));
     const QRect lit = litRectangle(image);
     QVERIFY(!lit.isNull());
     QVERIFY(QRect(start, QSize(textWidth(metrics, text) + 1, metrics.height())).contains(lit));

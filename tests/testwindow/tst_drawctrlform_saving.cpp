@@ -86,7 +86,7 @@ bool waitPastTheDeadline()
 
 } // namespace
 
-using Change = std::function<void(const PlacementPanel &)>;
+using Change = std::function<void(PlacementPanel &)>;
 Q_DECLARE_METATYPE(Change)
 
 // When the panel writes to the settings file, and when it does not.
@@ -101,6 +101,7 @@ private slots:
     void placeBeyondTheDesktop_survivesARunWithoutAChange();
     void change_reachesTheFileWithinASecond_data();
     void change_reachesTheFileWithinASecond();
+    void fullScreenWhileHidden_showsTheWindowInTheFileToo();
     void changes_inARunAreSavedTogether();
     void changes_thatGoOnAreSavedMeanwhile();
     void destruction_savesWhatIsStillDue();
@@ -198,6 +199,9 @@ void TestDrawCtrlFormSaving::change_reachesTheFileWithinASecond_data()
     add(
         "hidden by itself", [](const PlacementPanel &p) { p.form->slot_enableShowButton(); },
         "Visible=true\n");
+    add(
+        "hidden by nobody in particular", [](PlacementPanel &p) { p.target.hide(); },
+        "Visible=true\n");
 }
 
 void TestDrawCtrlFormSaving::change_reachesTheFileWithinASecond()
@@ -206,7 +210,7 @@ void TestDrawCtrlFormSaving::change_reachesTheFileWithinASecond()
     QFETCH(QByteArray, line);
     TestSettings settings(savedPlacement());
     settings.reopen();
-    const PlacementPanel panel(settings.get());
+    PlacementPanel panel(settings.get());
     QVERIFY(!onDisk(settings).contains(line));
 
     QElapsedTimer sinceChange;
@@ -215,6 +219,22 @@ void TestDrawCtrlFormSaving::change_reachesTheFileWithinASecond()
     QTRY_VERIFY(onDisk(settings).contains(line));
 
     QVERIFY(sinceChange.elapsed() < 1000);
+}
+
+void TestDrawCtrlFormSaving::fullScreenWhileHidden_showsTheWindowInTheFileToo()
+{
+    QVariantMap values = savedPlacement();
+    values[keyVisible] = true;
+    TestSettings settings(values);
+    settings.reopen();
+    PlacementPanel panel(settings.get());
+    QVERIFY(panel.showButton()->isEnabled());
+
+    panel.target.showFullScreen();
+
+    QVERIFY(!panel.showButton()->isEnabled());
+    QVERIFY(panel.hideButton()->isEnabled());
+    QTRY_VERIFY(onDisk(settings).contains("Visible=false\n"));
 }
 
 void TestDrawCtrlFormSaving::changes_inARunAreSavedTogether()

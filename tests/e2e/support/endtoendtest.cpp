@@ -9,6 +9,14 @@
 namespace {
 /// Clear of a test window of the default size in the upper left corner.
 constexpr QPoint ControlWindowPlace = QPoint(600, 480);
+constexpr int WidestFrame = 50;
+/// A change is on the disk within a second; as much again for the test to look.
+constexpr int StoreDeadline = 2000;
+
+QString placeKey(const char *name)
+{
+    return QStringLiteral("/setting/testWindow") + QLatin1String(name);
+}
 } // namespace
 
 std::unique_ptr<VirtualDesktop> EndToEndTest::createDesktop() const
@@ -53,14 +61,41 @@ bool EndToEndTest::startTool(ToolProcess::TestWindow testWindow)
     }
     const WindowId control = tool().controlWindow().id;
     m_desktop->windows().move(control, ControlWindowPlace);
+    // Some window managers put a frame around it.
     const auto isInPlace = [&] {
-        return m_desktop->windows().info(control).geometry.topLeft() == ControlWindowPlace;
+        const QPoint place = m_desktop->windows().info(control).geometry.topLeft();
+        return (place - ControlWindowPlace).manhattanLength() < WidestFrame;
     };
     if (!waitFor(isInPlace) || !tool().focusControlWindow()) {
         qWarning("The control window takes neither place nor keyboard");
         return false;
     }
     return true;
+}
+
+bool EndToEndTest::startToolAt(const QRect &place)
+{
+    tool().writeConfig({{placeKey("PointX"), place.x()},
+                        {placeKey("PointY"), place.y()},
+                        {placeKey("Width"), place.width()},
+                        {placeKey("Height"), place.height()}});
+    return startTool();
+}
+
+QRect EndToEndTest::stored()
+{
+    const auto value = [this](const char *name) {
+        return tool().configValue(placeKey(name)).toInt();
+    };
+    return {value("PointX"), value("PointY"), value("Width"), value("Height")};
+}
+
+bool EndToEndTest::isStored(const QRect &place)
+{
+    if (waitFor([&] { return stored() == place; }, StoreDeadline))
+        return true;
+    qWarning() << stored() << "is stored and not" << place;
+    return false;
 }
 
 bool EndToEndTest::isTestWindowFilled(QRgb colour)

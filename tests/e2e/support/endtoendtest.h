@@ -30,6 +30,15 @@ protected:
     /// if that fails.
     bool startTool(ToolProcess::TestWindow testWindow = ToolProcess::TestWindow::Shown);
 
+    /// The same with the test window stored at this place, a square; does not wait until it is
+    /// there.
+    bool startToolAt(const QRect &place);
+    /// The test window's place in "config.ini".
+    QRect stored();
+    /// Whether this place is stored once the time that a change may take has passed; logs what is
+    /// stored instead if not.
+    bool isStored(const QRect &place);
+
     /// Whether every pixel of the test window's place shows this colour.
     bool isTestWindowFilled(QRgb colour);
     /// The same, once it has come to be so within the usual deadline; logs what

@@ -138,12 +138,13 @@ bool ToolProcess::waitForStart(TestWindow testWindow)
     const auto hasWindows = [&] {
         return this->testWindow().isMapped == isShown && controlWindow().id != 0;
     };
-    waitFor([&] { return hasWindows() || !isRunning(); }, StartDeadline);
+    bool isShowing = false;
+    waitFor([&] { return (isShowing = hasWindows()) || !isRunning(); }, StartDeadline);
     if (!isRunning()) {
         m_problem = QStringLiteral("The program ended while it started");
         return false;
     }
-    if (!hasWindows()) {
+    if (!isShowing) {
         m_problem = QStringLiteral("The program's windows do not appear");
         return false;
     }

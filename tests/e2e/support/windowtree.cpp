@@ -2,6 +2,7 @@
 
 #include "waiting.h"
 
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
@@ -91,6 +92,61 @@ void WindowTree::move(WindowId window, const QPoint &position)
     m_connection.sync();
 }
 
+void WindowTree::place(WindowId window, const QRect &place)
+{
+    XMoveResizeWindow(m_connection.display(), window, place.x(), place.y(),
+                      static_cast<unsigned>(place.width()), static_cast<unsigned>(place.height()));
+    m_connection.sync();
+}
+
+WindowId WindowTree::createWindow(const QRect &place, QRgb colour)
+{
+    const WindowId window =
+        XCreateSimpleWindow(m_connection.display(), m_connection.root(), place.x(), place.y(),
+                            static_cast<unsigned>(place.width()),
+                            static_cast<unsigned>(place.height()), 0, 0, colour & RGB_MASK);
+    XSizeHints hints = {};
+    hints.flags = USPosition | USSize;
+    hints.x = place.x();
+    hints.y = place.y();
+    hints.width = place.width();
+    hints.height = place.height();
+    XSetWMNormalHints(m_connection.display(), window, &hints);
+    return window;
+}
+
+std::unique_ptr<WindowTree::OwnWindow> WindowTree::show(WindowId window)
+{
+    XMapWindow(m_connection.display(), window);
+    m_connection.sync();
+    return std::make_unique<OwnWindow>(m_connection, window);
+}
+
+WindowTree::OwnWindow::~OwnWindow()
+{
+    XDestroyWindow(m_connection.display(), m_id);
+    m_connection.sync();
+}
+
+std::unique_ptr<WindowTree::OwnWindow> WindowTree::addWindow(const QRect &place, QRgb colour)
+{
+    return show(createWindow(place, colour));
+}
+
+std::unique_ptr<WindowTree::OwnWindow> WindowTree::addDock(const QRect &place, QRgb colour)
+{
+    const WindowId window = createWindow(place, colour);
+    const Atom type = m_connection.atom("_NET_WM_WINDOW_TYPE_DOCK");
+    XChangeProperty(m_connection.display(), window, m_connection.atom("_NET_WM_WINDOW_TYPE"),
+                    XA_ATOM, 32, PropModeReplace, reinterpret_cast<const unsigned char *>(&type),
+                    1);
+    const long strut[12] = {0, 0, 0, place.height(), 0, 0, 0, 0, 0, 0, place.left(), place.right()};
+    XChangeProperty(m_connection.display(), window, m_connection.atom("_NET_WM_STRUT_PARTIAL"),
+                    XA_CARDINAL, 32, PropModeReplace,
+                    reinterpret_cast<const unsigned char *>(strut), 12);
+    return show(window);
+}
+
 void WindowTree::askWindowManager(WindowId window, const char *message, long first, long second)
 {
     XEvent event = {};
@@ -137,8 +193,9 @@ bool WindowTree::hasWindowManager() const
 
 bool WindowTree::syncWithWindowManager()
 {
-    XDeleteProperty(m_connection.display(), m_ownWindow, m_connection.atom("_NET_FRAME_EXTENTS"));
-    askWindowManager(m_ownWindow, "_NET_REQUEST_FRAME_EXTENTS", 0, 0);
-    return waitFor(
-        [this] { return !m_connection.property(m_ownWindow, "_NET_FRAME_EXTENTS").isEmpty(); });
+    // Every window manager has to let a window that it does not manage have its way.
+    ++m_syncNumber;
+    XMoveWindow(m_connection.display(), m_ownWindow, m_syncNumber, 0);
+    m_connection.sync();
+    return waitFor([this] { return info(m_ownWindow).geometry.x() == m_syncNumber; });
 }

@@ -2,9 +2,12 @@
 
 #include "xconnection.h"
 
+#include <QColor>
 #include <QRect>
 #include <QString>
 #include <QVector>
+
+#include <memory>
 
 /// A top-level window of some client, as the X server knew it when asked.
 struct WindowInfo
@@ -41,6 +44,30 @@ public:
     void close(WindowId window);
     /// Moves its client area to this place in root coordinates.
     void move(WindowId window, const QPoint &position);
+    /// Moves and resizes its client area to this place in root coordinates.
+    void place(WindowId window, const QRect &place);
+
+    /// A window of this test's own, there until its owner lets go of it.
+    class OwnWindow
+    {
+    public:
+        OwnWindow(XConnection &connection, WindowId id)
+            : m_connection(connection)
+            , m_id(id)
+        { }
+        ~OwnWindow();
+        Q_DISABLE_COPY(OwnWindow)
+
+        WindowId id() const { return m_id; }
+
+    private:
+        XConnection &m_connection;
+        WindowId m_id;
+    };
+    /// An ordinary window with this client area, as far as the window manager agrees.
+    std::unique_ptr<OwnWindow> addWindow(const QRect &place, QRgb colour);
+    /// A panel at the lower edge of the screen.
+    std::unique_ptr<OwnWindow> addDock(const QRect &place, QRgb colour);
 
     /// Whether the program behind the window handles its events: sends a ping
     /// and waits for the answer, but no longer than \a deadlineMs (scaled).
@@ -52,6 +79,8 @@ public:
     bool syncWithWindowManager();
 
 private:
+    WindowId createWindow(const QRect &place, QRgb colour);
+    std::unique_ptr<OwnWindow> show(WindowId window);
     void collect(WindowId parent, int depth, qint64 processId, QVector<WindowInfo> &found) const;
     void askWindowManager(WindowId window, const char *message, long first, long second);
 
@@ -59,4 +88,5 @@ private:
     /// Never mapped; asking about it is how to know that the window manager answers.
     WindowId m_ownWindow = 0;
     long m_pingNumber = 0;
+    int m_syncNumber = 0;
 };
