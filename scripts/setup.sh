@@ -2,7 +2,7 @@
 # Installs what is missing to run the tool, to test it, to check it as CI does
 # or to take pictures of it; says and does nothing if all of it is there.
 #
-# Usage: scripts/setup.sh run|test|ci|pictures
+# Usage: scripts/setup.sh run|test|ci|managers|pictures
 set -euo pipefail
 
 build_packages=(build-essential cmake ninja-build pkg-config
@@ -11,6 +11,8 @@ font_packages=(fonts-noto-cjk fonts-dejavu-core fonts-liberation)
 virtual_desktop_packages=(xvfb openbox imagemagick x11-utils)
 test_packages=(libx11-dev libxtst-dev libxext-dev libxfixes-dev libxdamage-dev libxrandr-dev libsm-dev libice-dev libbenchmark-dev
   xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils)
+manager_packages=(dbus-daemon kwin-x11 mutter xfwm4)
+all_manager_packages=("${manager_packages[@]}" metacity icewm i3-wm awesome fluxbox)
 picture_packages=("${virtual_desktop_packages[@]}" xdotool)
 check_packages=(git clang-format clang-tidy clazy shellcheck xdotool)
 
@@ -25,16 +27,19 @@ case $purpose in
     fi
     ;;
   test | ci)
-    packages+=("${virtual_desktop_packages[@]}" "${test_packages[@]}")
+    packages+=("${virtual_desktop_packages[@]}" "${test_packages[@]}" "${manager_packages[@]}")
     if [ "$purpose" = ci ]; then
       packages+=("${check_packages[@]}")
     fi
+    ;;
+  managers)
+    packages+=("${virtual_desktop_packages[@]}" "${test_packages[@]}" "${all_manager_packages[@]}")
     ;;
   pictures)
     packages+=("${picture_packages[@]}")
     ;;
   *)
-    echo "Usage: scripts/setup.sh run|test|ci|pictures" >&2
+    echo "Usage: scripts/setup.sh run|test|ci|managers|pictures" >&2
     exit 2
     ;;
 esac
@@ -47,7 +52,7 @@ if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
     echo "setup: there is no apt-get here; please install, if missing: a C++17 compiler," \
       "CMake 3.16 or newer, Ninja, Qt 5.9 or newer of the 5 series (Widgets, Test and" \
       "LinguistTools; on macOS Homebrew's qt@5, its prefix in CMAKE_PREFIX_PATH)," \
-      "a Chinese font; for the end-to-end tests also Xvfb, openbox, xrandr, xprop, ImageMagick" \
+      "a Chinese font; for the end-to-end tests also Xvfb, dbus-run-session, openbox, kwin_x11, mutter, xfwm4, xrandr, xprop, ImageMagick" \
       "and the development files of libX11, libXtst, libXext, libXfixes, libXdamage, libXrandr, libSM and libICE." >&2
   fi
   exit 0
