@@ -25,7 +25,6 @@ private slots:
 
 private:
     void startAt(const QRect &place);
-    bool isStored(const QRect &place);
     bool isStoredHidden(bool hidden);
     bool becomesHidden(bool hidden);
     void clickPanelAt(const QPoint &place);
@@ -52,25 +51,8 @@ QString key(const char *name)
 
 void tst_e2e_placement::startAt(const QRect &place)
 {
-    tool().writeConfig({{key("PointX"), place.x()},
-                        {key("PointY"), place.y()},
-                        {key("Width"), place.width()},
-                        {key("Height"), place.height()}});
-    QVERIFY(startTool());
+    QVERIFY(startToolAt(place));
     QVERIFY(testWindowCovers(place));
-}
-
-bool tst_e2e_placement::isStored(const QRect &place)
-{
-    const auto stored = [this] {
-        return QRect(
-            tool().configValue(key("PointX")).toInt(), tool().configValue(key("PointY")).toInt(),
-            tool().configValue(key("Width")).toInt(), tool().configValue(key("Height")).toInt());
-    };
-    if (waitFor([&] { return stored() == place; }, StoreDeadline))
-        return true;
-    qWarning() << stored() << "is stored and not" << place;
-    return false;
 }
 
 /// The key says "visible" and means hidden.

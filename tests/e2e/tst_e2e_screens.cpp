@@ -32,9 +32,7 @@ protected:
 private:
     void plugIn(const char *relation);
     void unplug();
-    void startAt(const QRect &place);
     void handleScreenChange();
-    QRect stored();
     bool isStored(const char *name, int value);
 
     mutable DummyServer *m_server = nullptr; // owned by the desktop
@@ -93,27 +91,12 @@ void tst_e2e_screens::unplug()
     QVERIFY2(m_server->unplug(second()), qPrintable(m_server->outputProblem()));
 }
 
-void tst_e2e_screens::startAt(const QRect &place)
-{
-    tool().writeConfig({{key("PointX"), place.x()},
-                        {key("PointY"), place.y()},
-                        {key("Width"), place.width()},
-                        {key("Height"), place.height()}});
-    QVERIFY(startTool());
-}
-
 /// Returns when the window manager and the program have handled it.
 void tst_e2e_screens::handleScreenChange()
 {
     QVERIFY(desktop().windows().syncWithWindowManager());
     for (int turn = 0; turn < 2; ++turn)
         QVERIFY(desktop().windows().answersPing(tool().controlWindow().id));
-}
-
-QRect tst_e2e_screens::stored()
-{
-    const auto value = [this](const char *name) { return tool().configValue(key(name)).toInt(); };
-    return {value("PointX"), value("PointY"), value("Width"), value("Height")};
 }
 
 bool tst_e2e_screens::isStored(const char *name, int value)
@@ -184,7 +167,7 @@ void tst_e2e_screens::sideBySide_rangesAreTheSumsOfBothScreens()
 
 void tst_e2e_screens::ranges_followTheScreens()
 {
-    startAt({1919, 0, 256, 256});
+    QVERIFY(startToolAt({1919, 0, 256, 256}));
     Keyboard &keyboard = desktop().keyboard();
     keyboard.key("Right", Qt::ControlModifier); // stops at the end
     keyboard.key("Down", Qt::ControlModifier);
@@ -207,7 +190,7 @@ void tst_e2e_screens::screenLeftOfThePrimaryOne_isReached()
 {
     plugIn("--left-of");
     QCOMPARE(desktop().screen().rect(), Left | Right);
-    startAt({300, 400, 256, 256}); // the primary screen begins at 1920
+    QVERIFY(startToolAt({300, 400, 256, 256})); // the primary screen begins at 1920
     QVERIFY(testWindowCovers({300, 400, 256, 256}));
 
     // And it is dragged over to the primary one and back.
@@ -223,7 +206,7 @@ void tst_e2e_screens::screenLeftOfThePrimaryOne_isReached()
 void tst_e2e_screens::negativePlace_isObeyed()
 {
     plugIn("--left-of");
-    startAt({1, 400, 256, 256});
+    QVERIFY(startToolAt({1, 400, 256, 256}));
     for (int press = 0; press < 3; ++press)
         desktop().keyboard().key("Left", Qt::ControlModifier);
     QVERIFY(testWindowCovers({-2, 400, 256, 256}));
@@ -252,7 +235,7 @@ void tst_e2e_screens::fullScreen_coversTheScreenOfTheTestWindow()
     QFETCH(QRect, place);
     QFETCH(QRect, screen);
     plugIn(relation.constData());
-    startAt(place);
+    QVERIFY(startToolAt(place));
     QVERIFY(testWindowCovers(place));
 
     desktop().keyboard().key("f", Qt::ShiftModifier);
@@ -264,7 +247,7 @@ void tst_e2e_screens::fullScreen_coversTheScreenOfTheTestWindow()
 void tst_e2e_screens::unplugging_keepsTheTestWindow_andPluggingInBringsItBack()
 {
     plugIn("--right-of");
-    startAt(OnTheRight);
+    QVERIFY(startToolAt(OnTheRight));
     QVERIFY(testWindowCovers(OnTheRight));
 
     unplug();
@@ -285,7 +268,7 @@ void tst_e2e_screens::unplugging_keepsTheTestWindow_andPluggingInBringsItBack()
 void tst_e2e_screens::fullScreen_comesBackWithItsScreen()
 {
     plugIn("--right-of");
-    startAt(OnTheRight);
+    QVERIFY(startToolAt(OnTheRight));
     desktop().keyboard().key("f", Qt::ShiftModifier);
     QVERIFY(testWindowCovers(Right));
 
@@ -305,7 +288,7 @@ void tst_e2e_screens::dragWhileAScreenIsOff_changesThePlaceAlone()
 {
     const QRect place(100, 100, 3000, 3000);
     plugIn("--right-of");
-    startAt(place);
+    QVERIFY(startToolAt(place));
     QVERIFY(testWindowCovers({place.topLeft(), QSize(3000, 2160)}));
 
     unplug();
@@ -323,7 +306,7 @@ void tst_e2e_screens::dragWhileAScreenIsOff_changesThePlaceAlone()
 void tst_e2e_screens::controlWindow_leavesAScreenThatIsGone()
 {
     plugIn("--right-of");
-    startAt({0, 0, 256, 256});
+    QVERIFY(startToolAt({0, 0, 256, 256}));
     const WindowId control = tool().controlWindow().id;
     const auto isOn = [&](const QRect &screen) {
         return screen.contains(desktop().windows().info(control).geometry);
