@@ -1,6 +1,7 @@
 #include "placekeeper.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QWindow>
@@ -215,7 +216,6 @@ bool PlaceKeeper::eventFilter(QObject *watched, QEvent *event)
         windowEvent(event);
     if (m_isOut && watched->isWidgetType())
         standInForManager(static_cast<QWidget *>(watched), event->type());
-
     return QObject::eventFilter(watched, event);
 }
 
@@ -241,7 +241,8 @@ void PlaceKeeper::windowEvent(QEvent *event)
             notice();
         break;
     case QEvent::MouseButtonPress:
-        m_isPressed = true;
+        // Another button opens the menu, which takes the release.
+        m_isPressed = static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton;
         break;
     case QEvent::MouseButtonRelease:
         m_isPressed = false;
@@ -279,6 +280,7 @@ void PlaceKeeper::standInForManager(QWidget *widget, QEvent::Type event)
 void PlaceKeeper::shown()
 {
     m_isNew = true;
+    m_isPressed = false;
     // What is a mere tool many X11 window managers do not let fill the screen.
     QXcbWindowFunctions::setWmWindowType(m_window->windowHandle(), QXcbWindowFunctions::Normal);
     request();
