@@ -6,7 +6,7 @@
 set -euo pipefail
 
 build_packages=(build-essential cmake ninja-build pkg-config
-  qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n)
+  qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libxcb1-dev)
 font_packages=(fonts-noto-cjk fonts-dejavu-core fonts-liberation)
 virtual_desktop_packages=(xvfb openbox imagemagick x11-utils)
 test_packages=(libx11-dev libxtst-dev libxext-dev libxfixes-dev libxdamage-dev libxrandr-dev libsm-dev libice-dev libbenchmark-dev
