@@ -71,7 +71,6 @@ void ScrPurityCtrlDialog::initSlots()
     connect(this, &Panel::signal_colorChanged, &drawer, &ScrPurity::slot_colorChanged);
     connect(m_swatches, &SwatchRow::selected, this, &Panel::selectColor);
 
-    connect(ui->hScrollBarScale, &QSlider::valueChanged, &drawer, &ScrPurity::slot_AlphaChanged);
     connect(ui->spinBoxScale, valueChanged, &drawer, &ScrPurity::slot_AlphaChanged);
     connect(ui->spinBoxAutoScale, valueChanged, &drawer, &ScrPurity::slot_AlphaChanged);
     SliderSpinBoxPair::link(ui->hScrollBarScale, ui->spinBoxScale);
@@ -123,9 +122,7 @@ void ScrPurityCtrlDialog::initPurityStatus()
     const bool automatic = ui->radioButtonAuto->isChecked();
     enableControls(automatic);
     autoRunning = automatic;
-    const int grey = (automatic ? ui->spinBoxAutoScale : ui->spinBoxScale)->value();
-    drawer.slot_AlphaChanged(grey);
-    emit signal_greyChanged(QString::number(grey));
+    drawer.slot_AlphaChanged((automatic ? ui->spinBoxAutoScale : ui->spinBoxScale)->value());
     puritySelected = false;
 }
 
@@ -307,9 +304,8 @@ void ScrPurityCtrlDialog::slot_MalPushed(bool checked)
         return;
     slot_PauseResume();
     enableControls(false);
-    emit signal_switchToMal(ui->spinBoxScale->value());
+    emit signal_switchToMal(ui->spinBoxScale->value()); // which selects the purity test
     emit signal_greyChanged(QString::number(ui->spinBoxScale->value()));
-    puritySelected = true;
 }
 
 void ScrPurityCtrlDialog::slot_AutoPushed(bool checked)

@@ -11,7 +11,7 @@ set -euo pipefail
 # run PROGRAM SECONDS: runs a test program of this copy up to its first failure; its output goes to
 # PROGRAM.log.
 run() {
-  (cd "tests/$1" && timeout -k 5 "$2" "./$1" 2>&1 | sed '/^FAIL!/q') >"$1.log"
+  (cd "tests/$1" && timeout -k 5 "$2" "./$1" 2>&1 | sed '/^FAIL!/q') >"$1.log" 2>/dev/null
 }
 
 # noticed: what fails without the statement $MUTANT, the likeliest and fastest programs first.

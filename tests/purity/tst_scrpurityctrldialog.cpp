@@ -303,6 +303,7 @@ void TestScrPurityCtrlDialog::withoutSettings_thePanelWorks()
     Canvas canvas;
     ScrPurityCtrlDialog panel(&canvas, nullptr, nullptr);
     canvas.setDrawer(panel.getDrawer());
+    QVERIFY(!panel.findChild<QSlider *>(QStringLiteral("hScrollBarSpeed"))->isEnabled());
     QSignalSpy grey(&panel, &ScrPurityCtrlDialog::signal_greyChanged);
     panel.slot_changeSelectedPurityColor(Qt::blue);
     panel.findChild<QSlider *>(QStringLiteral("hScrollBarScale"))->setValue(60);

@@ -60,6 +60,7 @@ private slots:
     void restoring_neverSetsPuritySelected_theFirstRealColourClickDoes_data();
     void restoring_neverSetsPuritySelected_theFirstRealColourClickDoes();
     void veryFirstColour_doesNotSetPuritySelected();
+    void checkedColour_isStoredAgain();
     void puritySelect_setsTheFlag();
     void pageKeys_beforeAnyColourDoNothing();
     void pageKeys_selectTheFirstFour_data();
@@ -233,6 +234,15 @@ void TestScrPurityCtrlDialogColors::veryFirstColour_doesNotSetPuritySelected()
 
     panel.slot_changeSelectedPurityColor(Qt::red);
     QVERIFY(panel.puritySelected);
+}
+
+// Other panels store theirs under the same key.
+void TestScrPurityCtrlDialogColors::checkedColour_isStoredAgain()
+{
+    PurityRig rig({{baseColorKey, QColor(Qt::green)}});
+    rig.settings->setValue(baseColorKey, QColor(Qt::blue));
+    rig.panel->slot_changeSelectedPurityColor(Qt::green);
+    QCOMPARE(rig.settings->value(baseColorKey).value<QColor>(), QColor(Qt::green));
 }
 
 void TestScrPurityCtrlDialogColors::puritySelect_setsTheFlag()
