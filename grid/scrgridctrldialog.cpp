@@ -21,7 +21,6 @@ constexpr int maximumGrey = 255;
 constexpr int firstGrey = 128;
 constexpr int minimumSpeed = 1;
 constexpr int maximumSpeed = 100;
-constexpr int maximumLabelWidth = 60; // pixels
 
 QVector<QColor> testColors()
 {
@@ -47,7 +46,6 @@ ScrGridCtrlDialog::ScrGridCtrlDialog(QWidget *testWindow, QSettings *settings_, 
 {
     for (QPushButton *button : {ui->pushButtonPause, ui->pushButtonSettings})
         button->setObjectName(QStringLiteral("beginPushBtn"));
-    getSelectedHVLRCount();
     initSlots();
     initSaving();
     initCtrls();
@@ -106,7 +104,6 @@ void ScrGridCtrlDialog::initLinesSlots()
     connect(ui->pushButtonMerged, &QPushButton::clicked, this, &ScrGridCtrlDialog::slot_mixTest);
     connect(ui->pushButtonMerged, &QPushButton::clicked, this,
             &ScrGridCtrlDialog::enableAdvanceSettings);
-    connect(ui->pushButtonMerged, &QPushButton::clicked, this, &ScrGridCtrlDialog::uncheckFamilies);
 }
 
 void ScrGridCtrlDialog::initSpeedCtrlSlots()
@@ -227,8 +224,6 @@ void ScrGridCtrlDialog::updateLanguage()
     m_swatches->retranslate();
     for (const Family &family : m_families)
         CommonHelper::setQPushButtonText(family.button, tr(family.text));
-    for (QLabel *label : {ui->label_2, ui->label_4})
-        label->setMaximumWidth(maximumLabelWidth);
     CommonHelper::setQLabelText(ui->label_4, tr("速度"));
     CommonHelper::setQLabelText(ui->label_2, tr("灰度"));
     CommonHelper::setQCheckBoxText(ui->netGridCheckBox, tr("网格叠加"));

@@ -29,6 +29,7 @@ private slots:
     void rules_haveTheirColour();
     void newPanel_showsTheGreyLampAndRed();
     void pageOfTabs_staysInItsPlaceAndOpen();
+    void lineState_runsItsSlotTwice();
     void enterInASpinBox_pressesNoButton();
 
     void getDrawer_disablesSpeedAndGreyAndTheDrawer();
@@ -159,8 +160,24 @@ void TestScrGridCtrlDialog::pageOfTabs_staysInItsPlaceAndOpen()
     QVERIFY(panel->isVisible());
     QCOMPARE(panel->pos(), QPoint());
 
-    QTest::keyClick(panel, Qt::Key_Escape);
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(panel, &escape);
     QVERIFY(panel->isVisible());
+    QVERIFY(!escape.isAccepted()); // so that it goes on to the main window
+}
+
+// In single mode the second run of the slot leaves what the first one has shown.
+void TestScrGridCtrlDialog::lineState_runsItsSlotTwice()
+{
+    const GridRig rig;
+    rig.clickFamilies("V");
+    QVERIFY(rig.overlay()->isChecked());
+    rig.panel->lineIndex = 0;
+    rig.panel->slot_changeLineState();
+    QCOMPARE(rig.checked(), QStringLiteral("V"));
+    rig.overlay()->setChecked(false);
+    rig.panel->slot_changeLineState();
+    QCOMPARE(rig.checked(), QStringLiteral("H"));
 }
 
 void TestScrGridCtrlDialog::enterInASpinBox_pressesNoButton()

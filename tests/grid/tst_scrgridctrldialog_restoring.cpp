@@ -68,6 +68,7 @@ private slots:
     void colour_thatIsNoneLeavesRed();
     void test_isResumed_data();
     void test_isResumed();
+    void test_isResumedAtTheSlowestSpeed();
     void pausedTest_staysPaused();
 };
 
@@ -301,6 +302,13 @@ void TestScrGridCtrlDialogRestoring::test_isResumed()
     QCOMPARE(rig.shown().background, qRgb(255, 0, 0));
     // And by its own timer.
     QTRY_COMPARE_WITH_TIMEOUT(rig.shown().background, qRgb(0, 255, 0), 10000);
+}
+
+// Which the slider has before it is restored.
+void TestScrGridCtrlDialogRestoring::test_isResumedAtTheSlowestSpeed()
+{
+    const GridRig rig({{QStringLiteral("gridIsOldTest"), true}, {QStringLiteral("gridSpeed"), 1}});
+    QCOMPARE(rig.interval(), 8080);
 }
 
 void TestScrGridCtrlDialogRestoring::pausedTest_staysPaused()
