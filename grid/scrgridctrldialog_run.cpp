@@ -72,8 +72,7 @@ void ScrGridCtrlDialog::scrollStep()
 
 void ScrGridCtrlDialog::greyRampStep()
 {
-    ++tickCount;
-    if (tickCount % ticksPerGreyStep != 0)
+    if (++tickCount < ticksPerGreyStep)
         return;
     tickCount = 0;
     if (autoGreyUp)
@@ -207,7 +206,6 @@ void ScrGridCtrlDialog::rampGrey(bool up)
 void ScrGridCtrlDialog::on_pushButtonSettings_clicked()
 {
     MixSetting dialog(&drawer, settings, this);
-    dialog.setModal(true);
     dialog.exec();
     useMixSelection(dialog.selection());
 }

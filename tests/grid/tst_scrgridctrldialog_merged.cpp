@@ -197,6 +197,7 @@ void TestScrGridCtrlDialogMerged::start_goesOnWhereTheTestStopped()
 void TestScrGridCtrlDialogMerged::startOfTheAgingTest_endsTheLinesThatAreShown()
 {
     GridRig rig(selecting({QStringLiteral("SL")}));
+    rig.click(rig.colorButton(1)); // the lines would not be seen in the colour of the background
     rig.click(rig.merged());
     QCOMPARE(nextPicture(rig), QStringLiteral("L"));
     rig.click(rig.aging());

@@ -39,6 +39,7 @@ private slots:
     void pauseButton_resumesATest_data();
     void pauseButton_resumesATest();
     void stopSlots_setTheRun();
+    void testSlots_startTheRun();
 
     void agingTest_showsRedGreenBlueWhiteAndRedAgain();
     void agingTest_isDimmedByTheGreySlider();
@@ -279,6 +280,16 @@ void TestScrGridCtrlDialogRun::stopSlots_setTheRun()
     rig.panel->slot_stopPauseStatus();
     QVERIFY(!rig.panel->getScroll());
     QCOMPARE(rig.runControls(), 0);
+}
+
+void TestScrGridCtrlDialogRun::testSlots_startTheRun()
+{
+    const GridRig rig;
+    for (const auto slot : {&ScrGridCtrlDialog::slot_mixTest, &ScrGridCtrlDialog::slot_OldTest}) {
+        rig.panel->slot_stopPauseStatus();
+        (rig.panel.get()->*slot)();
+        QVERIFY(rig.panel->getScroll());
+    }
 }
 
 void TestScrGridCtrlDialogRun::agingTest_showsRedGreenBlueWhiteAndRedAgain()
