@@ -226,11 +226,8 @@ void GradualChangeCtrlWidget::slot_updateSelectedColor()
 
 void GradualChangeCtrlWidget::slot_changeSelectedGradualColor(const QColor &color)
 {
-    QAbstractButton *button = m_swatches->button(color);
-    if (!button)
-        return;
-    button->setChecked(true);
-    m_color = color;
+    if (QAbstractButton *button = m_swatches->button(color))
+        button->setChecked(true);
 }
 
 void GradualChangeCtrlWidget::slot_changeColorByPageDown()

@@ -61,7 +61,6 @@ QSpinBox *createSpinBox(const char *name)
 {
     auto *spinBox = new QSpinBox;
     spinBox->setObjectName(QLatin1String(name));
-    spinBox->setMinimumWidth(45);
     spinBox->setFixedHeight(controlHeight);
     SliderSpinBoxPair::prepare(spinBox);
     return spinBox;

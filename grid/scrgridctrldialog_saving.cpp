@@ -52,10 +52,8 @@ void ScrGridCtrlDialog::restoreFamilies()
         const Family &family = m_families.at(index);
         const bool checked = settings->value(family.checkedKey).toBool();
         family.button->setChecked(checked);
-        if (checked) {
-            enableAdvanceSettings();
+        if (checked)
             lineIndex = index;
-        }
     }
 }
 

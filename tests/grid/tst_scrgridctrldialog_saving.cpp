@@ -163,6 +163,13 @@ void TestScrGridCtrlDialogSaving::operatorChange_isInTheFileWithinASecond_data()
     row(
         "colour", [](Rig rig) { rig.click(rig.colorButton(2)); }, "testWindowBaseColor", "#0000ff");
     row(
+        "what goes with a colour",
+        [](Rig rig) {
+            rig.tick();
+            rig.click(rig.colorButton(2));
+        },
+        "pushButtonPauseChecked", "false");
+    row(
         "page step",
         [](Rig rig) {
             rig.panel->lineIndex = 0;
