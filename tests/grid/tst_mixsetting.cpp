@@ -33,6 +33,7 @@ class TestMixSetting : public QObject
 
 private slots:
     void dialog_hasItsSizeTitleAndButtons();
+    void controls_areOfTheirSizes();
     void dialog_fitsItsContents();
     void controls_followOneAnotherAsTheyStand();
     void emptySettings_checkAllElevenBoxes();
@@ -73,6 +74,36 @@ void TestMixSetting::dialog_hasItsSizeTitleAndButtons()
         shown += button->isHidden() ? 0 : 1;
     QCOMPARE(shown, 3);
     QCOMPARE(rig.dialog.findChildren<QLabel *>(QStringLiteral("ContentSplitLabel")).size(), 1);
+}
+
+void TestMixSetting::controls_areOfTheirSizes()
+{
+    MixRig rig;
+    QCOMPARE(rig.dialog.objectName(), QStringLiteral("MixSetting"));
+    const QSize controlSize(62, 20);
+    QCOMPARE(rig.colorLabel()->size(), controlSize);
+    for (const char *name : {"spinBoxPix", "spinBoxDistance"}) {
+        const QSpinBox *spinBox = rig.spinBox(name);
+        QCOMPARE(spinBox->minimumSize(), controlSize);
+        QCOMPARE(spinBox->maximumSize(), controlSize);
+        QCOMPARE(spinBox->contextMenuPolicy(), Qt::NoContextMenu);
+    }
+    for (const QString &name : boxNames())
+        QCOMPARE(rig.box(name)->maximumWidth(), 78);
+    for (const char *text : {"全选", "清空", "确定"}) {
+        QCOMPARE(rig.button(QString::fromUtf8(text))->maximumWidth(), 90);
+        QVERIFY(!rig.button(QString::fromUtf8(text))->autoDefault());
+    }
+    QVERIFY(rig.button(QStringLiteral("确定"))->isDefault());
+    int captions = 0;
+    const auto labels = rig.dialog.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->buddy()) {
+            QCOMPARE(label->maximumWidth(), 140);
+            ++captions;
+        }
+    }
+    QCOMPARE(captions, 3);
 }
 
 void TestMixSetting::dialog_fitsItsContents()
