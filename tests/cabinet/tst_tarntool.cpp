@@ -30,6 +30,7 @@ private slots:
     void operatorsChange_raisesTheFlag();
     void setupButton_opensOneWindowModalDialogThatDeletesItself();
     void withoutSettings_thePanelWorks();
+    void withoutSettings_thePanelShowsItsDefaults();
     void escape_doesNotCloseThePage();
 };
 
@@ -359,6 +360,18 @@ void TestTarnTool::withoutSettings_thePanelWorks()
     QCOMPARE(drawer->m_moduleRowCount, 3);
     QCOMPARE(drawer->m_fontColor, QColor(Qt::white));
     QCOMPARE(drawer->m_scanColor, QColor(Qt::blue));
+}
+
+void TestTarnTool::withoutSettings_thePanelShowsItsDefaults()
+{
+    Canvas canvas;
+    const TarnTool panel(&canvas, nullptr, nullptr);
+    const std::pair<const char *, int> counts[] = {
+        {"boxHight", 16}, {"boxWidth", 32}, {"boxColumn", 2}, {"boxRow", 2}};
+    for (const auto &[name, value] : counts)
+        QCOMPARE(panel.findChild<QSpinBox *>(QLatin1String(name))->value(), value);
+    for (const char *name : {"radioBackground", "radioBeginLeft"})
+        QVERIFY(panel.findChild<QRadioButton *>(QLatin1String(name))->isChecked());
 }
 
 void TestTarnTool::escape_doesNotCloseThePage()
