@@ -45,19 +45,25 @@ void paintPattern(benchmark::State &state, const ScreenSize &size, const Pattern
 
     std::vector<double> copies;
     std::vector<double> paintings;
+    std::vector<double> longestParts;
     for (auto iteration : state) {
         Q_UNUSED(iteration)
         copies.push_back(stage.copy());
         pattern.step();
         double painting = 0;
+        double longestPart = 0;
         do {
-            painting += stage.paint(*pattern.drawer);
+            const double part = stage.paint(*pattern.drawer);
+            painting += part;
+            longestPart = std::max(longestPart, part);
         } while (!pattern.isReady());
         paintings.push_back(painting);
+        longestParts.push_back(longestPart);
         state.SetIterationTime(paintings.back());
     }
     const double milliseconds = 1000;
     state.counters["paint_ms"] = median(paintings) * milliseconds;
+    state.counters["part_ms"] = median(longestParts) * milliseconds;
     state.counters["copy_ms"] = median(copies) * milliseconds;
     state.counters["x copy"] = median(paintings) / median(copies);
 }

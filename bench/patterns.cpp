@@ -42,25 +42,22 @@ Pattern restingGrid(QWidget *testWindow)
 }
 
 // The first lines are much further from the edge than the next ones from them, as a smaller
-// distance leaves them, and at every painting further by a pixel or nearer by one.
-MakePattern shiftedGrid(int distance, int lineWidth)
+// distance leaves them; at every painting in another colour where it `changes`.
+MakePattern shiftedGrid(int distance, int lineWidth, bool changes)
 {
-    constexpr int widest = 700;
     constexpr int offset = 690;
-    return [distance, lineWidth](QWidget *testWindow) -> Pattern {
-        auto grid = fullGrid(testWindow, distance, lineWidth);
+    return [=](QWidget *testWindow) -> Pattern {
+        auto grid = fullGrid(testWindow, offset + 1, lineWidth);
         GridDrawer *const drawer = grid.get();
-        const auto shift = [drawer, distance](int pixels) {
-            drawer->slot_changeDistance(widest);
-            for (int i = 0; i < pixels; ++i)
-                drawer->scrollLines();
-            drawer->slot_changeDistance(distance);
-        };
-        shift(offset);
-        return {std::move(grid), [shift, further = false]() mutable {
-                    further = !further;
-                    shift(further ? 1 : widest - 1);
-                }};
+        for (int i = 0; i < offset; ++i)
+            drawer->scrollLines();
+        drawer->slot_changeDistance(distance);
+        return {std::move(grid),
+                [drawer, changes, isRed = true]() mutable {
+                    isRed ^= changes;
+                    drawer->slot_colorChanged(isRed ? Qt::red : Qt::green);
+                },
+                [drawer] { return drawer->isDrawnInFull(); }};
     };
 }
 
@@ -148,10 +145,9 @@ const std::vector<PatternRow> &patternRows()
         {"grid, spacing 50, width 5", scrollingGrid(50, 5)},
         {"grid, spacing 700, width 1", scrollingGrid(700, 1)},
         {"grid, spacing 700, width 5", scrollingGrid(700, 5)},
-        {"grid, spacing 3, width 1, offset beyond it", shiftedGrid(3, 1)},
-        {"grid, spacing 3, width 5, offset beyond it", shiftedGrid(3, 5)},
-        {"grid, spacing 10, width 5, offset beyond it", shiftedGrid(10, 5)},
-        {"grid, spacing 690, width 5, offset beyond it", shiftedGrid(690, 5)},
+        {"grid, spacing 3, width 5, offset beyond it", shiftedGrid(3, 5, false)},
+        {"grid, spacing 3, width 1, offset beyond it, changed", shiftedGrid(3, 1, true)},
+        {"grid, spacing 3, width 5, offset beyond it, changed", shiftedGrid(3, 5, true)},
         {"grid, unchanged", restingGrid},
         {"gradient, 32 levels, unchanged", restingGradient(32)},
         {"gradient, 256 levels, unchanged", restingGradient(256)},

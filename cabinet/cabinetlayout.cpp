@@ -18,18 +18,6 @@ bool isGeneral(CabinetLayout::Layer layer)
     return layer <= CabinetLayout::SlantRightLines;
 }
 
-bool isRows(CabinetLayout::Layer family)
-{
-    return family == CabinetLayout::HoriLines || family == CabinetLayout::ModuleRows
-           || family == CabinetLayout::ScanRows;
-}
-
-bool isColumns(CabinetLayout::Layer family)
-{
-    return family == CabinetLayout::VertLines || family == CabinetLayout::ModuleColumns
-           || family == CabinetLayout::ScanColumns;
-}
-
 int penWidth(int wanted)
 {
     return qBound(0, wanted, widestLine);
@@ -57,9 +45,9 @@ bool CabinetLayout::Outline::operator==(const Outline &other) const
 bool CabinetLayout::operator==(const CabinetLayout &other) const
 {
     const auto key = [](const CabinetLayout &l) {
-        return std::tie(l.size, l.background, l.pen, l.font, l.dotsPerInch, l.direction,
-                        l.lineStart, l.lineStep, l.layoutOn, l.module, l.scanBoard, l.leftToRight,
-                        l.fontColor, l.fontSize, l.fontShape, l.beginRow, l.beginColumn);
+        return std::tie(l.size, l.background, l.pen, l.font, l.direction, l.lineStart, l.lineStep,
+                        l.layoutOn, l.module, l.scanBoard, l.leftToRight, l.fontColor, l.fontSize,
+                        l.fontShape, l.beginRow, l.beginColumn);
     };
     return key(*this) == key(other)
            && std::equal(std::begin(generalLines), std::end(generalLines),
@@ -87,11 +75,9 @@ void CabinetLayout::drawBackground(QPainter &painter) const
 
 qint64 CabinetLayout::strokeCount(Layer layer) const
 {
-    if (isGeneral(layer))
-        return generalLines[layer] ? lines(layer).count : 0;
-    if (!layoutOn)
+    if (isGeneral(layer) ? !generalLines[layer] : !layoutOn)
         return 0;
-    return layer == Numbers ? rowCount() * columnCount() : lines(layer).count;
+    return layer == Numbers ? rowCount() * columnCount() : family(layer).count();
 }
 
 void CabinetLayout::drawLayer(QPainter &painter, Layer layer) const
@@ -110,16 +96,17 @@ void CabinetLayout::drawStrokes(QPainter &painter, Layer layer, qint64 from, qin
             drawNumber(painter, stroke / columnCount(), stroke % columnCount());
         painter.setFont(oldFont);
     } else {
+        const LineFamily lines = family(layer);
         painter.setPen(linePen(oldPen, layer));
         for (qint64 stroke = from; stroke < to; ++stroke)
-            painter.drawLine(line(layer, position(layer, stroke)));
+            painter.drawLine(lines.line(stroke));
     }
     painter.setPen(oldPen);
 }
 
-void CabinetLayout::drawLines(QPainter &painter, Layer family) const
+void CabinetLayout::drawLines(QPainter &painter, Layer layer) const
 {
-    drawStrokes(painter, family, 0, lines(family).count);
+    drawStrokes(painter, layer, 0, family(layer).count());
 }
 
 void CabinetLayout::drawText(QPainter &painter) const
@@ -127,70 +114,29 @@ void CabinetLayout::drawText(QPainter &painter) const
     drawStrokes(painter, Numbers, 0, rowCount() * columnCount());
 }
 
-int CabinetLayout::position(Layer family, qint64 stroke) const
+LineFamily CabinetLayout::family(Layer layer) const
 {
-    const Lines all = lines(family);
-    return int(all.first + stroke * all.step);
+    if (isGeneral(layer))
+        return {LineFamily::Direction(layer), size, lineStart, lineStep};
+    if (layer == ModuleRows || layer == ScanRows)
+        return {LineFamily::Horizontal, size, lineStart, cellLength(outline(layer).height)};
+    const int step = cellLength(outline(layer).width);
+    int first = lineStart;
+    if (!leftToRight && step > 0 && first <= size.width())
+        first += (size.width() - first) % step; // one stands at the right edge
+    return {LineFamily::Vertical, size, first, step};
 }
 
-int CabinetLayout::reach(Layer family) const
+const CabinetLayout::Outline &CabinetLayout::outline(Layer layer) const
 {
-    const int width = isGeneral(family) ? pen.width() : penWidth(outline(family).lineWidth);
-    return qMax(1, width) + 3;
+    return layer == ModuleRows || layer == ModuleColumns ? module : scanBoard;
 }
 
-// Lines too far before the window to be seen are left out, or a start far below 0 would take
-// for ever.
-CabinetLayout::Lines CabinetLayout::ascending(qint64 first, qint64 step, qint64 last, qint64 reach)
+QPen CabinetLayout::linePen(QPen linePen, Layer layer) const
 {
-    if (step < 1)
-        return {};
-    if (first < -reach)
-        first += (-reach - first + step - 1) / step * step;
-    return {first, step, first <= last ? (last - first) / step + 1 : 0};
-}
-
-CabinetLayout::Lines CabinetLayout::lines(Layer family) const
-{
-    const qint64 margin = reach(family);
-    qint64 step = lineStep;
-    if (!isGeneral(family))
-        step = isRows(family) ? outline(family).height : outline(family).width;
-    if (family == SlantLeftLines)
-        return ascending(lineStart, step, 2 * qint64(side()), margin);
-    if (family == SlantRightLines) // without a line at the very end: wanted
-        return ascending(lineStart, step, 2 * qint64(side()) - 1, margin);
-    if (isRows(family))
-        return ascending(lineStart, step, size.height(), margin);
-    if (leftToRight || isGeneral(family))
-        return ascending(lineStart, step, size.width(), margin);
-    const qint64 nearest = qMax(qint64(lineStart), -margin);
-    if (step < 1 || size.width() < nearest)
-        return {};
-    return {size.width(), -step, (size.width() - nearest) / step + 1};
-}
-
-const CabinetLayout::Outline &CabinetLayout::outline(Layer family) const
-{
-    return family == ModuleRows || family == ModuleColumns ? module : scanBoard;
-}
-
-QLine CabinetLayout::line(Layer family, int position) const
-{
-    if (isRows(family))
-        return {0, position, size.width(), position};
-    if (isColumns(family))
-        return {position, 0, position, size.height()};
-    if (family == SlantLeftLines)
-        return {0, position, position, 0};
-    return {0, side() - position, position, side()};
-}
-
-QPen CabinetLayout::linePen(QPen linePen, Layer family) const
-{
-    if (!isGeneral(family)) {
-        linePen.setColor(outline(family).color);
-        linePen.setWidth(penWidth(outline(family).lineWidth));
+    if (!isGeneral(layer)) {
+        linePen.setColor(outline(layer).color);
+        linePen.setWidth(penWidth(outline(layer).lineWidth));
     }
     return linePen;
 }

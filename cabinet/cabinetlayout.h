@@ -1,9 +1,10 @@
 #pragma once
 
+#include "linefamily.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QFont>
-#include <QLine>
 #include <QPen>
 #include <QRect>
 #include <QSize>
@@ -43,10 +44,9 @@ struct CabinetLayout
     QBrush background; // below all layers, over black
     QPen pen; // before the first layer
     QFont font; // of the window
-    QSize dotsPerInch; // of the window
     Qt::LayoutDirection direction = Qt::LeftToRight; // of the window
     bool generalLines[4] = {}; // HoriLines to SlantRightLines
-    int lineStart = 0;
+    int lineStart = 0; // of every family; 0 or more
     int lineStep = 8; // of the general lines; below 1 there are none
     bool layoutOn = false; // all layers above the general lines
     Outline module;
@@ -66,13 +66,10 @@ struct CabinetLayout
     qint64 strokeCount(Layer layer) const;
     void drawStrokes(QPainter &painter, Layer layer, qint64 from, qint64 to) const;
     void drawLayer(QPainter &painter, Layer layer) const;
-    // Of a line, in pixels from the top or from the left.
-    int position(Layer family, qint64 stroke) const;
-    QPen linePen(QPen linePen, Layer family) const;
-    // How far in pixels a line's paint can be from its position.
-    int reach(Layer family) const;
+    LineFamily family(Layer layer) const;
+    QPen linePen(QPen linePen, Layer layer) const;
     // All strokes of a layer, enabled or not.
-    void drawLines(QPainter &painter, Layer family) const;
+    void drawLines(QPainter &painter, Layer layer) const;
     void drawText(QPainter &painter) const;
 
     // The scan boards that have numbers.
@@ -89,18 +86,6 @@ struct CabinetLayout
     bool operator!=(const CabinetLayout &other) const { return !(*this == other); }
 
 private:
-    // Positions of parallel lines, in the order in which they are drawn.
-    struct Lines
-    {
-        qint64 first = 0;
-        qint64 step = 1;
-        qint64 count = 0;
-    };
-
-    const Outline &outline(Layer family) const;
-    Lines lines(Layer family) const;
-    static Lines ascending(qint64 first, qint64 step, qint64 last, qint64 reach);
-    QLine line(Layer family, int position) const;
+    const Outline &outline(Layer layer) const;
     void drawNumber(QPainter &painter, qint64 row, qint64 column) const;
-    int side() const { return qMax(size.width(), size.height()); }
 };

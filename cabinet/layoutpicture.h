@@ -3,37 +3,30 @@
 #include "cabinetlayout.h"
 #include "cellnumbers.h"
 #include "linetrace.h"
-
-#include <QImage>
+#include "pictureinparts.h"
 
 #include <array>
 
-class QPainter;
-
-// Shows a layout from a finished picture, at the cost of a copy, and paints the picture anew
-// when the layout is another one. A picture that takes long is painted a part at a time, one
-// at every show, so that the control window goes on answering.
-class LayoutPicture
+// The picture of a layout, which begins anew when the layout is another one.
+class LayoutPicture : public PictureInParts
 {
 public:
+    LayoutPicture();
+
     void show(QPainter &painter, const CabinetLayout &layout);
 
-    bool isComplete() const { return m_layer == CabinetLayout::LayerCount; }
+protected:
+    void preparePainter(QPainter &painter) const override;
+    void drawBackground(QPainter &painter) override;
+    qint64 strokeCount(int layer) const override;
+    qint64 drawStrokes(QPainter &painter, int layer, qint64 from) override;
 
 private:
-    void begin(const CabinetLayout &layout, const QSize &pixels, qreal scale);
-    void proceed();
-    void drawStrokes(QPainter &painter, CabinetLayout::Layer layer, qint64 from, qint64 to);
-    bool canFill(const QPen &linePen, CabinetLayout::Layer layer) const;
+    bool canFill(CabinetLayout::Layer layer) const;
     void fillLines(QPainter &painter, CabinetLayout::Layer layer, qint64 from, qint64 to);
 
-    CabinetLayout m_layout; // of the picture
-    QImage m_image; // in device pixels, of the window's resolution
-    qreal m_scale = 0; // device pixels to a pixel
+    CabinetLayout m_layout;
     CellNumbers m_numbers;
     bool m_numbersReady = false;
     std::array<LineTrace, CabinetLayout::Numbers> m_traces; // by layer
-    // The next stroke.
-    int m_layer = CabinetLayout::LayerCount;
-    qint64 m_stroke = 0;
 };

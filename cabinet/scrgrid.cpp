@@ -146,13 +146,12 @@ CabinetLayout ScrGrid::layout() const
         layout.background = QBrush(m_bgPixmap);
     layout.pen = m_pen;
     layout.font = targetWidget->font();
-    layout.dotsPerInch = {targetWidget->logicalDpiX(), targetWidget->logicalDpiY()};
     layout.direction = targetWidget->layoutDirection();
     layout.generalLines[CabinetLayout::HoriLines] = m_horiLines;
     layout.generalLines[CabinetLayout::VertLines] = m_vertLines;
     layout.generalLines[CabinetLayout::SlantLeftLines] = m_slantLeftLines;
     layout.generalLines[CabinetLayout::SlantRightLines] = m_slantRightLines;
-    layout.lineStart = m_lineStart;
+    layout.lineStart = qMax(0, m_lineStart);
     layout.lineStep = m_lineStep;
     layout.layoutOn = m_layoutOn;
     layout.module = {m_moduleWidth, m_moduleHeight, m_moduleLineWidth, m_moduleLineColor};

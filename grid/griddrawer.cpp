@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <algorithm>
+
 GridDrawer::GridDrawer(QWidget *testWindow)
     : DrawerBase(testWindow)
 { }
@@ -17,27 +19,27 @@ void GridDrawer::draw(bool paint)
     QPainter painter(targetWidget);
     painter.setPen(m_pen);
     painter.setBrush(m_brush);
-    m_picture.paint(painter, pattern());
+    m_picture.show(painter, pattern());
 }
 
 void GridDrawer::drawHoriLines(QPainter &painter)
 {
-    pattern().drawHorizontal(painter);
+    pattern().family(LineFamily::Horizontal).draw(painter);
 }
 
 void GridDrawer::drawVertLines(QPainter &painter)
 {
-    pattern().drawVertical(painter);
+    pattern().family(LineFamily::Vertical).draw(painter);
 }
 
 void GridDrawer::drawSlantLeftLines(QPainter &painter)
 {
-    pattern().drawSlantLeft(painter);
+    pattern().family(LineFamily::SlantLeft).draw(painter);
 }
 
 void GridDrawer::drawSlantRightLines(QPainter &painter)
 {
-    pattern().drawSlantRight(painter);
+    pattern().family(LineFamily::SlantRight).draw(painter);
 }
 
 GridPattern GridDrawer::pattern() const
@@ -46,10 +48,7 @@ GridPattern GridDrawer::pattern() const
     pattern.size = targetWidget->size();
     pattern.distance = m_lineDistance;
     pattern.offset = m_offset;
-    pattern.horizontal = m_horiEnabled;
-    pattern.vertical = m_vertEnabled;
-    pattern.slantLeft = m_slantLeftEnabled;
-    pattern.slantRight = m_slantRightEnabled;
+    std::copy_n(m_enabled.begin(), pattern.enabled.size(), pattern.enabled.begin());
     pattern.pen = m_pen;
     pattern.background = m_bgColor;
     return pattern;
@@ -75,58 +74,54 @@ void GridDrawer::slot_changeGrayScale(int grey)
 
 void GridDrawer::slot_horiToggled(bool on)
 {
-    toggle(m_horiEnabled, on);
+    toggle(LineFamily::Horizontal, on);
 }
 
 void GridDrawer::slot_vertLineToggled(bool on)
 {
-    toggle(m_vertEnabled, on);
+    toggle(LineFamily::Vertical, on);
 }
 
 void GridDrawer::slot_slantLeftToggled(bool on)
 {
-    toggle(m_slantLeftEnabled, on);
+    toggle(LineFamily::SlantLeft, on);
 }
 
 void GridDrawer::slot_slantRightToggled(bool on)
 {
-    toggle(m_slantRightEnabled, on);
+    toggle(LineFamily::SlantRight, on);
 }
 
-void GridDrawer::toggle(bool &family, bool on)
+void GridDrawer::toggle(LineFamily::Direction family, bool on)
 {
-    family = on;
+    m_enabled[family] = on;
     m_bgColor = m_oldColor;
     update();
 }
 
 void GridDrawer::setHoriLinesEnabled(bool on)
 {
-    m_horiEnabled = on;
+    m_enabled[LineFamily::Horizontal] = on;
 }
 
 void GridDrawer::setVertLinesEnabled(bool on)
 {
-    m_vertEnabled = on;
+    m_enabled[LineFamily::Vertical] = on;
 }
 
 void GridDrawer::setSlantLeftLinesEnabled(bool on)
 {
-    m_slantLeftEnabled = on;
+    m_enabled[LineFamily::SlantLeft] = on;
 }
 
 void GridDrawer::setSlantRightLinesEnabled(bool on)
 {
-    m_slantRightEnabled = on;
+    m_enabled[LineFamily::SlantRight] = on;
 }
 
 void GridDrawer::disableAll()
 {
-    m_horiEnabled = false;
-    m_vertEnabled = false;
-    m_slantLeftEnabled = false;
-    m_slantRightEnabled = false;
-    m_mergedBlank = false;
+    m_enabled.fill(false);
 }
 
 void GridDrawer::slot_changeBgColor(const QColor &color)
@@ -173,9 +168,7 @@ void GridDrawer::mergedTest()
 {
     active = true;
     disableAll();
-    bool *const steps[] = {&m_horiEnabled, &m_vertEnabled, &m_slantLeftEnabled,
-                           &m_slantRightEnabled, &m_mergedBlank};
-    *steps[m_mergedIndex] = true;
+    m_enabled[size_t(m_mergedIndex)] = true;
     qDebug("MergedTest index=[%d]", m_mergedIndex);
     m_mergedIndex = (m_mergedIndex + 1) % 5;
     update();

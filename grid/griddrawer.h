@@ -22,6 +22,9 @@ public:
     void draw(bool paint) override;
     bool coversWindow() const override { return m_bgColor.alpha() == 255; }
 
+    // False while a laborious picture takes some more paints to be complete.
+    bool isDrawnInFull() const { return m_picture.isComplete(); }
+
     // One family each over the test window's size, enabled or not, with the painter's pen.
     void drawHoriLines(QPainter &painter);
     void drawVertLines(QPainter &painter);
@@ -69,15 +72,12 @@ public:
 
 private:
     GridPattern pattern() const;
-    void toggle(bool &family, bool on);
+    void toggle(LineFamily::Direction family, bool on);
 
     QPen m_pen;
     QBrush m_brush;
-    bool m_horiEnabled = false;
-    bool m_vertEnabled = false;
-    bool m_slantLeftEnabled = false;
-    bool m_slantRightEnabled = false;
-    bool m_mergedBlank = false; // the bare step of the merged cycle; nothing is drawn for it
+    // By direction; the fifth is the bare step of the merged cycle, for which nothing is drawn.
+    std::array<bool, GridPattern::familyCount + 1> m_enabled{};
     int m_offset = 0; // of the first line of every family, in pixels
     int m_lineDistance = 10;
     int m_mergedIndex = 0; // the next step of the merged cycle, 0 to 4

@@ -35,11 +35,12 @@ machine() {
 {
   echo "Machine: $(machine)"
   echo
-  echo '| Pattern | Window | Painting, ms | Copy, ms | Painting / copy |'
-  echo '|---|---|---:|---:|---:|'
+  echo '| Pattern | Window | Painting, ms | Longest part, ms | Copy, ms | Painting / copy |'
+  echo '|---|---|---:|---:|---:|---:|'
   sed -n 's|^"\(.*\), \([0-9]*x[0-9]*\)/[^"]*",\(.*\)|\1;\2;\3|p' "$csv" | awk -F';' '{
     n = split($3, column, ",")
-    printf "| %s | %s | %.2f | %.2f | %.2f |\n", $1, $2, column[n - 1], column[n - 2], column[n]
+    printf "| %s | %s | %.2f | %.2f | %.2f | %.2f |\n", $1, $2, column[n - 2], column[n - 1],
+      column[n - 3], column[n]
   }'
 } >build/bench.md
 if [ -x build/bin/tarn_tickrate ]; then

@@ -53,7 +53,7 @@ public:
         drawer.m_beginColumn = once(8) ? between(-30, 20000) : between(0, 100);
         drawer.m_moduleLineWidth = once(4) ? between(0, 10) : 1;
         drawer.m_scanLineWidth = once(4) ? between(1, 100) : between(1, 6);
-        drawer.m_lineStart = once(8) ? between(-70, 70) : 0;
+        drawer.m_lineStart = once(8) ? between(0, 70) : 0;
         drawer.m_lineStep = between(1, 40);
         drawer.m_horiLines = once(8);
         drawer.m_vertLines = once(8);
@@ -176,7 +176,6 @@ void TestScrGridExact::layersByLot_matchCallByCall()
     for (int i = 0; i < 60; ++i) {
         rig.canvas.resize(lot.size());
         lot.fill(rig.drawer);
-        rig.drawer.m_lineStart = qMax(0, rig.drawer.m_lineStart);
         rig.drawer.m_horiLines = rig.drawer.m_vertLines = true;
         rig.drawer.m_slantLeftLines = rig.drawer.m_slantRightLines = true;
         // What lies beyond the window counts as well.

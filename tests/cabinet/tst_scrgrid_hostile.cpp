@@ -54,8 +54,7 @@ private slots:
     void largestBeginNumber_countsOn();
     void endlessCells_haveOneLineAndNoVisibleNumber_data();
     void endlessCells_haveOneLineAndNoVisibleNumber();
-    void lineStartFarOutside_drawsTheLinesInside_data();
-    void lineStartFarOutside_drawsTheLinesInside();
+    void lineStartOutside_isTheEdgeOrBehindTheWindow();
     void generalLinesWithoutStep_areLeftOut();
     void emptyWindow_isNotPainted();
     void laboriousLayout_isPaintedInParts();
@@ -213,33 +212,23 @@ void TestScrGridHostile::endlessCells_haveOneLineAndNoVisibleNumber()
     }
 }
 
-void TestScrGridHostile::lineStartFarOutside_drawsTheLinesInside_data()
+void TestScrGridHostile::lineStartOutside_isTheEdgeOrBehindTheWindow()
 {
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("sameAs");
-    QTest::addColumn<bool>("leftToRight");
-    // By a multiple of every step.
-    QTest::newRow("far before") << 3 - 64 * 30000000 << 3 - 64 << true;
-    QTest::newRow("the furthest before") << smallest << -64 << true;
-    QTest::newRow("the furthest before, right to left") << smallest << -64 << false;
-}
-
-void TestScrGridHostile::lineStartFarOutside_drawsTheLinesInside()
-{
-    QFETCH(const int, start);
-    QFETCH(const int, sameAs);
-    QFETCH(const bool, leftToRight);
     ScrGridRig rig(QSize(150, 90));
-    rig.drawer.m_leftToRight = leftToRight;
     rig.drawer.m_horiLines = rig.drawer.m_vertLines = true;
     rig.drawer.m_slantLeftLines = rig.drawer.m_slantRightLines = true;
     rig.drawer.m_pen.setColor(Qt::green);
-    rig.drawer.m_lineStart = sameAs;
-    QVERIFY(rig.isExact());
-    const QImage expected = rig.painted();
-    rig.drawer.m_lineStart = start;
-    QCOMPARE(rig.painted(), expected);
-    rig.drawer.m_lineStart = largest; // behind the window: none
+    for (const bool leftToRight : {true, false}) {
+        rig.drawer.m_leftToRight = leftToRight;
+        rig.drawer.m_lineStart = 0;
+        QVERIFY(rig.isExact());
+        const QImage expected = rig.painted();
+        for (const int start : {-1, smallest}) {
+            rig.drawer.m_lineStart = start;
+            QCOMPARE(rig.painted(), expected);
+        }
+    }
+    rig.drawer.m_lineStart = largest;
     rig.drawer.m_fontColor = Qt::black;
     QCOMPARE(rig.painted(), withoutLayout(rig.canvas.size()));
 }

@@ -52,12 +52,6 @@ QImage blank(const QSize &size, QImage::Format format, qreal scale)
     return image;
 }
 
-QImage rendered(QWidget &widget, QImage image)
-{
-    widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
-    return image;
-}
-
 void apply(GridDrawer &drawer, GridSettings &current, const GridSettings &wanted)
 {
     // The offset is reached by scrolling, at a distance that lets it get that far.
@@ -94,27 +88,6 @@ QString description(const QSize &size, const GridSettings &settings)
         .arg(settings.width)
         .arg(settings.families)
         .arg(settings.line.name(QColor::HexArgb), settings.background.name(QColor::HexArgb));
-}
-
-GridPattern patternOf(const QSize &size, const GridSettings &settings)
-{
-    GridPattern pattern;
-    pattern.size = size;
-    pattern.distance = settings.distance;
-    pattern.offset = settings.offset;
-    pattern.horizontal = settings.families & Horizontal;
-    pattern.vertical = settings.families & Vertical;
-    pattern.slantLeft = settings.families & SlantLeft;
-    pattern.slantRight = settings.families & SlantRight;
-    pattern.pen.setColor(settings.line);
-    pattern.pen.setWidth(settings.width);
-    pattern.background = settings.background;
-    return pattern;
-}
-
-qint64 bytes(const QSize &size)
-{
-    return qint64(size.width()) * size.height() * 4;
 }
 
 int Lot::between(int low, int high)
@@ -154,20 +127,6 @@ GridSettings Lot::settings()
     settings.families = between(0, 3) == 0 ? EveryFamily : between(0, EveryFamily);
     settings.line = color();
     settings.background = color();
-    return settings;
-}
-
-GridSettings Lot::settingsWithLargeOffset()
-{
-    GridSettings settings;
-    const int farthest[] = {5, 20, 120, 699};
-    settings.distance = between(3, farthest[between(0, 3)]);
-    const int largest[] = {settings.distance, qMin(699, settings.distance + 30), 300, 699};
-    settings.offset = between(settings.distance, qMax(settings.distance, largest[between(0, 3)]));
-    settings.width = between(1, 5);
-    settings.families = between(0, 1) == 0 ? EveryFamily : between(0, EveryFamily);
-    settings.line = opaqueColor();
-    settings.background = opaqueColor();
     return settings;
 }
 

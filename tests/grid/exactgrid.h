@@ -1,7 +1,6 @@
 #pragma once
 
 #include "gridcanvas.h"
-#include "gridpattern.h"
 
 #include <QColor>
 #include <QImage>
@@ -27,17 +26,12 @@ QImage drawnLineByLine(QImage image, const QSize &size, const GridSettings &sett
 
 // Of one colour that no grid leaves standing; `scale` is the number of device pixels to a pixel.
 QImage blank(const QSize &size, QImage::Format format = QImage::Format_RGB32, qreal scale = 1);
-QImage rendered(QWidget &widget, QImage image);
 
 // Tells the drawer the settings through its own operations only.
 void apply(GridDrawer &drawer, GridSettings &current, const GridSettings &wanted);
 void scroll(GridDrawer &drawer, GridSettings &current);
 
 QString description(const QSize &size, const GridSettings &settings);
-GridPattern patternOf(const QSize &size, const GridSettings &settings);
-
-// Of a picture with 32 bits to a pixel.
-qint64 bytes(const QSize &size);
 
 // Draws sizes and settings by lot, the same ones in every run.
 class Lot
@@ -49,8 +43,6 @@ public:
     // Tall, wide, square or tiny.
     QSize size();
     GridSettings settings();
-    // The offset is a line distance or more, as it is left when the distance is made smaller.
-    GridSettings settingsWithLargeOffset();
 
 private:
     QColor color();

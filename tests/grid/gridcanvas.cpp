@@ -1,5 +1,7 @@
 #include "gridcanvas.h"
 
+#include <QElapsedTimer>
+
 using namespace GridColor;
 
 namespace {
@@ -19,6 +21,17 @@ bool isOnLine(const QPoint &pixel, const QSize &size, int families, int distance
 }
 
 } // namespace
+
+QImage rendered(QWidget &widget, const GridDrawer &drawer, QImage image)
+{
+    constexpr int deadlineMs = 60000;
+    QElapsedTimer clock;
+    clock.start();
+    do {
+        widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    } while (!drawer.isDrawnInFull() && !clock.hasExpired(deadlineMs));
+    return image;
+}
 
 GridCanvas::GridCanvas(const QSize &size)
     : canvas(size)
@@ -46,6 +59,13 @@ void GridCanvas::scroll(int steps)
 {
     for (int step = 0; step < steps; ++step)
         drawer.scrollLines();
+}
+
+QImage GridCanvas::painted()
+{
+    QImage image(canvas.size(), QImage::Format_ARGB32);
+    image.fill(backdrop);
+    return rendered(image);
 }
 
 QString difference(const QImage &image, int families, int distance, int offset)

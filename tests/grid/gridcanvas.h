@@ -23,6 +23,9 @@ constexpr QRgb blue = 0xff0000ff;
 
 } // namespace GridColor
 
+// What a widget shows once its drawer is done with what it paints in parts.
+QImage rendered(QWidget &widget, const GridDrawer &drawer, QImage image);
+
 // A grid drawer on a canvas that shows it.
 struct GridCanvas
 {
@@ -32,7 +35,9 @@ struct GridCanvas
     void enable(int families);
     void showRedOnBlue(int families);
     void scroll(int steps);
-    QImage painted() { return canvas.painted(GridColor::backdrop); }
+    // On an image, in full.
+    QImage rendered(QImage image) { return ::rendered(canvas, drawer, image); }
+    QImage painted();
 
     Canvas canvas;
     GridDrawer drawer;

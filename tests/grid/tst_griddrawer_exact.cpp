@@ -1,8 +1,6 @@
 #include "drawcontainer.h"
 #include "exactgrid.h"
-#include "gridpicture.h"
 
-#include <QPainter>
 #include <QtTest>
 
 class TestGridDrawerExact : public QObject
@@ -20,10 +18,10 @@ private slots:
     void enlargedScreens_matchLineByLine_data();
     void enlargedScreens_matchLineByLine();
     void otherFormats_matchLineByLine();
+    void offsetBeyondTheDistance_isPaintedAnewAtEveryChange();
+    void laboriousGrid_isPaintedInParts();
     void partOfTheWindow_isRepaintedExactly();
     void childOfAWindow_isPaintedExactly();
-    void pieces_areSmallerThanThePicture();
-    void pieces_areUsedAtEverySetting();
 };
 
 void TestGridDrawerExact::initTestCase()
@@ -45,7 +43,7 @@ void TestGridDrawerExact::combinationsByLot_matchLineByLine()
         for (int painting = 0; painting < 4; ++painting) {
             if (painting > 1)
                 scroll(grid.drawer, current);
-            if (rendered(grid.canvas, blank(size)) != drawnLineByLine(blank(size), size, current))
+            if (grid.rendered(blank(size)) != drawnLineByLine(blank(size), size, current))
                 QFAIL(qPrintable(description(size, current)));
             if (painting != 1)
                 ++combinations;
@@ -68,7 +66,7 @@ void TestGridDrawerExact::combinationsByLotOnTheTestWindow_matchLineByLine()
         QImage background = blank(size); // the window's own, below translucent colours
         background.fill(window.palette().color(QPalette::Window));
         for (int painting = 0; painting < 2; ++painting) {
-            if (rendered(window, blank(size)) != drawnLineByLine(background, size, current))
+            if (rendered(window, drawer, blank(size)) != drawnLineByLine(background, size, current))
                 QFAIL(qPrintable(description(size, current)));
             scroll(drawer, current);
         }
@@ -96,7 +94,7 @@ void TestGridDrawerExact::scrollingThroughADistance_matchesLineByLine()
          {int(Horizontal), int(Vertical), int(SlantLeft), int(SlantRight), int(EveryFamily)}) {
         apply(grid.drawer, current, {distance, 0, width, families, Qt::red, Qt::darkGreen});
         for (int step = 0; step <= distance; ++step) {
-            if (rendered(grid.canvas, blank(size)) != drawnLineByLine(blank(size), size, current))
+            if (grid.rendered(blank(size)) != drawnLineByLine(blank(size), size, current))
                 QFAIL(qPrintable(description(size, current)));
             scroll(grid.drawer, current);
         }
@@ -118,6 +116,7 @@ void TestGridDrawerExact::screenSizes_matchLineByLine_data()
         row(10, 9);
         row(239, 100);
         row(700, 350);
+        row(3, 699);
     }
     QTest::newRow("3840 x 2160") << QSize(3840, 2160) << 10 << 3;
 }
@@ -131,7 +130,7 @@ void TestGridDrawerExact::screenSizes_matchLineByLine()
     GridSettings current;
     for (const int width : {1, 5}) {
         apply(grid.drawer, current, {distance, offset, width, EveryFamily, Qt::white, Qt::blue});
-        if (rendered(grid.canvas, blank(size)) != drawnLineByLine(blank(size), size, current))
+        if (grid.rendered(blank(size)) != drawnLineByLine(blank(size), size, current))
             QFAIL(qPrintable(description(size, current)));
     }
 }
@@ -155,7 +154,7 @@ void TestGridDrawerExact::enlargedScreens_matchLineByLine()
         const QImage empty = blank(size, QImage::Format_RGB32, scale);
         grid.canvas.resize(size);
         apply(grid.drawer, current, lot.settings());
-        if (rendered(grid.canvas, empty) != drawnLineByLine(empty, size, current))
+        if (grid.rendered(empty) != drawnLineByLine(empty, size, current))
             QFAIL(qPrintable(description(size, current)));
     }
 }
@@ -171,11 +170,61 @@ void TestGridDrawerExact::otherFormats_matchLineByLine()
             const QSize size = lot.size();
             grid.canvas.resize(size);
             apply(grid.drawer, current, lot.settings());
-            if (rendered(grid.canvas, blank(size, format))
+            if (grid.rendered(blank(size, format))
                 != drawnLineByLine(blank(size, format), size, current))
                 QFAIL(qPrintable(description(size, current)));
         }
     }
+}
+
+void TestGridDrawerExact::offsetBeyondTheDistance_isPaintedAnewAtEveryChange()
+{
+    GridCanvas grid(QSize(300, 200));
+    GridSettings current;
+    GridSettings wanted{7, 43, 2, EveryFamily, Qt::yellow, Qt::black};
+    const auto isExact = [&] {
+        apply(grid.drawer, current, wanted);
+        const QSize size = grid.canvas.size();
+        return grid.rendered(blank(size)) == drawnLineByLine(blank(size), size, wanted);
+    };
+    QVERIFY(isExact());
+    wanted.line = Qt::red;
+    QVERIFY(isExact());
+    wanted.background = Qt::blue;
+    QVERIFY(isExact());
+    wanted.families = SlantLeft;
+    QVERIFY(isExact());
+    wanted.width = 5;
+    QVERIFY(isExact());
+    wanted.distance = 9;
+    QVERIFY(isExact());
+    wanted.offset = 44;
+    QVERIFY(isExact());
+    grid.canvas.resize(301, 201);
+    QVERIFY(isExact());
+    scroll(grid.drawer, current);
+    wanted = current;
+    QVERIFY(isExact());
+}
+
+void TestGridDrawerExact::laboriousGrid_isPaintedInParts()
+{
+    const QSize size(3840, 2160);
+    GridCanvas grid(size);
+    GridSettings current;
+    apply(grid.drawer, current, {3, 10, 5, EveryFamily, Qt::yellow, Qt::black});
+    const auto renderOnce = [&] {
+        QImage image = blank(size);
+        grid.canvas.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+        return image;
+    };
+    const QImage first = renderOnce();
+    QVERIFY(!grid.drawer.isDrawnInFull());
+    QVERIFY(renderOnce() != first);
+
+    scroll(grid.drawer, current); // given up
+    QCOMPARE(renderOnce(), drawnLineByLine(blank(size), size, current));
+    QVERIFY(grid.drawer.isDrawnInFull());
 }
 
 void TestGridDrawerExact::partOfTheWindow_isRepaintedExactly()
@@ -213,41 +262,6 @@ void TestGridDrawerExact::childOfAWindow_isPaintedExactly()
     QImage image = blank(window.size());
     window.render(&image);
     QCOMPARE(image.copy(QRect(canvas.pos(), size)), drawnLineByLine(blank(size), size, current));
-}
-
-void TestGridDrawerExact::pieces_areSmallerThanThePicture()
-{
-    Lot lot;
-    GridPicture picture;
-    for (int i = 0; i < 1500; ++i) {
-        const QSize size = lot.size();
-        const GridSettings settings = lot.settings();
-        QImage image(size, QImage::Format_RGB32);
-        QPainter painter(&image);
-        picture.paint(painter, patternOf(size, settings));
-        if (picture.memory() >= bytes(size))
-            QFAIL(qPrintable(QStringLiteral("%1 bytes for ").arg(picture.memory())
-                             + description(size, settings)));
-    }
-}
-
-void TestGridDrawerExact::pieces_areUsedAtEverySetting()
-{
-    const QSize size(1920, 1080);
-    QImage image(size, QImage::Format_RGB32);
-    QPainter painter(&image);
-    for (const int distance : {3, 4, 10, 50, 239, 350, 699, 700}) {
-        for (const int offset : {0, distance - 1, 699}) {
-            for (const int width : {1, 5}) {
-                GridPicture picture;
-                const GridSettings settings{distance,    offset,  width,
-                                            EveryFamily, Qt::red, Qt::black};
-                picture.paint(painter, patternOf(size, settings));
-                QVERIFY2(picture.memory() > 0, qPrintable(description(size, settings)));
-                QVERIFY2(picture.memory() < bytes(size), qPrintable(description(size, settings)));
-            }
-        }
-    }
 }
 
 QTEST_MAIN(TestGridDrawerExact)

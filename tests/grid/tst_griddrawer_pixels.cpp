@@ -126,6 +126,7 @@ private slots:
     void lineFunctions_ignoreTheFlagsAndKeepThePen_data();
     void lineFunctions_ignoreTheFlagsAndKeepThePen();
     void families_arePaintedOverOneAnotherInOrder();
+    void screens_areCopiedNotDrawnLineByLine();
     void scrolling_movesEveryFamilyByOnePixel();
     void smallerDistance_keepsTheOffsetUpToTheNextStep();
     void changePix_setsTheWidthOfTheLines();
@@ -285,6 +286,20 @@ void TestGridDrawerPixels::families_arePaintedOverOneAnotherInOrder()
     const Record painted = recorded(grid.canvas);
     QCOMPARE(painted.lines, expected);
     QCOMPARE(painted.lineCalls, expected.size());
+}
+
+void TestGridDrawerPixels::screens_areCopiedNotDrawnLineByLine()
+{
+    GridCanvas grid(QSize(1920, 1080));
+    grid.showRedOnBlue(EveryFamily);
+    for (const int distance : {700, 350, 50, 3}) { // the offset is beyond the last
+        grid.drawer.slot_changeDistance(distance);
+        for (const int width : {1, 5}) {
+            grid.drawer.slot_changePix(width);
+            QCOMPARE(recorded(grid.canvas).lineCalls, 0);
+        }
+        grid.scroll(7);
+    }
 }
 
 void TestGridDrawerPixels::scrolling_movesEveryFamilyByOnePixel()

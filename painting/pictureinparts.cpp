@@ -1,0 +1,93 @@
+#include "pictureinparts.h"
+
+#include "painterscale.h"
+
+#include <QElapsedTimer>
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+// Less than the time between two paintings of the test window, blit included.
+constexpr int partMs = 45;
+
+int dotsPerMeter(int dotsPerInch)
+{
+    constexpr qreal inch = 0.0254; // metres
+    return qRound(dotsPerInch / inch);
+}
+
+} // namespace
+
+PictureInParts::PictureInParts(int layerCount)
+    : m_layerCount(layerCount)
+    , m_layer(layerCount)
+{ }
+
+bool PictureInParts::showPart(QPainter &painter, const QSize &size, bool isAnother)
+{
+    const qreal scale = plainScale(painter);
+    if (scale <= 0) {
+        drop();
+        return false;
+    }
+    QElapsedTimer clock;
+    clock.start();
+    const QSize pixels(int(std::ceil(size.width() * scale)), int(std::ceil(size.height() * scale)));
+    const int resolution = dotsPerMeter(painter.device()->logicalDpiY());
+    if (isAnother || m_image.size() != pixels || m_scale != scale
+        || m_image.dotsPerMeterY() != resolution) {
+        m_scale = scale;
+        begin(pixels, resolution);
+    }
+    if (!isComplete())
+        proceed(clock);
+    if (m_image.isNull())
+        return false;
+    const QTransform before = painter.worldTransform();
+    painter.scale(1 / scale, 1 / scale);
+    painter.drawImage(0, 0, m_image);
+    painter.setWorldTransform(before);
+    return true;
+}
+
+void PictureInParts::drop()
+{
+    m_image = QImage();
+    m_layer = m_layerCount;
+}
+
+void PictureInParts::begin(const QSize &pixels, int resolution)
+{
+    if (m_image.size() != pixels) {
+        drop(); // never two in memory at a time
+        m_image = QImage(pixels, QImage::Format_RGB32);
+        if (m_image.isNull())
+            return;
+    }
+    // Points are as large as on the window.
+    m_image.setDotsPerMeterX(resolution);
+    m_image.setDotsPerMeterY(resolution);
+    QPainter painter(&m_image);
+    painter.scale(m_scale, m_scale);
+    preparePainter(painter);
+    drawBackground(painter);
+    m_layer = 0;
+    m_stroke = 0;
+}
+
+void PictureInParts::proceed(const QElapsedTimer &clock)
+{
+    QPainter painter(&m_image);
+    painter.scale(m_scale, m_scale);
+    preparePainter(painter);
+    while (!isComplete() && !clock.hasExpired(partMs)) {
+        if (m_stroke < strokeCount(m_layer)) {
+            m_stroke = drawStrokes(painter, m_layer, m_stroke);
+        } else {
+            ++m_layer;
+            m_stroke = 0;
+        }
+    }
+}
