@@ -43,6 +43,7 @@ private:
     const int m_layerCount;
     QImage m_image; // in device pixels, of the resolution of what it is shown on
     qreal m_scale = 0;
+    qint64 m_blitMs = 15; // of the last show; a guess before the first
     // The next stroke.
     int m_layer;
     qint64 m_stroke = 0;
