@@ -1,5 +1,6 @@
 #include "drawcontainer.h"
 #include "mainwindowrig.h"
+#include "paintcounter.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
 
@@ -13,26 +14,6 @@
 #include <QTest>
 
 #include <algorithm>
-
-namespace {
-
-// Counts the paint events of a widget.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++paints;
-        return QObject::eventFilter(watched, event);
-    }
-
-    int paints = 0;
-};
-
-} // namespace
 
 // The grid's run from one start of the program to the next, and behind the other tabs.
 class TestMainWindowGridRun : public QObject
@@ -93,7 +74,7 @@ int TestMainWindowGridRun::paintsInFortySteps()
 {
     QSignalSpy ticks(grid(), &ScrGridCtrlDialog::signal_gridAutoChange);
     const PaintCounter counter(MainWindowRig::testWindow());
-    return QTest::qWaitFor([&ticks] { return ticks.count() >= 40; }) ? counter.paints : -1;
+    return QTest::qWaitFor([&ticks] { return ticks.count() >= 40; }) ? counter.count : -1;
 }
 
 void TestMainWindowGridRun::runOfBefore_goesOnAfterAStartOnItsTab()

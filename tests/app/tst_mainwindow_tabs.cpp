@@ -2,6 +2,7 @@
 #include "drawerbase.h"
 #include "gradualchangectrlwidget.h"
 #include "mainwindowrig.h"
+#include "paintcounter.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
 
@@ -10,23 +11,6 @@
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
-
-namespace {
-
-class PaintCounter : public QObject
-{
-public:
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
-
-} // namespace
 
 // What a change of the tab leads to, and what it leaves as it is.
 class TestMainWindowTabs : public QObject
@@ -98,8 +82,7 @@ void TestMainWindowTabs::changeOfTheTab_repaintsTheTestWindow()
 {
     start();
     QVERIFY(QTest::qWaitForWindowExposed(testWindow()));
-    PaintCounter paints;
-    testWindow()->installEventFilter(&paints);
+    const PaintCounter paints(testWindow());
     const auto paint = [] { QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest); };
     paint();
     const int before = paints.count;

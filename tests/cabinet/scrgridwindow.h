@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawcontainer.h"
+#include "paintcounter.h"
 #include "scrgridrig.h"
 
 #include <QScreen>
@@ -16,22 +17,6 @@ inline QImage onScreen(const QWidget &window)
         .convertToFormat(QImage::Format_RGB32);
 }
 
-// Counts how often a widget is painted.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++count;
-        return QObject::eventFilter(watched, event);
-    }
-
-    int count = 0;
-};
-
 // The cabinet drawer on the real test window, with a style sheet as in the program, and
 // with one module so large that only the background is to be seen but for the first 2 rows
 // and columns.
@@ -41,7 +26,7 @@ struct ScrGridWindow
 
     ScrGridWindow()
         : drawer(&window)
-        , paints(window)
+        , paints(&window)
     {
         window.setStyleSheet(QStringLiteral("QWidget{background-color:#ffff00;}"));
         showFirstStart(drawer);

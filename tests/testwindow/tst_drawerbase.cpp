@@ -1,29 +1,9 @@
 #include "drawerbase.h"
 #include "filldrawer.h"
+#include "paintcounter.h"
 
-#include <QEvent>
 #include <QMetaObject>
 #include <QtTest>
-
-namespace {
-
-// Counts the paint events of a widget.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++paints;
-        return QObject::eventFilter(watched, event);
-    }
-
-    int paints = 0;
-};
-
-} // namespace
 
 class TestDrawerBase : public QObject
 {
@@ -78,8 +58,8 @@ void TestDrawerBase::update_repaintsTheTargetOnTheNextTurn()
 
     static_cast<DrawerBase &>(drawer).update();
 
-    QCOMPARE(counter.paints, 0);
-    QTRY_COMPARE(counter.paints, 1);
+    QCOMPARE(counter.count, 0);
+    QTRY_COMPARE(counter.count, 1);
 }
 
 QTEST_MAIN(TestDrawerBase)

@@ -1,4 +1,5 @@
 #include "colordialog.h"
+#include "paintcounter.h"
 #include "qtcolorbutton.h"
 
 #include <QColorDialog>
@@ -116,27 +117,6 @@ void TestQtColorButton::freshButton_hasNoColourAndIsCheckeredWithAlpha()
     QVERIFY(!m_button->isAlphaAllowed());
 }
 
-namespace {
-
-// How often a widget is painted.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-    int count() const { return m_count; }
-    void reset() { m_count = 0; }
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        m_count += event->type() == QEvent::Paint ? 1 : 0;
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    int m_count = 0;
-};
-
-} // namespace
-
 void TestQtColorButton::setColor_emitsNothingAndRepaintsOnlyAChange()
 {
     m_button->show();
@@ -145,11 +125,11 @@ void TestQtColorButton::setColor_emitsNothingAndRepaintsOnlyAChange()
     PaintCounter paints(m_button.get());
     m_button->setColor(Qt::red);
     QCOMPARE(m_button->color(), QColor(Qt::red));
-    QTRY_COMPARE(paints.count(), 1);
-    paints.reset();
+    QTRY_COMPARE(paints.count, 1);
+    paints.count = 0;
     m_button->setColor(Qt::red);
     QCoreApplication::processEvents();
-    QCOMPARE(paints.count(), 0);
+    QCOMPARE(paints.count, 0);
     QCOMPARE(m_changes->count(), 0);
 }
 
@@ -161,11 +141,11 @@ void TestQtColorButton::setBackgroundCheckered_repaintsOnlyAChange()
     PaintCounter paints(m_button.get());
     m_button->setBackgroundCheckered(false);
     QVERIFY(!m_button->isBackgroundCheckered());
-    QTRY_COMPARE(paints.count(), 1);
-    paints.reset();
+    QTRY_COMPARE(paints.count, 1);
+    paints.count = 0;
     m_button->setBackgroundCheckered(false);
     QCoreApplication::processEvents();
-    QCOMPARE(paints.count(), 0);
+    QCOMPARE(paints.count, 0);
 }
 
 void TestQtColorButton::click_asksForAColourWithAlphaOrWithout_data()
