@@ -31,13 +31,13 @@ bool isScreen(const QRect &rectangle)
 }
 
 // The screen that shows most of the place.
-QRect screenOf(const QRect &place)
+QScreen *screenOf(const QRect &place)
 {
-    QRect best = QGuiApplication::primaryScreen()->geometry();
+    QScreen *best = QGuiApplication::primaryScreen();
     const QList<QScreen *> screens = QGuiApplication::screens();
-    for (const QScreen *screen : screens) {
-        if (area(screen->geometry() & place) > area(best & place))
-            best = screen->geometry();
+    for (QScreen *screen : screens) {
+        if (area(screen->geometry() & place) > area(best->geometry() & place))
+            best = screen;
     }
     return best;
 }
@@ -74,6 +74,9 @@ PlaceKeeper::PlaceKeeper(QWidget *window, ManagerEcho *echo, QObject *parent)
     // What has the keyboard may be put in front.
     connect(qApp, &QGuiApplication::focusWindowChanged, m_echo, &ManagerEcho::ask);
     connect(&m_liftTimer, &QTimer::timeout, this, &PlaceKeeper::lift);
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    std::for_each(screens.cbegin(), screens.cend(), [this](QScreen *screen) { follow(screen); });
+    connect(qApp, &QGuiApplication::screenAdded, this, &PlaceKeeper::follow);
 }
 
 PlaceKeeper::~PlaceKeeper() = default;
@@ -82,6 +85,19 @@ void PlaceKeeper::setPlace(const QRect &place)
 {
     m_place = place;
     request();
+}
+
+// A window manager resizes what fills a screen with the screen, but only as long as it manages it.
+void PlaceKeeper::follow(QScreen *screen)
+{
+    if (screen->geometry() == m_screen) // it was off
+        m_filled = screen;
+    connect(screen, &QScreen::geometryChanged, this, [this, screen](const QRect &now) {
+        if (!m_isFull || m_filled != screen)
+            return;
+        m_screen = now;
+        request();
+    });
 }
 
 QRect PlaceKeeper::target() const
@@ -293,8 +309,10 @@ void PlaceKeeper::stateChanged(bool isSpontaneous)
     if (isSpontaneous && m_echo->ask()) // true or not, its place will tell
         return;
     m_isFull = m_window->isFullScreen();
-    if (m_isFull)
-        m_screen = screenOf(m_place);
+    if (m_isFull) {
+        m_filled = screenOf(m_place);
+        m_screen = m_filled->geometry();
+    }
     request();
 }
 

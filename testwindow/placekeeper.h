@@ -10,6 +10,8 @@
 #include <QVector>
 #include <QWidget>
 
+class QScreen;
+
 // Keeps the test window where the operator wants it: asks the window manager, looks at what has
 // become of that once it has answered, and if it has refused takes the window out of its hands.
 class PlaceKeeper : public QObject
@@ -35,6 +37,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void follow(QScreen *screen);
     void request();
     void insist();
     void put();
@@ -57,6 +60,7 @@ private:
     QRect m_place;
     bool m_isFull = false;
     QRect m_screen; // to be filled then
+    const QScreen *m_filled = nullptr; // the same, to be compared only: it may be off
     bool m_isSettled = false; // it was in place after the latest request
     int m_refusals = 0; // of the latest request
     bool m_isNew = false; // until the window manager has shown it

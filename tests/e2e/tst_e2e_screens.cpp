@@ -22,6 +22,7 @@ private slots:
     void fullScreen_coversTheScreenOfTheTestWindow();
     void unplugging_keepsTheTestWindow_andPluggingInBringsItBack();
     void fullScreen_comesBackWithItsScreen();
+    void fullScreen_followsItsScreenOutsideTheManagersHands();
     void dragWhileAScreenIsOff_changesThePlaceAlone();
     void controlWindow_leavesAScreenThatIsGone();
 
@@ -282,6 +283,20 @@ void tst_e2e_screens::fullScreen_comesBackWithItsScreen()
     desktop().keyboard().key("f", Qt::ShiftModifier);
     QVERIFY(testWindowCovers(OnTheRight));
     QCOMPARE(stored(), OnTheRight);
+}
+
+void tst_e2e_screens::fullScreen_followsItsScreenOutsideTheManagersHands()
+{
+    const QRect overTheDock(2500, 900, 180, 180); // which the window manager does not allow
+    plugIn("--right-of");
+    const auto dock = desktop().windows().addDock({0, 1040, 3840, 40}, qRgb(200, 0, 200));
+    QVERIFY(startToolAt(overTheDock));
+    QVERIFY(testWindowCovers(overTheDock));
+    desktop().keyboard().key("f", Qt::ShiftModifier);
+    QVERIFY(testWindowCovers(Right));
+
+    plugIn("--left-of");
+    QVERIFY(testWindowCovers(Left));
 }
 
 void tst_e2e_screens::dragWhileAScreenIsOff_changesThePlaceAlone()
