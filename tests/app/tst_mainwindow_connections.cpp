@@ -47,6 +47,7 @@ private slots:
     void shiftAndCtrlArrows_stepTheTestWindow_data();
     void shiftAndCtrlArrows_stepTheTestWindow();
     void shiftH_hidesAndShowsTheTestWindow();
+    void visibilityThatTheTestWindowReports_isShownByThePlacementPanel();
     void shiftF_togglesTheFullScreen();
     void pageUp_jumpsIntoTheWalk();
     void keysOfTheTestWindow_areTheProgramsToo();
@@ -261,6 +262,19 @@ void TestMainWindowConnections::shiftH_hidesAndShowsTheTestWindow()
         QCOMPARE(buttons.first()->isEnabled(), !visible);
         QCOMPARE(buttons.last()->isEnabled(), visible);
     }
+}
+
+// The report counts by itself, before the window's own event comes or without it.
+void TestMainWindowConnections::visibilityThatTheTestWindowReports_isShownByThePlacementPanel()
+{
+    m_rig.start();
+    const auto buttons = panel(0)->findChildren<QPushButton *>(
+        QStringLiteral("normalContentPushBtn")); // to show and to hide
+    QCOMPARE(buttons.size(), 2);
+    emit MainWindowRig::testWindow()->signal_containerWidgetHide();
+    QVERIFY(buttons.at(0)->isEnabled() && !buttons.at(1)->isEnabled());
+    emit MainWindowRig::testWindow()->signal_containerWidgetShow();
+    QVERIFY(!buttons.at(0)->isEnabled() && buttons.at(1)->isEnabled());
 }
 
 void TestMainWindowConnections::shiftF_togglesTheFullScreen()
