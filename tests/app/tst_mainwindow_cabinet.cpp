@@ -26,10 +26,10 @@ QString pictureFolder()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/BackgroundPicture");
 }
 
-void keepPicture()
+void keepPicture(const QColor &color = Qt::cyan)
 {
     QImage picture(4, 4, QImage::Format_RGB32);
-    picture.fill(Qt::cyan);
+    picture.fill(color);
     if (!QDir().mkpath(pictureFolder())
         || !picture.save(pictureFolder() + QStringLiteral("/picture"), "PNG"))
         qFatal("cannot keep a picture");
@@ -173,8 +173,11 @@ void TestMainWindowCabinet::resizedTestWindow_stretchesThePictureAgain()
     layOut();
     DrawContainer *testWindow = MainWindowRig::testWindow();
     testWindow->resize(300, 200);
-    emit testWindow->signal_drawWidgetSizeChange(300, 200);
     QTRY_COMPARE(drawer()->m_bgPixmap.size(), QSize(300, 200));
+
+    keepPicture(Qt::magenta); // which a report of the size has looked at, resized or not
+    emit testWindow->signal_drawWidgetSizeChange(300, 200);
+    QTRY_COMPARE(drawer()->m_bgPixmap.toImage().pixelColor(1, 1), QColor(Qt::magenta));
 }
 
 void TestMainWindowCabinet::pageKeyBehindTheAdvancedSettings_leavesThemUsable()
