@@ -1,4 +1,5 @@
 #include "commonhelper.h"
+#include "dictionary.h"
 #include "textwidth.h"
 
 #include <QCheckBox>
@@ -7,7 +8,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
 
 #include <memory>
@@ -64,19 +64,6 @@ void addKinds()
     QTest::newRow("check box") << QStringLiteral("check box") << 20;
     QTest::newRow("radio button") << QStringLiteral("radio button") << 20;
 }
-
-// Answers the source texts of the helper's own context with "<text>!".
-class OwnContextTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        return qstrcmp(context, "CommonHelper") == 0
-                   ? QString::fromUtf8(sourceText) + QLatin1Char('!')
-                   : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 } // namespace
 
@@ -338,8 +325,7 @@ void TestCommonHelper::colorName_ofATestColourIsTranslated()
     QFETCH(const QColor, color);
     QFETCH(const QString, name);
     QCOMPARE(CommonHelper::getColorName(color), name);
-    OwnContextTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const Dictionary marked(QStringLiteral("!"), "CommonHelper");
     QCOMPARE(CommonHelper::getColorName(color), name + QLatin1Char('!'));
 }
 
@@ -356,8 +342,7 @@ void TestCommonHelper::colorName_ofAnotherColourIsNull()
 {
     QFETCH(const QColor, color);
     QVERIFY(CommonHelper::getColorName(color).isNull());
-    OwnContextTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const Dictionary marked(QStringLiteral("!"), "CommonHelper");
     QVERIFY(CommonHelper::getColorName(color).isNull());
 }
 

@@ -1,6 +1,6 @@
+#include "dictionary.h"
 #include "testcolor.h"
 
-#include <QTranslator>
 #include <QtTest>
 
 #include <limits>
@@ -18,24 +18,6 @@ constexpr Entry entries[] = {
     {"红", Qt::red, 1, 0, 0},     {"绿", Qt::green, 0, 1, 0},  {"蓝", Qt::blue, 0, 0, 1},
     {"白", Qt::white, 1, 1, 1},   {"黄", Qt::yellow, 1, 1, 0}, {"青", Qt::cyan, 0, 1, 1},
     {"紫", Qt::magenta, 1, 0, 1},
-};
-
-// Answers the source texts of one context with "<text>!".
-class ContextTranslator : public QTranslator
-{
-public:
-    explicit ContextTranslator(const char *context)
-        : m_context(context)
-    { }
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        return qstrcmp(context, m_context) == 0 ? QString::fromUtf8(sourceText) + QLatin1Char('!')
-                                                : QString();
-    }
-    bool isEmpty() const override { return false; }
-
-private:
-    const char *m_context;
 };
 
 void addOtherColors()
@@ -127,8 +109,7 @@ void TestTestColor::equalColour_isFoundHoweverItWasMade()
 
 void TestTestColor::name_isTranslatedInTheHelpersContext()
 {
-    ContextTranslator translator("CommonHelper");
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const Dictionary marked(QStringLiteral("!"), "CommonHelper");
     for (int index = 0; index < TestColor::count; ++index) {
         QCOMPARE(TestColor::translatedName(index),
                  QString::fromUtf8(entries[index].name) + QLatin1Char('!'));

@@ -1,5 +1,6 @@
 #include "dictionary.h"
 #include "gradientrig.h"
+#include "paneltest.h"
 
 #include <QLabel>
 #include <QSignalSpy>
@@ -7,56 +8,33 @@
 
 namespace {
 
-using LevelSlot = void (GradualChangeCtrlWidget::*)();
-
 struct Level
 {
     int count;
     const char *text;
-    LevelSlot slot;
 };
 
-constexpr Level levels[] = {
-    {32, "32级", &GradualChangeCtrlWidget::slot_changeGradualColorFirst},
-    {64, "64级", &GradualChangeCtrlWidget::slot_changeGradualColorSecond},
-    {128, "128级", &GradualChangeCtrlWidget::slot_changeGradualColorThird},
-    {256, "256级", &GradualChangeCtrlWidget::slot_changeGradualColorFirth},
-};
-
-// Every text of the panel, the colours first.
-QStringList texts(const GradientRig &rig)
-{
-    QStringList all;
-    for (int index = 0; index < colorCount; ++index)
-        all << rig.colorButton(index)->text();
-    for (const QPushButton *button : rig.levelButtons())
-        all << button->text();
-    return all;
-}
-
-const QWidget *nextTabStop(const QWidget *widget)
-{
-    do {
-        widget = widget->nextInFocusChain();
-    } while (!(widget->focusPolicy() & Qt::TabFocus));
-    return widget;
-}
+constexpr Level levels[] = {{32, "32级"}, {64, "64级"}, {128, "128级"}, {256, "256级"}};
 
 } // namespace
 
-class TestGradualChangeCtrlWidget : public QObject
+class TestGradualChangeCtrlWidget : public PanelTest<GradientRig>
 {
     Q_OBJECT
 
+protected:
+    QVariantMap defaults() const override;
+    QByteArray stored() const override;
+    QList<QByteArray> alsoStored() const override;
+    QString texts() const override;
+    void addEdits() const override;
+
 private slots:
     void firstStart_selectsRedAndHolds256Levels();
-    void button64_emitsItsTextAndRedrawsWithA64PixelRamp();
     void levelButton_repaintsTheTestWindow();
 
     void levelButtons_setLevelTextAndRamp_data();
     void levelButtons_setLevelTextAndRamp();
-    void levelSlots_setLevelTextAndRamp_data();
-    void levelSlots_setLevelTextAndRamp();
     void levelText_comesBeforeTheUserChangedFlag();
     void levelButton_announcesNoColour();
     void levelText_isNotTranslated();
@@ -64,13 +42,52 @@ private slots:
     void form_isAlignedAndWithinThePanel();
     void levelButtons_areNamedForTheStyleSheet();
     void rule_hasItsColour();
-    void tabKey_walksFromLeftToRightAndDown();
     void drawer_isTheSameEachTimeAndStaysAsItIs();
 
-    void language_isAppliedToEveryText();
-    void language_thatDoesNotFitIsElided();
     void withoutSettings_thePanelWorks();
 };
+
+QVariantMap TestGradualChangeCtrlWidget::defaults() const
+{
+    return {{QStringLiteral("gradualChangeColor"), QColor(Qt::red)},
+            {QStringLiteral("gradualChangeColorLevel"), 256}};
+}
+
+QByteArray TestGradualChangeCtrlWidget::stored() const
+{
+    return "gradualChangeColor = #0000ff\ngradualChangeColorLevel = 100\n";
+}
+
+QList<QByteArray> TestGradualChangeCtrlWidget::alsoStored() const
+{
+    return {"gradualChangeColor = #808080\n", "gradualChangeColorLevel = -3\n"};
+}
+
+QString TestGradualChangeCtrlWidget::texts() const
+{
+    return QStringLiteral("红 绿 蓝 白 黄 青 紫 32级 64级 128级 256级");
+}
+
+void TestGradualChangeCtrlWidget::addEdits() const
+{
+    const char *const level = "gradualChangeColorLevel";
+    edit("32", "", "32级", {}, "signal_greyChanged(32级)", level, "32");
+    edit("64", "", "64级", {}, "signal_greyChanged(64级)", level, "64");
+    edit("128", "", "128级", {}, "signal_greyChanged(128级)", level, "128");
+    edit("256", "", "256级", {}, "signal_greyChanged(256级)", level, "256");
+    edit("slot of 32", "", "slot_changeGradualColorFirst", {}, "signal_greyChanged(32级)", level,
+         "32");
+    edit("slot of 64", "", "slot_changeGradualColorSecond", {}, "signal_greyChanged(64级)", level,
+         "64");
+    edit("slot of 128", "", "slot_changeGradualColorThird", {}, "signal_greyChanged(128级)", level,
+         "128");
+    edit("slot of 256", "", "slot_changeGradualColorFirth", {}, "signal_greyChanged(256级)", level,
+         "256");
+    edit("colour", "", "radioButtonCyan", {}, "signal_selectColorChanged(#00ffff)",
+         "gradualChangeColor", "#00ffff");
+    edit("colour from elsewhere", "", "slot_changeGradualColorGreen", {}, "", "gradualChangeColor",
+         "#00ff00");
+}
 
 void TestGradualChangeCtrlWidget::firstStart_selectsRedAndHolds256Levels()
 {
@@ -80,17 +97,6 @@ void TestGradualChangeCtrlWidget::firstStart_selectsRedAndHolds256Levels()
     QCOMPARE(rig.panel->m_level, qint16(256));
     QVERIFY(!rig.panel->m_userChanged);
     QVERIFY(rig.shows(256, Qt::red));
-}
-
-void TestGradualChangeCtrlWidget::button64_emitsItsTextAndRedrawsWithA64PixelRamp()
-{
-    GradientRig rig;
-    QSignalSpy grey(rig.panel.get(), &GradualChangeCtrlWidget::signal_greyChanged);
-    rig.click(rig.levelButton(1));
-
-    QCOMPARE(grey.count(), 1);
-    QCOMPARE(grey.first().first().toString(), QStringLiteral("64级"));
-    QVERIFY(rig.shows(64, Qt::red));
 }
 
 void TestGradualChangeCtrlWidget::levelButton_repaintsTheTestWindow()
@@ -127,25 +133,6 @@ void TestGradualChangeCtrlWidget::levelButtons_setLevelTextAndRamp()
     QVERIFY(rig.panel->m_userChanged);
     QVERIFY(rig.panel->getDrawer()->active);
     QVERIFY(rig.shows(levels[row].count, Qt::cyan));
-}
-
-void TestGradualChangeCtrlWidget::levelSlots_setLevelTextAndRamp_data()
-{
-    levelButtons_setLevelTextAndRamp_data();
-}
-
-void TestGradualChangeCtrlWidget::levelSlots_setLevelTextAndRamp()
-{
-    QFETCH(const uint, row);
-    GradientRig rig({{levelKey, 200}});
-    QSignalSpy grey(rig.panel.get(), &GradualChangeCtrlWidget::signal_greyChanged);
-    (rig.panel.get()->*levels[row].slot)();
-
-    QCOMPARE(rig.panel->m_level, qint16(levels[row].count));
-    QCOMPARE(grey.count(), 1);
-    QCOMPARE(grey.first().first().toString(), QString::fromUtf8(levels[row].text));
-    QVERIFY(rig.panel->m_userChanged);
-    QVERIFY(rig.shows(levels[row].count, Qt::red));
 }
 
 void TestGradualChangeCtrlWidget::levelText_comesBeforeTheUserChangedFlag()
@@ -208,9 +195,6 @@ void TestGradualChangeCtrlWidget::levelButtons_areNamedForTheStyleSheet()
     const GradientRig rig;
     QCOMPARE(rig.levelButtons().size(), std::size_t(4));
     QCOMPARE(rig.panel->findChildren<QPushButton *>().size(), 4);
-    QCOMPARE(texts(rig).mid(colorCount),
-             QStringList({QStringLiteral("32级"), QStringLiteral("64级"), QStringLiteral("128级"),
-                          QStringLiteral("256级")}));
 }
 
 void TestGradualChangeCtrlWidget::rule_hasItsColour()
@@ -219,20 +203,6 @@ void TestGradualChangeCtrlWidget::rule_hasItsColour()
     const auto *rule = rig.panel->findChild<QLabel *>(QStringLiteral("label"));
     QVERIFY(rule);
     QCOMPARE(rule->styleSheet(), QStringLiteral("background:rgb(75,80,87);"));
-}
-
-void TestGradualChangeCtrlWidget::tabKey_walksFromLeftToRightAndDown()
-{
-    const GradientRig rig;
-    const QWidget *widget = rig.colorButton(0);
-    for (int index = 1; index < colorCount; ++index) {
-        widget = nextTabStop(widget);
-        QCOMPARE(widget, rig.colorButton(index));
-    }
-    for (const QPushButton *button : rig.levelButtons()) {
-        widget = nextTabStop(widget);
-        QCOMPARE(widget, button);
-    }
 }
 
 void TestGradualChangeCtrlWidget::drawer_isTheSameEachTimeAndStaysAsItIs()
@@ -246,43 +216,6 @@ void TestGradualChangeCtrlWidget::drawer_isTheSameEachTimeAndStaysAsItIs()
         QCOMPARE(rig.panel->getDrawer(), drawer);
         QCOMPARE(drawer->active, active);
     }
-}
-
-void TestGradualChangeCtrlWidget::language_isAppliedToEveryText()
-{
-    const GradientRig rig;
-    const QStringList chinese = texts(rig);
-    {
-        const Dictionary words({{QStringLiteral("红"), QStringLiteral("R")},
-                                {QStringLiteral("绿"), QStringLiteral("G")},
-                                {QStringLiteral("蓝"), QStringLiteral("B")},
-                                {QStringLiteral("白"), QStringLiteral("W")},
-                                {QStringLiteral("黄"), QStringLiteral("Y")},
-                                {QStringLiteral("青"), QStringLiteral("C")},
-                                {QStringLiteral("紫"), QStringLiteral("P")},
-                                {QStringLiteral("32级"), QStringLiteral("a")},
-                                {QStringLiteral("64级"), QStringLiteral("b")},
-                                {QStringLiteral("128级"), QStringLiteral("c")},
-                                {QStringLiteral("256级"), QStringLiteral("d")}});
-        rig.panel->updateLanguage();
-        QCOMPARE(texts(rig).join(QLatin1Char(' ')), QStringLiteral("R G B W Y C P a b c d"));
-    }
-    rig.panel->updateLanguage();
-    QCOMPARE(texts(rig), chinese);
-    QCOMPARE(chinese.first(), QStringLiteral("红"));
-}
-
-void TestGradualChangeCtrlWidget::language_thatDoesNotFitIsElided()
-{
-    const GradientRig rig;
-    const QString whole = QStringLiteral("thirty-two levels of grey in all");
-    const Dictionary words({{QStringLiteral("32级"), whole}});
-    rig.panel->updateLanguage();
-
-    const QPushButton *button = rig.levelButton(0);
-    QCOMPARE(button->toolTip(), whole);
-    QVERIFY(button->text().endsWith(QChar(0x2026)));
-    QVERIFY(button->fontMetrics().boundingRect(button->text()).width() <= button->width());
 }
 
 void TestGradualChangeCtrlWidget::withoutSettings_thePanelWorks()

@@ -1,3 +1,4 @@
+#include "paneltest.h"
 #include "purityrig.h"
 
 #include <QLabel>
@@ -22,22 +23,18 @@ void pressArrow(ScrPurityCtrlDialog &panel, int key)
     }
 }
 
-// Every text of the panel, the colours first.
-QStringList texts(const PurityRig &rig)
-{
-    QStringList all;
-    for (int index = 0; index < 7; ++index)
-        all << rig.colorButton(index)->text();
-    for (const char *name : {"label", "label_4", "label_3"})
-        all << rig.child<QLabel>(name)->text();
-    return all << rig.automatic()->text() << rig.manual()->text() << rig.beginButton()->text();
-}
-
 } // namespace
 
-class TestScrPurityCtrlDialog : public QObject
+class TestScrPurityCtrlDialog : public PanelTest<PurityRig>
 {
     Q_OBJECT
+
+protected:
+    QVariantMap defaults() const override;
+    QByteArray stored() const override;
+    QList<QByteArray> alsoStored() const override;
+    QString texts() const override;
+    void addEdits() const override;
 
 private slots:
     void ranges_areThoseOfTheValues_data();
@@ -49,22 +46,70 @@ private slots:
     void lamps_startGrey();
     void drawer_isTheSameEachTimeAndStaysAsItIs();
 
-    void greyChange_setsPuritySelected_data();
-    void greyChange_setsPuritySelected();
+    void greyEdit_isShownAndSetsPuritySelected_data();
+    void greyEdit_isShownAndSetsPuritySelected();
 
     void arrows_stepTheManualGrey_data();
     void arrows_stepTheManualGrey();
-    void oneGreyEdit_isToldOnce_data();
-    void oneGreyEdit_isToldOnce();
-    void greyEdit_isShown_data();
-    void greyEdit_isShown();
     void sliderAndSpinBox_showTheSameValue();
 
-    void language_isAppliedToEveryText();
-    void language_thatDoesNotFitIsElided_data();
-    void language_thatDoesNotFitIsElided();
+    void automaticSteps_areSavedAtTheEndAlone();
+    void greyOfZero_isSaved();
     void withoutSettings_thePanelWorks();
 };
+
+QVariantMap TestScrPurityCtrlDialog::defaults() const
+{
+    return {{QStringLiteral("testPurityGreyLevel"), 255},
+            {QStringLiteral("testPuritySpeed"), 50},
+            {QStringLiteral("testAutoScale"), 255},
+            {QStringLiteral("AutoTest"), false}};
+}
+
+QByteArray TestScrPurityCtrlDialog::stored() const
+{
+    return "testPurityGreyLevel = 100\ntestPuritySpeed = 20\ntestAutoScale = 200\n"
+           "AutoTest = false\ntestWindowBaseColor = #00ff00\n";
+}
+
+QList<QByteArray> TestScrPurityCtrlDialog::alsoStored() const
+{
+    return {"AutoTest = true\n", "testWindowBaseColor = #ffffff\n", "testPuritySpeed = 0\n"};
+}
+
+QString TestScrPurityCtrlDialog::texts() const
+{
+    return QStringLiteral("红 绿 蓝 白 黄 青 紫 自动 速度 速度 速度 当前灰度 当前灰度 "
+                          "运行指示灯 运行指示灯 开始 手动 灰度 灰度 灰度");
+}
+
+void TestScrPurityCtrlDialog::addEdits() const
+{
+    const char *const grey = "testPurityGreyLevel";
+    const char *const speed = "testPuritySpeed";
+    const char *const mode = "AutoTest";
+    const QByteArray automatic = "AutoTest = true\n";
+    const char *const run = "signal_greyChanged(200) signal_purityAutoChange()";
+    edit("grey slider", "", "hScrollBarScale", 99, "signal_greyChanged(99)", grey, "99");
+    edit("grey spin box", "", "spinBoxScale", 7, "signal_greyChanged(7)", grey, "7");
+    edit("speed slider", automatic, "hScrollBarSpeed", 21, "", speed, "21");
+    edit("speed spin box", automatic, "spinBoxSpeed", 8, "", speed, "8");
+    edit("automatic grey", automatic, "spinBoxAutoScale", 9, "signal_greyChanged(9)",
+         "testAutoScale", "9");
+    edit("to automatic", "", "radioButtonAuto", {}, run, mode, "true");
+    edit("to manual", automatic, "radioButtonMual", {},
+         "signal_greyChanged(100) signal_purityAutoChange() signal_switchToMal(100)", mode,
+         "false");
+    edit("Up", "", "slot_keyUpPressed", {}, "signal_greyChanged(101)", grey, "101");
+    edit("Down", "", "slot_keyDownPressed", {}, "signal_greyChanged(99)", grey, "99");
+    edit("Left", "", "slot_keyLeftPressed", {}, "signal_greyChanged(99)", grey, "99");
+    edit("Right", "", "slot_keyRightPressed", {}, "signal_greyChanged(101)", grey, "101");
+    edit("Insert", "", "slot_keyInsertPressed", {}, run, mode, "true");
+    edit("Delete", "", "slot_keyDeletePressed", {}, run, mode, "true");
+    edit("colour", "", "radioButtonCyan", {},
+         "signal_colorChanged(#00ffff) signal_colorChanged(#00ffff)", "testWindowBaseColor",
+         "#00ffff");
+}
 
 void TestScrPurityCtrlDialog::ranges_areThoseOfTheValues_data()
 {
@@ -145,20 +190,22 @@ void TestScrPurityCtrlDialog::drawer_isTheSameEachTimeAndStaysAsItIs()
     }
 }
 
-void TestScrPurityCtrlDialog::greyChange_setsPuritySelected_data()
+void TestScrPurityCtrlDialog::greyEdit_isShownAndSetsPuritySelected_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"hScrollBarScale", "spinBoxScale", "spinBoxAutoScale"})
         QTest::newRow(name) << QString::fromLatin1(name);
 }
 
-void TestScrPurityCtrlDialog::greyChange_setsPuritySelected()
+void TestScrPurityCtrlDialog::greyEdit_isShownAndSetsPuritySelected()
 {
     QFETCH(const QString, name);
-    const PurityRig rig;
+    PurityRig rig({{QStringLiteral("testWindowBaseColor"), QColor(Qt::yellow)}});
     auto *control = rig.panel->findChild<QWidget *>(name);
-    QVERIFY(control && control->setProperty("value", 77));
+    QVERIFY(control && control->setProperty("value", 200));
 
+    QCOMPARE(rig.shownColor(), qRgb(200, 200, 0));
+    QVERIFY(rig.panel->getDrawer()->active);
     QVERIFY(rig.panel->puritySelected);
 }
 
@@ -200,39 +247,6 @@ void TestScrPurityCtrlDialog::arrows_stepTheManualGrey()
     QVERIFY(rig.panel->puritySelected);
 }
 
-void TestScrPurityCtrlDialog::oneGreyEdit_isToldOnce_data()
-{
-    greyChange_setsPuritySelected_data();
-}
-
-void TestScrPurityCtrlDialog::oneGreyEdit_isToldOnce()
-{
-    QFETCH(const QString, name);
-    const PurityRig rig;
-    QSignalSpy grey(rig.panel.get(), &ScrPurityCtrlDialog::signal_greyChanged);
-    auto *control = rig.panel->findChild<QWidget *>(name);
-    QVERIFY(control && control->setProperty("value", 42));
-
-    QCOMPARE(grey.count(), 1);
-    QCOMPARE(grey.first().first().toString(), QStringLiteral("42"));
-}
-
-void TestScrPurityCtrlDialog::greyEdit_isShown_data()
-{
-    greyChange_setsPuritySelected_data();
-}
-
-void TestScrPurityCtrlDialog::greyEdit_isShown()
-{
-    QFETCH(const QString, name);
-    PurityRig rig({{QStringLiteral("testWindowBaseColor"), QColor(Qt::yellow)}});
-    auto *control = rig.panel->findChild<QWidget *>(name);
-    QVERIFY(control && control->setProperty("value", 200));
-
-    QCOMPARE(rig.shownColor(), qRgb(200, 200, 0));
-    QVERIFY(rig.panel->getDrawer()->active);
-}
-
 void TestScrPurityCtrlDialog::sliderAndSpinBox_showTheSameValue()
 {
     const PurityRig rig;
@@ -247,55 +261,27 @@ void TestScrPurityCtrlDialog::sliderAndSpinBox_showTheSameValue()
     QCOMPARE(rig.greySlider()->value(), 22);
 }
 
-void TestScrPurityCtrlDialog::language_isAppliedToEveryText()
+void TestScrPurityCtrlDialog::automaticSteps_areSavedAtTheEndAlone()
 {
-    const PurityRig rig;
-    const QStringList chinese = texts(rig);
-    QCOMPARE(chinese,
-             QStringList({QStringLiteral("红"), QStringLiteral("绿"), QStringLiteral("蓝"),
-                          QStringLiteral("白"), QStringLiteral("黄"), QStringLiteral("青"),
-                          QStringLiteral("紫"), QStringLiteral("当前灰度"), QStringLiteral("速度"),
-                          QStringLiteral("灰度"), QStringLiteral("自动"), QStringLiteral("手动"),
-                          QStringLiteral("开始")}));
-    {
-        PurityTranslator translator;
-        QVERIFY(QCoreApplication::installTranslator(&translator));
-        rig.panel->updateLanguage();
-        QCOMPARE(texts(rig).join(QLatin1Char(' ')),
-                 QStringLiteral("R G B W Y C P Now Speed Grey Auto Hand Go"));
-    }
-    rig.panel->updateLanguage();
-    QCOMPARE(texts(rig), chinese);
+    PurityRig rig({{QStringLiteral("AutoTest"), true}, {QStringLiteral("testAutoScale"), 200}});
+    rig.panel->slot_keyInsertPressed();
+    for (int expected = 201; expected <= 210; ++expected)
+        QCOMPARE(rig.tick(), expected);
+    QVERIFY(!rig.isSaveDue());
+
+    rig.close();
+    QCOMPARE(rig.settings.stored().value(QStringLiteral("testAutoScale")).toInt(), 210);
 }
 
-void TestScrPurityCtrlDialog::language_thatDoesNotFitIsElided_data()
+// Though it is read as 255.
+void TestScrPurityCtrlDialog::greyOfZero_isSaved()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("whole");
-    const QString rest = QStringLiteral(" and on").repeated(9);
-    QTest::newRow("current grey") << QStringLiteral("label") << QStringLiteral("Now") + rest;
-    QTest::newRow("grey") << QStringLiteral("label_3") << QStringLiteral("Grey") + rest;
-    QTest::newRow("speed") << QStringLiteral("label_4") << QStringLiteral("Speed") + rest;
-    QTest::newRow("auto") << QStringLiteral("radioButtonAuto") << QStringLiteral("Auto") + rest;
-    QTest::newRow("manual") << QStringLiteral("radioButtonMual") << QStringLiteral("Hand") + rest;
-}
-
-void TestScrPurityCtrlDialog::language_thatDoesNotFitIsElided()
-{
-    QFETCH(const QString, name);
-    QFETCH(const QString, whole);
-    const PurityRig rig;
-    const auto *widget = rig.panel->findChild<QWidget *>(name);
-    QVERIFY(widget);
-    PurityTranslator translator(true);
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    rig.panel->updateLanguage();
-
-    QCOMPARE(widget->toolTip(), whole);
-    const QString shown = widget->property("text").toString();
-    QVERIFY(shown.endsWith(QChar(0x2026)));
-    QVERIFY(whole.startsWith(shown.chopped(1)));
-    QVERIFY(widget->fontMetrics().boundingRect(shown).width() <= widget->width());
+    PurityRig rig;
+    rig.greySlider()->setValue(0);
+    QVERIFY(rig.isSaveDue());
+    rig.close();
+    QCOMPARE(rig.settings.stored().value(QStringLiteral("testPurityGreyLevel")).toString(),
+             QStringLiteral("0"));
 }
 
 void TestScrPurityCtrlDialog::withoutSettings_thePanelWorks()

@@ -5,30 +5,14 @@
 
 namespace {
 
-constexpr int colorCount = 7;
 constexpr int white = 3;
 constexpr int noColor = 256;
-
-constexpr Qt::GlobalColor colors[colorCount] = {Qt::red,    Qt::green, Qt::blue,   Qt::white,
-                                                Qt::yellow, Qt::cyan,  Qt::magenta};
 
 const QString baseColorKey = QStringLiteral("/setting/testWindowBaseColor");
 
 QColor colorAt(const QSignalSpy &spy, int emission)
 {
     return spy.at(emission).first().value<QColor>();
-}
-
-void addColors()
-{
-    QTest::addColumn<int>("index");
-    QTest::newRow("red") << 0;
-    QTest::newRow("green") << 1;
-    QTest::newRow("blue") << 2;
-    QTest::newRow("white") << 3;
-    QTest::newRow("yellow") << 4;
-    QTest::newRow("cyan") << 5;
-    QTest::newRow("purple") << 6;
 }
 
 // Another colour than the one at the index, and not white.
@@ -72,7 +56,7 @@ private slots:
 };
 void TestScrPurityCtrlDialogColors::colourClick_selectsTheColour_data()
 {
-    addColors();
+    addColorRows();
 }
 
 void TestScrPurityCtrlDialogColors::colourClick_selectsTheColour()
@@ -90,7 +74,7 @@ void TestScrPurityCtrlDialogColors::colourClick_selectsTheColour()
 
 void TestScrPurityCtrlDialogColors::colourClick_onAnUncheckedButtonSaysItTwice_data()
 {
-    addColors();
+    addColorRows();
 }
 
 void TestScrPurityCtrlDialogColors::colourClick_onAnUncheckedButtonSaysItTwice()
@@ -130,7 +114,7 @@ void TestScrPurityCtrlDialogColors::colours_areExclusive()
 
 void TestScrPurityCtrlDialogColors::selectingAColour_checksItsButton_data()
 {
-    addColors();
+    addColorRows();
 }
 
 void TestScrPurityCtrlDialogColors::selectingAColour_checksItsButton()
@@ -270,11 +254,7 @@ void TestScrPurityCtrlDialogColors::pageKeys_beforeAnyColourDoNothing()
 
 void TestScrPurityCtrlDialogColors::pageKeys_selectTheFirstFour_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::newRow("red") << 0;
-    QTest::newRow("green") << 1;
-    QTest::newRow("blue") << 2;
-    QTest::newRow("white") << 3;
+    addColorRows(4);
 }
 
 void TestScrPurityCtrlDialogColors::pageKeys_selectTheFirstFour()

@@ -18,9 +18,6 @@ class TestScrPurityCtrlDialogRestoring : public QObject
 private slots:
     void restore_readsWhatIsStored_data();
     void restore_readsWhatIsStored();
-    void restore_ofAWrongIntGivesTheDefault_data();
-    void restore_ofAWrongIntGivesTheDefault();
-    void restore_limitsValuesToTheirRange();
     void restore_ofTheMode_data();
     void restore_ofTheMode();
     void restore_ofAWrongModeStaysConsistent_data();
@@ -45,6 +42,10 @@ void TestScrPurityCtrlDialogRestoring::restore_readsWhatIsStored_data()
     QTest::newRow("100") << QVariant(100) << 100 << 100;
     QTest::newRow("text of a number") << QVariant(QStringLiteral("42")) << 42 << 42;
     QTest::newRow("a stored grey level of 0 reads back as 255") << QVariant(0) << 255 << 50;
+    QTest::newRow("negative") << QVariant(-5) << 255 << 50;
+    QTest::newRow("the least") << QVariant(-2147483647 - 1) << 255 << 50;
+    QTest::newRow("beyond the ranges") << QVariant(256) << 255 << 100;
+    QTest::newRow("the largest") << QVariant(2147483647) << 255 << 100;
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_readsWhatIsStored()
@@ -61,47 +62,6 @@ void TestScrPurityCtrlDialogRestoring::restore_readsWhatIsStored()
     QCOMPARE(rig.autoSpinBox()->value(), grey);
     QCOMPARE(rig.speedSlider()->value(), speed);
     QCOMPARE(rig.speedSpinBox()->value(), speed);
-}
-
-void TestScrPurityCtrlDialogRestoring::restore_ofAWrongIntGivesTheDefault_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::newRow("negative") << QByteArray("-5");
-    QTest::newRow("very negative") << QByteArray("-2147483648");
-    QTest::newRow("zero") << QByteArray("0");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("text") << QByteArray("grey");
-    QTest::newRow("number and text") << QByteArray("12px");
-    QTest::newRow("list") << QByteArray("1, 2, 3");
-    QTest::newRow("huge") << QByteArray("99999999999999999999999");
-    QTest::newRow("binary") << QByteArray(R"(@ByteArray(\0\x1\xff\0))");
-    QTest::newRow("invalid") << QByteArray("@Invalid()");
-    QTest::newRow("rectangle") << QByteArray("@Rect(9 9 9 9)");
-    QTest::newRow("broken variant") << QByteArray(R"(@Variant(\0\0\0\x7f))");
-}
-
-void TestScrPurityCtrlDialogRestoring::restore_ofAWrongIntGivesTheDefault()
-{
-    QFETCH(const QByteArray, value);
-    const PurityRig rig("[setting]\ntestPurityGreyLevel=" + value + "\ntestPuritySpeed=" + value
-                        + "\ntestAutoScale=" + value + '\n');
-
-    QCOMPARE(rig.greySlider()->value(), 255);
-    QCOMPARE(rig.greySpinBox()->value(), 255);
-    QCOMPARE(rig.autoSpinBox()->value(), 255);
-    QCOMPARE(rig.speedSlider()->value(), 50);
-    QCOMPARE(rig.speedSpinBox()->value(), 50);
-}
-
-void TestScrPurityCtrlDialogRestoring::restore_limitsValuesToTheirRange()
-{
-    const PurityRig rig({{QStringLiteral("testPurityGreyLevel"), 256},
-                         {QStringLiteral("testPuritySpeed"), 101},
-                         {QStringLiteral("testAutoScale"), 2147483647}});
-
-    QCOMPARE(rig.greySlider()->value(), 255);
-    QCOMPARE(rig.autoSpinBox()->value(), 255);
-    QCOMPARE(rig.speedSlider()->value(), 100);
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_ofTheMode_data()
@@ -146,21 +106,13 @@ void TestScrPurityCtrlDialogRestoring::restore_ofAWrongModeStaysConsistent()
 
 void TestScrPurityCtrlDialogRestoring::restore_ofTheColour_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<int>("index");
-    QTest::newRow("red") << QColor(Qt::red) << 0;
-    QTest::newRow("green") << QColor(Qt::green) << 1;
-    QTest::newRow("blue") << QColor(Qt::blue) << 2;
-    QTest::newRow("white") << QColor(Qt::white) << 3;
-    QTest::newRow("yellow") << QColor(Qt::yellow) << 4;
-    QTest::newRow("cyan") << QColor(Qt::cyan) << 5;
-    QTest::newRow("purple") << QColor(Qt::magenta) << 6;
+    addColorRows();
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_ofTheColour()
 {
-    QFETCH(const QColor, color);
     QFETCH(const int, index);
+    const QColor color(colors[index]);
     PurityRig rig({{QStringLiteral("testWindowBaseColor"), color}});
 
     QVERIFY(rig.colorButton(index)->isChecked());

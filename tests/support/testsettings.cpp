@@ -1,6 +1,15 @@
 #include "testsettings.h"
 
+#include <QFile>
+
 namespace {
+
+void write(const QString &path, const QByteArray &contents)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        qFatal("cannot write the settings file");
+}
 
 QString fullKey(const QString &key)
 {
@@ -25,7 +34,14 @@ TestSettings::TestSettings(const QVariantMap &values)
     m_settings->sync();
 }
 
-QVariantMap TestSettings::stored()
+TestSettings::TestSettings(const QByteArray &contents)
+{
+    if (!contents.isNull())
+        write(path(), contents);
+    m_settings = open(path());
+}
+
+QVariantMap TestSettings::stored() const
 {
     m_settings->sync();
     QSettings file(path(), QSettings::IniFormat);
@@ -36,6 +52,21 @@ QVariantMap TestSettings::stored()
     for (const QString &key : keys)
         values[key] = file.value(key);
     return values;
+}
+
+QByteArray TestSettings::bytes() const
+{
+    QFile file(path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QVariant TestSettings::onDisk(const QString &key) const
+{
+    // A copy, because Qt shares what is pending among all settings objects of one file.
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("copy.ini"));
+    write(copy, bytes());
+    return open(copy)->value(fullKey(key));
 }
 
 void TestSettings::reopen()

@@ -1,8 +1,8 @@
+#include "dictionary.h"
 #include "swatchbutton.h"
 #include "swatchrow.h"
 
 #include <QSignalSpy>
-#include <QTranslator>
 #include <QtTest>
 
 #include <memory>
@@ -47,23 +47,6 @@ QStringList sourceNames()
     return {QStringLiteral("红"), QStringLiteral("绿"), QStringLiteral("蓝"), QStringLiteral("白"),
             QStringLiteral("黄"), QStringLiteral("青"), QStringLiteral("紫")};
 }
-
-// Answers every source text with itself between two marks, or with a long text.
-class MarkingTranslator : public QTranslator
-{
-public:
-    explicit MarkingTranslator(QString rest)
-        : m_rest(std::move(rest))
-    { }
-    QString translate(const char *, const char *sourceText, const char *, int) const override
-    {
-        return QString::fromUtf8(sourceText) + m_rest;
-    }
-    bool isEmpty() const override { return false; }
-
-private:
-    QString m_rest;
-};
 
 } // namespace
 
@@ -219,8 +202,7 @@ void TestSwatchRow::names_areThoseOfTheInterfaceLanguage()
     row.row->retranslate();
     QCOMPARE(row.texts(), sourceNames());
     {
-        MarkingTranslator translator(QStringLiteral("!"));
-        QVERIFY(QCoreApplication::installTranslator(&translator));
+        const Dictionary marked(QStringLiteral("!"));
         row.row->retranslate();
         for (int index = 0; index < count; ++index) {
             const QString name = sourceNames().at(index) + QLatin1Char('!');
@@ -237,8 +219,7 @@ void TestSwatchRow::nameThatDoesNotFit_isToldByToolTipAndAccessibleName()
 {
     const Row row;
     const QString rest = QStringLiteral(" wide").repeated(8);
-    MarkingTranslator translator(rest);
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const Dictionary marked(rest);
     row.row->retranslate();
 
     for (int index = 0; index < count; ++index) {
@@ -251,8 +232,7 @@ void TestSwatchRow::nameThatDoesNotFit_isNotShownWhole()
 {
     const Row narrow(42);
     const Row wide(400);
-    MarkingTranslator translator(QStringLiteral(" wide").repeated(4));
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const Dictionary marked(QStringLiteral(" wide").repeated(4));
     narrow.row->retranslate();
     wide.row->retranslate();
 

@@ -1,3 +1,4 @@
+#include "dictionary.h"
 #include "titlebar.h"
 
 #include <QDialog>
@@ -5,7 +6,6 @@
 #include <QSignalSpy>
 #include <QStyle>
 #include <QToolButton>
-#include <QTranslator>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -47,19 +47,6 @@ QColor faceColor(const QToolButton *button)
 {
     return button->icon().pixmap(16, 16).toImage().pixelColor(8, 8);
 }
-
-// Answers every source text of one context with "<text>!".
-class ShoutingTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        if (qstrcmp(context, "UX::Widgets::TitleBar") != 0)
-            return {};
-        return QString::fromUtf8(sourceText) + QLatin1Char('!');
-    }
-    bool isEmpty() const override { return false; }
-};
 
 } // namespace
 
@@ -353,8 +340,7 @@ void TestTitleBar::newLanguage_changesTheToolTips()
         QCOMPARE(titled.button(id)->accessibleName(), names.at(id - 1));
     }
 
-    ShoutingTranslator translator;
-    QCoreApplication::installTranslator(&translator);
+    const Dictionary marked(QStringLiteral("!"), "UX::Widgets::TitleBar");
     for (int id = 1; id <= 4; ++id) {
         QTRY_COMPARE(titled.button(id)->toolTip(), names.at(id - 1) + QLatin1Char('!'));
         QCOMPARE(titled.button(id)->accessibleName(), names.at(id - 1) + QLatin1Char('!'));
