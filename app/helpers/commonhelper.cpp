@@ -15,10 +15,38 @@ namespace {
 // The room that the indicator of a check box or radio button takes, in pixels.
 constexpr int indicatorWidth = 20;
 
-// A Mac keyboard has no Insert key, and its "delete" key gives Backspace: so
-// "Insert" is the keypad's Enter (Fn+Return there) and "Delete" is Backspace.
-constexpr int insertKey = Qt::Key_Enter;
-constexpr int deleteKey = Qt::Key_Backspace;
+struct Combination
+{
+    int key;
+    Qt::KeyboardModifier modifiers; // that have to be among the event's
+    void (CommonHelper::*signal)();
+};
+
+// In the order in which they are tried: Shift+Ctrl+Up is the Shift combination. A Mac keyboard has
+// no Insert key, and its "delete" key gives Backspace: so "Insert" is the keypad's Enter (Fn+Return
+// there) and "Delete" is Backspace.
+constexpr Combination combinations[] = {
+    {Qt::Key_Home, Qt::NoModifier, &CommonHelper::signal_keyHomePressed},
+    {Qt::Key_End, Qt::NoModifier, &CommonHelper::signal_keyEndPressed},
+    {Qt::Key_PageUp, Qt::NoModifier, &CommonHelper::signal_keyPageUpPressed},
+    {Qt::Key_PageDown, Qt::NoModifier, &CommonHelper::signal_keyPageDownPressed},
+    {Qt::Key_Up, Qt::ShiftModifier, &CommonHelper::signal_keyShiftUpPressed},
+    {Qt::Key_Down, Qt::ShiftModifier, &CommonHelper::signal_keyShiftDownPressed},
+    {Qt::Key_Left, Qt::ShiftModifier, &CommonHelper::signal_keyShiftLeftPressed},
+    {Qt::Key_Right, Qt::ShiftModifier, &CommonHelper::signal_keyShiftRightPressed},
+    {Qt::Key_F, Qt::ShiftModifier, &CommonHelper::signal_keyShiftFPressed},
+    {Qt::Key_Up, Qt::ControlModifier, &CommonHelper::signal_keyCtrlUpPressed},
+    {Qt::Key_Down, Qt::ControlModifier, &CommonHelper::signal_keyCtrlDownPressed},
+    {Qt::Key_Left, Qt::ControlModifier, &CommonHelper::signal_keyCtrlLeftPressed},
+    {Qt::Key_Right, Qt::ControlModifier, &CommonHelper::signal_keyCtrlRightPressed},
+    {Qt::Key_Left, Qt::NoModifier, &CommonHelper::signal_keyLeftPressed},
+    {Qt::Key_Down, Qt::NoModifier, &CommonHelper::signal_keyDownPressed},
+    {Qt::Key_Up, Qt::NoModifier, &CommonHelper::signal_keyUpPressed},
+    {Qt::Key_Right, Qt::NoModifier, &CommonHelper::signal_keyRightPressed},
+    {Qt::Key_Backspace, Qt::NoModifier, &CommonHelper::signal_keyDeletePressed},
+    {Qt::Key_Enter, Qt::NoModifier, &CommonHelper::signal_keyInsertPressed},
+    {Qt::Key_H, Qt::ShiftModifier, &CommonHelper::signal_keyShiftHPressed},
+};
 
 template<typename Widget>
 void fitText(Widget *widget, const QString &text, int available)
@@ -37,141 +65,16 @@ CommonHelper::CommonHelper(QObject *parent)
     : QObject(parent)
 { }
 
-void CommonHelper::dealKeyPressEvent(QKeyEvent *event)
+bool CommonHelper::emitIf(QKeyEvent *event, Signal only)
 {
-    // In the order in which they are tried: Shift+Ctrl+Up is the Shift combination.
-    using Tester = bool (CommonHelper::*)(QKeyEvent *);
-    static constexpr Tester testers[] = {
-        &CommonHelper::keyHomePress,      &CommonHelper::keyEndPress,
-        &CommonHelper::keyPageUpPress,    &CommonHelper::keyPageDownPress,
-        &CommonHelper::keyShiftUpPress,   &CommonHelper::keyShiftDownPress,
-        &CommonHelper::keyShiftLeftPress, &CommonHelper::keyShiftRightPress,
-        &CommonHelper::keyShiftFPress,    &CommonHelper::keyCtrlUpPress,
-        &CommonHelper::keyCtrlDownPress,  &CommonHelper::keyCtrlLeftPress,
-        &CommonHelper::keyCtrlRightPress, &CommonHelper::keyLeftPress,
-        &CommonHelper::keyDownPress,      &CommonHelper::keyUpPress,
-        &CommonHelper::keyRightPress,     &CommonHelper::keyDeletePress,
-        &CommonHelper::keyInsertPress,    &CommonHelper::keyShiftHPress};
-    for (const Tester tester : testers) {
-        if ((this->*tester)(event))
-            return;
+    for (const auto &[key, modifiers, signal] : combinations) {
+        const bool isTried = !only || only == signal;
+        if (isTried && event->key() == key && (event->modifiers() & modifiers) == modifiers) {
+            Q_EMIT(this->*signal)();
+            return true;
+        }
     }
-}
-
-bool CommonHelper::emitIf(QKeyEvent *event, int key, Qt::KeyboardModifier modifiers,
-                          void (CommonHelper::*signal)())
-{
-    if (event->key() != key || (event->modifiers() & modifiers) != modifiers)
-        return false;
-    Q_EMIT(this->*signal)();
-    return true;
-}
-
-bool CommonHelper::keyHomePress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Home, Qt::NoModifier, &CommonHelper::signal_keyHomePressed);
-}
-
-bool CommonHelper::keyEndPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_End, Qt::NoModifier, &CommonHelper::signal_keyEndPressed);
-}
-
-bool CommonHelper::keyPageUpPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_PageUp, Qt::NoModifier, &CommonHelper::signal_keyPageUpPressed);
-}
-
-bool CommonHelper::keyPageDownPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_PageDown, Qt::NoModifier,
-                  &CommonHelper::signal_keyPageDownPressed);
-}
-
-bool CommonHelper::keyShiftUpPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Up, Qt::ShiftModifier, &CommonHelper::signal_keyShiftUpPressed);
-}
-
-bool CommonHelper::keyShiftDownPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Down, Qt::ShiftModifier,
-                  &CommonHelper::signal_keyShiftDownPressed);
-}
-
-bool CommonHelper::keyShiftLeftPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Left, Qt::ShiftModifier,
-                  &CommonHelper::signal_keyShiftLeftPressed);
-}
-
-bool CommonHelper::keyShiftRightPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Right, Qt::ShiftModifier,
-                  &CommonHelper::signal_keyShiftRightPressed);
-}
-
-bool CommonHelper::keyShiftFPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_F, Qt::ShiftModifier, &CommonHelper::signal_keyShiftFPressed);
-}
-
-bool CommonHelper::keyCtrlUpPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Up, Qt::ControlModifier, &CommonHelper::signal_keyCtrlUpPressed);
-}
-
-bool CommonHelper::keyCtrlDownPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Down, Qt::ControlModifier,
-                  &CommonHelper::signal_keyCtrlDownPressed);
-}
-
-bool CommonHelper::keyCtrlLeftPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Left, Qt::ControlModifier,
-                  &CommonHelper::signal_keyCtrlLeftPressed);
-}
-
-bool CommonHelper::keyCtrlRightPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Right, Qt::ControlModifier,
-                  &CommonHelper::signal_keyCtrlRightPressed);
-}
-
-bool CommonHelper::keyUpPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Up, Qt::NoModifier, &CommonHelper::signal_keyUpPressed);
-}
-
-bool CommonHelper::keyDownPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Down, Qt::NoModifier, &CommonHelper::signal_keyDownPressed);
-}
-
-bool CommonHelper::keyLeftPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Left, Qt::NoModifier, &CommonHelper::signal_keyLeftPressed);
-}
-
-bool CommonHelper::keyRightPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_Right, Qt::NoModifier, &CommonHelper::signal_keyRightPressed);
-}
-
-bool CommonHelper::keyInsertPress(QKeyEvent *event)
-{
-    return emitIf(event, insertKey, Qt::NoModifier, &CommonHelper::signal_keyInsertPressed);
-}
-
-bool CommonHelper::keyDeletePress(QKeyEvent *event)
-{
-    return emitIf(event, deleteKey, Qt::NoModifier, &CommonHelper::signal_keyDeletePressed);
-}
-
-bool CommonHelper::keyShiftHPress(QKeyEvent *event)
-{
-    return emitIf(event, Qt::Key_H, Qt::ShiftModifier, &CommonHelper::signal_keyShiftHPressed);
+    return false;
 }
 
 QString CommonHelper::setStyle(const QString &path)

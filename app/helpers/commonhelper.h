@@ -20,31 +20,31 @@ public:
 
     // Emits the signal of the first combination that matches the key press, or
     // none. Modifiers that a combination does not name are ignored.
-    void dealKeyPressEvent(QKeyEvent *event);
+    void dealKeyPressEvent(QKeyEvent *event) { emitIf(event, nullptr); }
 
     // One tester for each combination: emits the combination's signal and returns
     // true when the event is exactly that combination. Those without Shift or Ctrl
     // in their name ignore modifiers.
-    bool keyHomePress(QKeyEvent *event);
-    bool keyEndPress(QKeyEvent *event);
-    bool keyPageUpPress(QKeyEvent *event);
-    bool keyPageDownPress(QKeyEvent *event);
-    bool keyShiftUpPress(QKeyEvent *event);
-    bool keyShiftDownPress(QKeyEvent *event);
-    bool keyShiftLeftPress(QKeyEvent *event);
-    bool keyShiftRightPress(QKeyEvent *event);
-    bool keyShiftFPress(QKeyEvent *event);
-    bool keyCtrlUpPress(QKeyEvent *event);
-    bool keyCtrlDownPress(QKeyEvent *event);
-    bool keyCtrlLeftPress(QKeyEvent *event);
-    bool keyCtrlRightPress(QKeyEvent *event);
-    bool keyUpPress(QKeyEvent *event);
-    bool keyDownPress(QKeyEvent *event);
-    bool keyLeftPress(QKeyEvent *event);
-    bool keyRightPress(QKeyEvent *event);
-    bool keyInsertPress(QKeyEvent *event);
-    bool keyDeletePress(QKeyEvent *event);
-    bool keyShiftHPress(QKeyEvent *event);
+    bool keyHomePress(QKeyEvent *e) { return emitIf(e, &K::signal_keyHomePressed); }
+    bool keyEndPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyEndPressed); }
+    bool keyPageUpPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyPageUpPressed); }
+    bool keyPageDownPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyPageDownPressed); }
+    bool keyShiftUpPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyShiftUpPressed); }
+    bool keyShiftDownPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyShiftDownPressed); }
+    bool keyShiftLeftPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyShiftLeftPressed); }
+    bool keyShiftRightPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyShiftRightPressed); }
+    bool keyShiftFPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyShiftFPressed); }
+    bool keyCtrlUpPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyCtrlUpPressed); }
+    bool keyCtrlDownPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyCtrlDownPressed); }
+    bool keyCtrlLeftPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyCtrlLeftPressed); }
+    bool keyCtrlRightPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyCtrlRightPressed); }
+    bool keyUpPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyUpPressed); }
+    bool keyDownPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyDownPressed); }
+    bool keyLeftPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyLeftPressed); }
+    bool keyRightPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyRightPressed); }
+    bool keyInsertPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyInsertPressed); }
+    bool keyDeletePress(QKeyEvent *e) { return emitIf(e, &K::signal_keyDeletePressed); }
+    bool keyShiftHPress(QKeyEvent *e) { return emitIf(e, &K::signal_keyShiftHPressed); }
 
     // The text of a style-sheet file (a resource or a file path), decoded as UTF-8;
     // an empty string when it cannot be opened.
@@ -87,7 +87,9 @@ signals:
     void signal_keyShiftHPressed();
 
 private:
-    // The modifiers are what must be among the event's.
-    bool emitIf(QKeyEvent *event, int key, Qt::KeyboardModifier modifiers,
-                void (CommonHelper::*signal)());
+    using K = CommonHelper;
+    using Signal = void (CommonHelper::*)();
+
+    // Emits the signal of the first combination that matches; only this one if it is not null.
+    bool emitIf(QKeyEvent *event, Signal only);
 };

@@ -23,17 +23,17 @@ constexpr std::array<Entry, count> table{{
     {Qt::magenta, QT_TRANSLATE_NOOP("CommonHelper", "紫")},
 }};
 
-const Entry *entry(int index)
+// Null outside the table.
+const char *name(int index)
 {
-    return index >= 0 && index < count ? &table.at(static_cast<std::size_t>(index)) : nullptr;
+    return index >= 0 && index < count ? table.at(std::size_t(index)).name : nullptr;
 }
 
 } // namespace
 
 QColor at(int index)
 {
-    const Entry *found = entry(index);
-    return found ? QColor(found->color) : QColor();
+    return name(index) ? QColor(table.at(std::size_t(index)).color) : QColor();
 }
 
 int indexOf(const QColor &color)
@@ -47,14 +47,12 @@ int indexOf(const QColor &color)
 
 QString sourceName(int index)
 {
-    const Entry *found = entry(index);
-    return found ? QString::fromUtf8(found->name) : QString();
+    return QString::fromUtf8(name(index));
 }
 
 QString translatedName(int index)
 {
-    const Entry *found = entry(index);
-    return found ? QCoreApplication::translate("CommonHelper", found->name) : QString();
+    return QCoreApplication::translate("CommonHelper", name(index));
 }
 
 } // namespace TestColor
