@@ -13,7 +13,6 @@
 #include <QSettings>
 
 #include <limits>
-#include <utility>
 
 namespace {
 
@@ -75,40 +74,24 @@ GradualChangeCtrlWidget::~GradualChangeCtrlWidget()
     saveGradualChangeInfo();
 }
 
-// A change of colour runs the slot of the old button and then that of the new one, whose colour
-// stays.
 void GradualChangeCtrlWidget::initConnection()
 {
-    using Panel = GradualChangeCtrlWidget;
-    using Slot = void (Panel::*)();
-
-    const std::pair<QAbstractButton *, Slot> levelSlots[] = {
-        {ui->buttonFirstLevel, &Panel::slot_changeGradualColorFirst},
-        {ui->buttonSecondLevel, &Panel::slot_changeGradualColorSecond},
-        {ui->buttonThirdLevel, &Panel::slot_changeGradualColorThird},
-        {ui->buttonFirthLevel, &Panel::slot_changeGradualColorFirth},
-    };
-    for (const auto &[button, slot] : levelSlots)
-        connect(button, &QAbstractButton::clicked, this, slot);
-
-    const std::pair<QAbstractButton *, Slot> colorSlots[] = {
-        {ui->radioButtonRed, &Panel::slot_changeGradualColorRed},
-        {ui->radioButtonGreen, &Panel::slot_changeGradualColorGreen},
-        {ui->radioButtonBlue, &Panel::slot_changeGradualColorBlue},
-        {ui->radioButtonWhite, &Panel::slot_changeGradualColorWhite},
-        {ui->radioButtonYellow, &Panel::slot_changeGradualColorYellow},
-        {ui->radioButtonCyan, &Panel::slot_changeGradualColorCyan},
-        {ui->radioButtonPurple, &Panel::slot_changeGradualColorPurple},
-    };
-    for (const auto &[button, slot] : colorSlots) {
-        connect(button, &QAbstractButton::toggled, this, slot);
+    for (int row = 0; row < levelCount; ++row)
+        connect(m_levelButtons.at(std::size_t(row)), &QAbstractButton::clicked, this,
+                [this, row] { selectLevel(row); });
+    for (int index = 0; index < TestColor::count; ++index) {
+        const QAbstractButton *const button = m_swatches->button(TestColor::at(index));
+        // Specified: the old button that gets unchecked selects its colour, too, before the new
+        // one does.
+        connect(button, &QAbstractButton::toggled, this, [this, index] { selectColor(index); });
         // A click alone: a colour that another panel sends is not sent back to it.
-        connect(button, &QAbstractButton::clicked, this, &Panel::slot_updateSelectedColor);
+        connect(button, &QAbstractButton::clicked, this,
+                &GradualChangeCtrlWidget::slot_updateSelectedColor);
     }
 }
 
-// Restoring is not a change by the operator and writes nothing. The stored level stays out of
-// the drawer until the next change of level or colour; wanted.
+// Restoring is not a change by the operator and writes nothing. Specified: the stored level stays
+// out of the drawer until the next change of level or colour.
 void GradualChangeCtrlWidget::initGradualChangeStatus()
 {
     if (!m_settings)
@@ -118,11 +101,6 @@ void GradualChangeCtrlWidget::initGradualChangeStatus()
     slot_changeSelectedGradualColor(color);
     m_colorIndex = CommonHelper::getColorIndex(color);
     m_level = storedLevel(*m_settings);
-}
-
-DrawerBase *GradualChangeCtrlWidget::getDrawer()
-{
-    return &m_drawer;
 }
 
 void GradualChangeCtrlWidget::saveGradualChangeInfo()
@@ -138,61 +116,6 @@ void GradualChangeCtrlWidget::updateLanguage()
     m_swatches->retranslate();
     for (std::size_t row = 0; row < levelCount; ++row)
         CommonHelper::setQPushButtonText(m_levelButtons.at(row), tr(levels[row].text));
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorFirst()
-{
-    selectLevel(0);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorSecond()
-{
-    selectLevel(1);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorThird()
-{
-    selectLevel(2);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorFirth()
-{
-    selectLevel(3);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorRed()
-{
-    selectColor(0);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorGreen()
-{
-    selectColor(1);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorBlue()
-{
-    selectColor(2);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorWhite()
-{
-    selectColor(3);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorYellow()
-{
-    selectColor(4);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorCyan()
-{
-    selectColor(5);
-}
-
-void GradualChangeCtrlWidget::slot_changeGradualColorPurple()
-{
-    selectColor(6);
 }
 
 void GradualChangeCtrlWidget::selectLevel(int row)
@@ -217,11 +140,6 @@ void GradualChangeCtrlWidget::apply()
 {
     m_drawer.slot_gradualChangeColor(m_level, m_color);
     m_saveSoon->schedule();
-}
-
-void GradualChangeCtrlWidget::slot_updateSelectedColor()
-{
-    emit signal_selectColorChanged(m_color);
 }
 
 void GradualChangeCtrlWidget::slot_changeSelectedGradualColor(const QColor &color)

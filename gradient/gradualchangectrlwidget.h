@@ -31,7 +31,7 @@ public:
     GradualChangeCtrlWidget(QWidget *drawWidget, QSettings *settings, QWidget *parent);
     ~GradualChangeCtrlWidget() override;
 
-    DrawerBase *getDrawer() override;
+    DrawerBase *getDrawer() override { return &m_drawer; }
     void saveGradualChangeInfo();
     void updateLanguage();
 
@@ -53,18 +53,18 @@ signals:
     void signal_greyChanged(const QString &grey);
 
 public slots:
-    void slot_changeGradualColorFirst();
-    void slot_changeGradualColorSecond();
-    void slot_changeGradualColorThird();
-    void slot_changeGradualColorFirth(); // the fourth
-    void slot_changeGradualColorRed();
-    void slot_changeGradualColorGreen();
-    void slot_changeGradualColorBlue();
-    void slot_changeGradualColorWhite();
-    void slot_changeGradualColorYellow();
-    void slot_changeGradualColorCyan();
-    void slot_changeGradualColorPurple();
-    void slot_updateSelectedColor();
+    void slot_changeGradualColorFirst() { selectLevel(0); }
+    void slot_changeGradualColorSecond() { selectLevel(1); }
+    void slot_changeGradualColorThird() { selectLevel(2); }
+    void slot_changeGradualColorFirth() { selectLevel(3); } // the fourth
+    void slot_changeGradualColorRed() { selectColor(0); }
+    void slot_changeGradualColorGreen() { selectColor(1); }
+    void slot_changeGradualColorBlue() { selectColor(2); }
+    void slot_changeGradualColorWhite() { selectColor(3); }
+    void slot_changeGradualColorYellow() { selectColor(4); }
+    void slot_changeGradualColorCyan() { selectColor(5); }
+    void slot_changeGradualColorPurple() { selectColor(6); }
+    void slot_updateSelectedColor() { emit signal_selectColorChanged(m_color); }
     // A colour outside the colour table is ignored.
     void slot_changeSelectedGradualColor(const QColor &color);
     // Selects the colour at m_colorIndex and announces it, whichever way the page keys have gone.
