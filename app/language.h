@@ -14,8 +14,8 @@ QString fileName(int index);
 QString displayName(int index);
 
 // The translation file that the first argument chooses by its first letter: z, e, f,
-// d, s or r. Anything else, and no argument, means Chinese. "es" begins with an e and
-// gives English; Spanish is any word that begins with an s. Wanted.
+// d, s or r. Anything else, and no argument, means Chinese.
+// Specified: "es" begins with an e and gives English; Spanish is any word that begins with an s.
 QString fileNameFor(int argc, const char *const *argv);
 
 // Loads the translation from "ts" beside the program and installs it. A file that is

@@ -4,25 +4,13 @@
 
 #include <QDir>
 
-namespace {
-
-// Where the cabinet test keeps its background picture. Without it only the kept copy is lost.
-void createPictureFolder()
-{
-    const QString folder =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/BackgroundPicture");
-    if (!QDir(folder).exists())
-        QDir().mkdir(folder);
-}
-
-} // namespace
-
 int main(int argc, char **argv)
 {
     DisplayEnvironment::prepare();
     Application application(argc, argv);
     Language::install(Language::fileNameFor(argc, argv));
-    createPictureFolder();
+    // Where the cabinet test keeps its background picture. Without it only the kept copy is lost.
+    QDir().mkdir(QCoreApplication::applicationDirPath() + QStringLiteral("/BackgroundPicture"));
     application.mainWindow().show();
     // The windows were built before the translation was there.
     application.mainWindow().updateLanguage();

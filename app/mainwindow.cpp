@@ -8,7 +8,7 @@
 #include "form.h"
 #include "gradualchangectrlwidget.h"
 #include "griddrawer.h"
-#include "puritykeys.h"
+#include "pagecycle.h"
 #include "scraboutwidget.h"
 #include "screenarea.h"
 #include "scrgridctrldialog.h"
@@ -22,8 +22,21 @@
 #include <QIcon>
 #include <QScrollArea>
 #include <QSettings>
+#include <QTimer>
+
+using Gradient = GradualChangeCtrlWidget;
+using Grid = ScrGridCtrlDialog;
+using Keys = CommonHelper;
+using Place = DrawCtrlForm;
+using Purity = ScrPurityCtrlDialog;
+using Window = DrawContainer;
 
 namespace {
+
+constexpr QLatin1String currentTabKey = latin1("/setting/currentTabIndex");
+
+// Long enough for the window manager to have moved what it moves itself.
+constexpr int screenChangeSettlesMs = 300;
 
 constexpr const char *tabTitles[] = {
     QT_TRANSLATE_NOOP("MainWindow", "窗口"), QT_TRANSLATE_NOOP("MainWindow", "纯色"),
@@ -53,10 +66,9 @@ QSettings *openSettings(QObject *parent)
 MainWindow::MainWindow(QWidget *parent)
     : UX::Utils::AppMainWindow(parent)
     , ui(makeForm<Ui::MainWindow>(this))
-    , settings(openSettings(this))
+    , m_settings(openSettings(this))
 {
     initCtrls();
-    initTitleBar();
     initSlots();
     setInitDrawWindowInfo();
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::slot_currentTabWidget);
@@ -73,132 +85,242 @@ MainWindow::~MainWindow()
 void MainWindow::initCtrls()
 {
     setStyleSheet(CommonHelper::setStyle(QStringLiteral(":/qss/global_style.css")));
-    keyHelper = std::make_unique<CommonHelper>();
-    testWindow.setKeyHelper(keyHelper.get());
-    testWindow.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    setTabs(); // the placement panel shows the test window, unless it was left hidden
-}
-
-void MainWindow::initTitleBar()
-{
+    m_testWindow.setKeyHelper(&m_keyHelper);
+    m_testWindow.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setWindowIcon(QIcon(QStringLiteral(":/Resource/Image/logo/TarnTestTool.ico")));
     setWindowTitle(tr("显示屏测试工具-Tarn"));
+    setTabs(); // the placement panel shows the test window, unless it was left hidden
 }
 
 void MainWindow::setTabs()
 {
-    placementPanel = new DrawCtrlForm(&testWindow, settings, this);
-    addTab(placementPanel, nullptr);
-    purityPanel = new ScrPurityCtrlDialog(&testWindow, settings, this);
-    addTab(purityPanel, purityPanel->getDrawer());
-    gradientPanel = new GradualChangeCtrlWidget(&testWindow, settings, this);
-    addTab(gradientPanel, gradientPanel->getDrawer());
-    gridPanel = new ScrGridCtrlDialog(&testWindow, settings, this);
-    addTab(gridPanel, gridPanel->getDrawer());
-    cabinetPanel = new TarnTool(&testWindow, settings, this);
-    addTab(cabinetPanel, cabinetPanel->getDrawer());
-    addCards();
-    spareGridDrawer = new GridDrawer(this);
-    spareGridDrawer->setParent(this);
+    m_placementPanel = new Place(&m_testWindow, m_settings, this);
+    addTab(m_placementPanel, nullptr);
+    m_purityPanel = new Purity(&m_testWindow, m_settings, this);
+    addTab(m_purityPanel, m_purityPanel->getDrawer());
+    m_gradientPanel = new Gradient(&m_testWindow, m_settings, this);
+    addTab(m_gradientPanel, m_gradientPanel->getDrawer());
+    m_gridPanel = new Grid(&m_testWindow, m_settings, this);
+    addTab(m_gridPanel, m_gridPanel->getDrawer());
+    m_cabinetPanel = new TarnTool(&m_testWindow, m_settings, this);
+    addTab(m_cabinetPanel, m_cabinetPanel->getDrawer());
+    addTab(createHelpTab(), nullptr);
+    m_aboutPanel = new ScrAboutWidget;
+    addTab(m_aboutPanel, nullptr);
+    m_pageCycle =
+        std::make_unique<PageCycle>(ui->tabWidget, m_purityPanel, m_gradientPanel, m_gridPanel);
+    (new GridDrawer(this))->setParent(this); // Specified: a spare one, used by nothing
 }
 
 void MainWindow::addTab(QWidget *panel, DrawerBase *drawer)
 {
     const int index = ui->tabWidget->addTab(panel, tr(tabTitles[ui->tabWidget->count()]));
-    tabTable[index] = {panel, drawer};
+    m_drawers[index] = drawer;
 }
 
-// The two tabs that only show something: they have no drawer and no place in the table.
-void MainWindow::addCards()
+QWidget *MainWindow::createHelpTab()
 {
-    helpPanel = new ScrHelperCtrlWidget;
-    helpScrollArea = new QScrollArea;
-    helpScrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    helpScrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    helpScrollArea->setWidgetResizable(true);
-    helpScrollArea->setWidget(helpPanel);
-    ui->tabWidget->addTab(helpScrollArea, tr(tabTitles[HelpTab]));
-    aboutPanel = new ScrAboutWidget;
-    ui->tabWidget->addTab(aboutPanel, tr(tabTitles[AboutTab]));
+    m_helpPanel = new ScrHelperCtrlWidget;
+    auto *scrollArea = new QScrollArea;
+    scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollArea->setWidgetResizable(true);
+    scrollArea->setWidget(m_helpPanel);
+    return scrollArea;
 }
 
 void MainWindow::updateLanguage()
 {
     setWindowTitle(tr("显示屏测试工具-Tarn"));
-    testWindow.updateLanguage();
-    placementPanel->updateLanguage();
-    purityPanel->updateLanguage();
-    gradientPanel->updateLanguage();
-    gridPanel->updateLanguage();
-    cabinetPanel->updateLanguage();
-    helpPanel->updateLanguage();
-    aboutPanel->updateLanguage();
+    m_testWindow.updateLanguage();
+    m_placementPanel->updateLanguage();
+    m_purityPanel->updateLanguage();
+    m_gradientPanel->updateLanguage();
+    m_gridPanel->updateLanguage();
+    m_cabinetPanel->updateLanguage();
+    m_helpPanel->updateLanguage();
+    m_aboutPanel->updateLanguage();
     for (int index = 0; index < TabCount; ++index)
         ui->tabWidget->setTabText(index, tr(tabTitles[index]));
     ui->tabWidget->setFont(QFont(QStringLiteral("Arial")));
 }
 
+void MainWindow::initSlots()
+{
+    connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::slot_SwitchWindow);
+    initKeySlots();
+    initTestWindowSlots();
+    initPanelSlots();
+}
+
+void MainWindow::initKeySlots()
+{
+    const Keys *const keys = &m_keyHelper;
+    Window *const window = &m_testWindow;
+    Place *const place = m_placementPanel;
+    connect(keys, &Keys::signal_keyHomePressed, window, &Window::slot_keyHomePressed);
+    connect(keys, &Keys::signal_keyEndPressed, window, &Window::slot_keyEndPressed);
+    connect(keys, &Keys::signal_keyPageUpPressed, this, &MainWindow::slot_SwitchUpTabControl);
+    connect(keys, &Keys::signal_keyPageDownPressed, this, &MainWindow::slot_SwitchDownTabControl);
+    connect(keys, &Keys::signal_keyShiftUpPressed, place, &Place::slot_keyShiftUpPressed);
+    connect(keys, &Keys::signal_keyShiftDownPressed, place, &Place::slot_keyShiftDownPressed);
+    connect(keys, &Keys::signal_keyShiftLeftPressed, place, &Place::slot_keyShiftLeftPressed);
+    connect(keys, &Keys::signal_keyShiftRightPressed, place, &Place::slot_keyShiftRightPressed);
+    connect(keys, &Keys::signal_keyShiftFPressed, window, &Window::slot_keyShiftFPressed);
+    connect(keys, &Keys::signal_keyCtrlUpPressed, place, &Place::slot_keyCtrlUpPressed);
+    connect(keys, &Keys::signal_keyCtrlDownPressed, place, &Place::slot_keyCtrlDownPressed);
+    connect(keys, &Keys::signal_keyCtrlLeftPressed, place, &Place::slot_keyCtrlLeftPressed);
+    connect(keys, &Keys::signal_keyCtrlRightPressed, place, &Place::slot_keyCtrlRightPressed);
+    connect(keys, &Keys::signal_keyShiftHPressed, window, &Window::slot_keyShiftHPressed);
+    const int savedTab = m_settings->value(currentTabKey).toInt();
+    connectArrowKeys(m_purityPanel, savedTab == PurityTab);
+    connectArrowKeys(m_gridPanel, savedTab == GridTab);
+    connect(keys, &Keys::signal_keyInsertPressed, m_gridPanel, &Grid::slot_keyInsertPressed);
+    connect(keys, &Keys::signal_keyDeletePressed, m_gridPanel, &Grid::slot_keyDeletePressed);
+    connect(keys, &Keys::signal_keyInsertPressed, m_purityPanel, &Purity::slot_keyInsertPressed);
+    connect(keys, &Keys::signal_keyDeletePressed, m_purityPanel, &Purity::slot_keyDeletePressed);
+}
+
+void MainWindow::initTestWindowSlots()
+{
+    Window *const window = &m_testWindow;
+    Place *const place = m_placementPanel;
+    connect(window, &Window::signal_containerWidgetHide, place, &Place::slot_enableShowButton);
+    connect(window, &Window::signal_containerWidgetShow, place, &Place::slot_disableShowButton);
+    connect(window, &Window::signal_drawWidgetSizeChange, place, &Place::slot_drawWidgetSizeChange);
+    connect(window, &Window::signal_drawWidgetPositionChange, place,
+            &Place::slot_drawWidgetPositionChange);
+    connect(window, &Window::signal_drawWidgetSizeChange, m_cabinetPanel,
+            &TarnTool::slot_drawerSizeChanged);
+    connect(place, &Place::signal_screenMaxSizeChanged, window, &Window::slot_setScreenMaxSize);
+    connect(this, &MainWindow::signal_sendScreenMaxSize, place, &Place::getScreenSize);
+    emit signal_sendScreenMaxSize();
+    connect(place, &Place::signal_screenMaxSizeChanged, this, [this] {
+        QTimer::singleShot(screenChangeSettlesMs, this, &MainWindow::stayReachable);
+    });
+    connect(this, &MainWindow::signal_colorChanged, window, &Window::slot_changeSelectedDrawColor);
+    connect(this, &MainWindow::signal_greyChanged, window, &Window::slot_changeSelectedDrawGrey);
+}
+
+// The three panels share the chosen colour, each tells the test window's overlay while its tab is
+// current, and a run of one stops the run of the other.
+void MainWindow::initPanelSlots()
+{
+    Purity *const purity = m_purityPanel;
+    Gradient *const gradient = m_gradientPanel;
+    Grid *const grid = m_gridPanel;
+    const auto toPurity = &Purity::slot_changeSelectedPurityColor;
+    const auto toGradient = &Gradient::slot_changeSelectedGradualColor;
+    const auto toGrid = &Grid::slot_changeSelectedGridColor;
+    connect(purity, &Purity::signal_colorChanged, gradient, toGradient);
+    connect(purity, &Purity::signal_colorChanged, grid, toGrid);
+    connect(gradient, &Gradient::signal_selectColorChanged, purity, toPurity);
+    connect(gradient, &Gradient::signal_selectColorChanged, grid, toGrid);
+    connect(grid, &Grid::signal_colorChanged, purity, toPurity);
+    connect(grid, &Grid::signal_colorChanged, gradient, toGradient);
+
+    connectFeed(purity, &Purity::signal_colorChanged, true);
+    connectFeed(gradient, &Gradient::signal_selectColorChanged, true);
+    connectFeed(grid, &Grid::signal_colorChanged, true);
+    connect(grid, &Grid::signal_oldMixColorChanged, &m_testWindow,
+            &Window::slot_changeSelectedDrawColor);
+
+    connect(this, &MainWindow::signal_stopGreyChanged, purity, &Purity::slot_stopChangeGrey);
+    connect(this, &MainWindow::signal_stopGreyChanged, grid, &Grid::slot_stopStartPauseStatus);
+    connect(grid, &Grid::signal_gridAutoChange, purity, &Purity::slot_stopChangeGrey);
+    connect(purity, &Purity::signal_purityAutoChange, grid, &Grid::slot_stopPauseStatus);
+    connect(this, &MainWindow::signal_forbidTarnToolCtrls, m_cabinetPanel,
+            &TarnTool::slot_forbidControls);
+}
+
+// Gives the arrow keys and the test window's overlay to the current panel.
+void MainWindow::grayScaleChange(int index)
+{
+    connectArrowKeys(m_purityPanel, index == PurityTab);
+    connectArrowKeys(m_gridPanel, index == GridTab);
+    if (index != PurityTab && index != GradientTab && index != GridTab)
+        return; // the overlay goes on with the panel of before
+    connectFeed(m_purityPanel, &Purity::signal_colorChanged, index == PurityTab);
+    connectFeed(m_gradientPanel, &Gradient::signal_selectColorChanged, index == GradientTab);
+    connectFeed(m_gridPanel, &Grid::signal_colorChanged, index == GridTab);
+}
+
+template<typename Panel>
+void MainWindow::connectArrowKeys(Panel *panel, bool on)
+{
+    const auto set = [this, panel, on](auto signal, auto slot) {
+        disconnect(&m_keyHelper, signal, panel, slot);
+        if (on)
+            connect(&m_keyHelper, signal, panel, slot);
+    };
+    set(&Keys::signal_keyUpPressed, &Panel::slot_keyUpPressed);
+    set(&Keys::signal_keyDownPressed, &Panel::slot_keyDownPressed);
+    set(&Keys::signal_keyLeftPressed, &Panel::slot_keyLeftPressed);
+    set(&Keys::signal_keyRightPressed, &Panel::slot_keyRightPressed);
+}
+
+template<typename Panel, typename ColorSignal>
+void MainWindow::connectFeed(Panel *panel, ColorSignal colorSignal, bool on)
+{
+    const auto set = [this, panel, on](auto signal, auto slot) {
+        disconnect(panel, signal, &m_testWindow, slot);
+        if (on)
+            connect(panel, signal, &m_testWindow, slot);
+    };
+    set(colorSignal, &Window::slot_changeSelectedDrawColor);
+    set(&Panel::signal_greyChanged, &Window::slot_changeSelectedDrawGrey);
+}
+
 // What the test window shows before any pattern, what its overlay says, and the last tab.
 void MainWindow::setInitDrawWindowInfo()
 {
-    const QString grey = storedGrey();
+    const QString grey = m_purityPanel->storedGrey();
     emit signal_greyChanged(grey);
-    const QColor stored(settings->value(SharedKey::baseColor).toString());
+    const QColor stored(m_settings->value(SharedKey::baseColor).toString());
     QColor color = stored.isValid() ? stored : QColor(Qt::red);
     emit signal_colorChanged(color);
     color.setAlpha(qBound(0, grey.toInt(), 255)); // painted over nothing, so it dims
-    testWindow.setStyleSheet(testWindowStyle(color));
+    m_testWindow.setStyleSheet(testWindowStyle(color));
 
     // Only this once the grid counts as the tab before, which resumes its run.
-    currentTabIndex = settings->value(currentTabKey).toInt();
+    currentTabIndex = m_settings->value(currentTabKey).toInt();
     ui->tabWidget->setCurrentIndex(currentTabIndex);
     if (currentTabIndex == GridTab)
         currentTabIndex = PlacementTab;
 }
 
-QString MainWindow::storedGrey() const
-{
-    if (settings->value(PurityKey::autoMode).toBool())
-        return QString::number(settings->value(PurityKey::autoGrey).toInt());
-    return QString::number(
-        SettingsRules::positiveInt(*settings, PurityKey::manualGrey, PurityKey::defaultGrey));
-}
-
 void MainWindow::saveSettings()
 {
-    placementPanel->saveWindowBaseInfo();
-    purityPanel->saveScrPurityInfo();
-    gradientPanel->saveGradualChangeInfo();
-    gridPanel->saveWhileRunning();
-    cabinetPanel->saveTarnBaseInfo();
-    settings->sync();
+    m_placementPanel->saveWindowBaseInfo();
+    m_purityPanel->saveScrPurityInfo();
+    m_gradientPanel->saveGradualChangeInfo();
+    m_gridPanel->saveWhileRunning();
+    m_cabinetPanel->saveTarnBaseInfo();
+    m_settings->sync();
 }
-
-void MainWindow::slot_keyPressed(QKeyEvent *event)
-{
-    keyHelper->dealKeyPressEvent(event);
-}
-
-void MainWindow::keyPressEvent(QKeyEvent *event)
-{
-    keyHelper->dealKeyPressEvent(event);
-}
-
-// A double click on the control window does nothing.
-void MainWindow::mouseDoubleClickEvent(QMouseEvent * /*event*/) { }
 
 void MainWindow::slot_SwitchWindow(int index)
 {
     dealGridInitStatus();
-    cycleTab = static_cast<qint16>(index);
     if (index != CabinetTab)
         emit signal_forbidTarnToolCtrls();
-    const auto entry = tabTable.find(index);
-    if (entry != tabTable.end() && entry->second.second) {
-        testWindow.setDrawer(entry->second.second, false);
-        SettingsRules::store(*settings, currentTabKey, index);
+    if (DrawerBase *drawer = m_drawers.value(index)) {
+        m_testWindow.setDrawer(drawer, false);
+        SettingsRules::store(*m_settings, currentTabKey, index);
     }
-    testWindow.update();
+    m_testWindow.update();
+}
+
+void MainWindow::slot_SwitchUpTabControl()
+{
+    emit signal_stopGreyChanged();
+    m_pageCycle->stepUp();
+}
+
+void MainWindow::slot_SwitchDownTabControl()
+{
+    emit signal_stopGreyChanged();
+    m_pageCycle->stepDown();
 }
 
 void MainWindow::slot_currentTabWidget(int index)
@@ -221,38 +343,22 @@ void MainWindow::stayReachable()
 // run stops.
 void MainWindow::pauseGridStatus()
 {
-    switch (currentTabIndex) {
-    case PurityTab:
-        if (purityPanel->puritySelected && !gridPanel->scrollLocked)
-            gridPanel->setScrollEnabled(false);
-        break;
-    case GradientTab:
-        if (gradientPanel->m_userChanged && !gridPanel->scrollLocked)
-            gridPanel->setScrollEnabled(false);
-        break;
-    case CabinetTab:
-        if (cabinetPanel->m_userChanged) // whatever scrollLocked says
-            gridPanel->setScrollEnabled(false);
-        break;
-    default:
-        break;
-    }
-    purityPanel->puritySelected = false;
-    gradientPanel->m_userChanged = false;
-    cabinetPanel->m_userChanged = false;
+    const bool isLocked = m_gridPanel->scrollLocked; // Specified: the cabinet does not ask
+    if ((currentTabIndex == PurityTab && m_purityPanel->puritySelected && !isLocked)
+        || (currentTabIndex == GradientTab && m_gradientPanel->m_userChanged && !isLocked)
+        || (currentTabIndex == CabinetTab && m_cabinetPanel->m_userChanged))
+        m_gridPanel->setScrollEnabled(false);
+    m_purityPanel->puritySelected = false;
+    m_gradientPanel->m_userChanged = false;
+    m_cabinetPanel->m_userChanged = false;
 }
 
-// Brings the grid's run back to what it was when the tab changes.
-void MainWindow::settleGrid()
-{
-    if (gridPanel->pushButtonPauseChecked)
-        gridPanel->gridBtnClick();
-    else if (currentTabIndex == GridTab) // at start-up and never again
-        gridPanel->setScrollEnabled(true);
-}
-
+// Brings the grid's run back to what it was when the tab changes, unless it has to stop.
 void MainWindow::dealGridInitStatus()
 {
-    settleGrid();
+    if (m_gridPanel->pushButtonPauseChecked)
+        m_gridPanel->gridBtnClick();
+    else if (currentTabIndex == GridTab) // at start-up and never again
+        m_gridPanel->setScrollEnabled(true);
     pauseGridStatus();
 }

@@ -1,22 +1,19 @@
 #pragma once
 
 #include "appmainwindow.h"
+#include "commonhelper.h"
 #include "drawcontainer.h"
-#include "latin1.h"
+#include "pagecycle.h"
 
+#include <QMap>
 #include <QString>
 
-#include <map>
 #include <memory>
-#include <utility>
 
-class CommonHelper;
 class DrawCtrlForm;
 class DrawerBase;
 class GradualChangeCtrlWidget;
-class GridDrawer;
 class QKeyEvent;
-class QScrollArea;
 class QSettings;
 class ScrAboutWidget;
 class ScrGridCtrlDialog;
@@ -29,7 +26,7 @@ class MainWindow;
 }
 
 // The control window: owns the test window, the settings and the tab panels, wires
-// them together, and walks the page keys through the patterns of all panels.
+// them together, and says which of them has the test window and the keys.
 class MainWindow : public UX::Utils::AppMainWindow
 {
     Q_OBJECT
@@ -51,7 +48,7 @@ signals:
     void signal_forbidTarnToolCtrls();
 
 public slots:
-    void slot_keyPressed(QKeyEvent *event);
+    void slot_keyPressed(QKeyEvent *event) { m_keyHelper.dealKeyPressEvent(event); }
     void slot_SwitchWindow(int index);
     void slot_currentTabWidget(int index);
     void slot_SwitchUpTabControl();
@@ -61,49 +58,24 @@ public slots:
     void saveSettings();
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override { slot_keyPressed(event); }
+    // Specified: a double click on the control window does nothing.
+    void mouseDoubleClickEvent(QMouseEvent * /*event*/) override { }
 
 private:
-    // The panels' places among the tabs.
-    enum Tab {
-        PlacementTab,
-        PurityTab,
-        GradientTab,
-        GridTab,
-        CabinetTab,
-        HelpTab,
-        AboutTab,
-        TabCount
-    };
-
-    static constexpr QLatin1String currentTabKey = latin1("/setting/currentTabIndex");
-
     void initCtrls();
-    void initTitleBar();
     void initSlots();
     void initKeySlots();
     void initTestWindowSlots();
     void initPanelSlots();
     void stayReachable();
     void setInitDrawWindowInfo();
-    QString storedGrey() const;
     void setTabs();
     void addTab(QWidget *panel, DrawerBase *drawer);
-    void addCards();
-    void makeTabCurrent(int index);
+    QWidget *createHelpTab();
     void grayScaleChange(int index);
-    void settleGrid();
     void dealGridInitStatus();
     void pauseGridStatus();
-
-    bool isOnWalk() const;
-    void setPurityCtrlPageDownEvent();
-    void setGradualChangePageDownEvent();
-    void setGridCtrlPageDownEvent();
-    void setPurityCtrlPageUpEvent();
-    void setGradualChangePageUpEvent();
-    void setGridCtrlPageUpEvent();
 
     template<typename Panel>
     void connectArrowKeys(Panel *panel, bool on);
@@ -111,19 +83,17 @@ private:
     void connectFeed(Panel *panel, ColorSignal colorSignal, bool on);
 
     const std::unique_ptr<Ui::MainWindow> ui;
-    DrawContainer testWindow;
-    std::map<int, std::pair<QWidget *, DrawerBase *>> tabTable;
-    ScrAboutWidget *aboutPanel = nullptr;
-    ScrHelperCtrlWidget *helpPanel = nullptr;
-    QScrollArea *helpScrollArea = nullptr;
-    std::unique_ptr<CommonHelper> keyHelper;
-    DrawCtrlForm *placementPanel = nullptr;
-    ScrGridCtrlDialog *gridPanel = nullptr;
-    ScrPurityCtrlDialog *purityPanel = nullptr;
-    GradualChangeCtrlWidget *gradientPanel = nullptr;
-    TarnTool *cabinetPanel = nullptr;
-    GridDrawer *spareGridDrawer = nullptr; // used by nothing; part of the window all the same
-    qint16 cycleTab = 0; // where the page keys stand
+    CommonHelper m_keyHelper;
+    DrawContainer m_testWindow;
+    QMap<int, DrawerBase *> m_drawers; // of each tab; null for those without
+    DrawCtrlForm *m_placementPanel = nullptr;
+    ScrPurityCtrlDialog *m_purityPanel = nullptr;
+    GradualChangeCtrlWidget *m_gradientPanel = nullptr;
+    ScrGridCtrlDialog *m_gridPanel = nullptr;
+    TarnTool *m_cabinetPanel = nullptr;
+    ScrHelperCtrlWidget *m_helpPanel = nullptr;
+    ScrAboutWidget *m_aboutPanel = nullptr;
+    std::unique_ptr<PageCycle> m_pageCycle;
     int currentTabIndex = 0;
-    QSettings *settings;
+    QSettings *m_settings;
 };

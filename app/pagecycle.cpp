@@ -1,13 +1,11 @@
-// The page keys' walk: the purity colours, the gradient colours, the grid's colours with each of
-// its line families, and round again. `cycleTab` is the panel that the walk stands on.
-
-#include "ui_mainwindow.h"
+#include "pagecycle.h"
 
 #include "gradualchangectrlwidget.h"
-#include "mainwindow.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
 #include "testcolor.h"
+
+#include <QTabWidget>
 
 namespace {
 
@@ -20,131 +18,134 @@ constexpr int beforeFirst = -1;
 
 } // namespace
 
-// With it goes cycleTab.
-void MainWindow::makeTabCurrent(int index)
+PageCycle::PageCycle(QTabWidget *tabs, ScrPurityCtrlDialog *purity,
+                     GradualChangeCtrlWidget *gradient, ScrGridCtrlDialog *grid)
+    : m_tabs(tabs)
+    , m_purity(purity)
+    , m_gradient(gradient)
+    , m_grid(grid)
+{ }
+
+qint16 PageCycle::cycleTab() const
 {
-    ui->tabWidget->setCurrentIndex(index);
+    return static_cast<qint16>(m_tabs->currentIndex());
 }
 
-bool MainWindow::isOnWalk() const
+void PageCycle::makeTabCurrent(Tab tab)
 {
-    return cycleTab == PurityTab || cycleTab == GradientTab || cycleTab == GridTab;
+    m_tabs->setCurrentIndex(tab);
 }
 
-void MainWindow::slot_SwitchDownTabControl()
+void PageCycle::enterUnlessOnCycle(Tab tab)
 {
-    emit signal_stopGreyChanged();
-    if (!isOnWalk())
-        makeTabCurrent(PurityTab);
-    setPurityCtrlPageDownEvent();
-    setGradualChangePageDownEvent();
-    setGridCtrlPageDownEvent();
+    if (cycleTab() != PurityTab && cycleTab() != GradientTab && cycleTab() != GridTab)
+        makeTabCurrent(tab);
 }
 
-void MainWindow::slot_SwitchUpTabControl()
+void PageCycle::stepDown()
 {
-    emit signal_stopGreyChanged();
-    if (!isOnWalk())
-        makeTabCurrent(GridTab);
-    setGridCtrlPageUpEvent();
-    setGradualChangePageUpEvent();
-    setPurityCtrlPageUpEvent();
+    enterUnlessOnCycle(PurityTab);
+    if (cycleTab() == PurityTab)
+        setPurityCtrlPageDownEvent();
+    if (cycleTab() == GradientTab)
+        setGradualChangePageDownEvent();
+    if (cycleTab() == GridTab)
+        setGridCtrlPageDownEvent();
 }
 
-void MainWindow::setPurityCtrlPageDownEvent()
+void PageCycle::stepUp()
 {
-    if (cycleTab != PurityTab)
-        return;
-    if (purityPanel->colorIndex >= colorSteps - 1) {
-        purityPanel->canclePageUpDownSelect();
+    enterUnlessOnCycle(GridTab);
+    if (cycleTab() == GridTab)
+        setGridCtrlPageUpEvent();
+    if (cycleTab() == GradientTab)
+        setGradualChangePageUpEvent();
+    if (cycleTab() == PurityTab)
+        setPurityCtrlPageUpEvent();
+}
+
+void PageCycle::setPurityCtrlPageDownEvent()
+{
+    if (m_purity->colorIndex >= colorSteps - 1) {
+        m_purity->canclePageUpDownSelect();
         makeTabCurrent(GradientTab);
-        gradientPanel->m_colorIndex = beforeFirst;
+        m_gradient->m_colorIndex = beforeFirst;
         return;
     }
-    ++purityPanel->colorIndex;
-    purityPanel->slot_changeColorByPageUpDown();
+    ++m_purity->colorIndex;
+    m_purity->slot_changeColorByPageUpDown();
 }
 
-void MainWindow::setGradualChangePageDownEvent()
+void PageCycle::setGradualChangePageDownEvent()
 {
-    if (cycleTab != GradientTab)
-        return;
-    gradientPanel->m_level = pageLevel;
-    if (gradientPanel->m_colorIndex >= colorSteps - 1) {
+    m_gradient->m_level = pageLevel;
+    if (m_gradient->m_colorIndex >= colorSteps - 1) {
         makeTabCurrent(GridTab);
-        gridPanel->colorIndex = beforeFirst;
-        gridPanel->lineIndex = beforeFirst;
+        m_grid->colorIndex = beforeFirst;
+        m_grid->lineIndex = beforeFirst;
         return;
     }
-    ++gradientPanel->m_colorIndex;
-    gradientPanel->slot_changeColorByPageDown();
+    ++m_gradient->m_colorIndex;
+    m_gradient->slot_changeColorByPageDown();
 }
 
-void MainWindow::setGridCtrlPageDownEvent()
+void PageCycle::setGridCtrlPageDownEvent()
 {
-    if (cycleTab != GridTab)
-        return;
-    if (gridPanel->lineIndex >= 0 && gridPanel->lineIndex < lineSteps - 1) {
-        ++gridPanel->lineIndex;
+    if (m_grid->lineIndex >= 0 && m_grid->lineIndex < lineSteps - 1) {
+        ++m_grid->lineIndex;
     } else {
-        ++gridPanel->colorIndex;
-        gridPanel->lineIndex = 0;
+        ++m_grid->colorIndex;
+        m_grid->lineIndex = 0;
     }
-    if (gridPanel->colorIndex < colorSteps) {
-        gridPanel->slot_changeColorByPageDown();
+    if (m_grid->colorIndex < colorSteps) {
+        m_grid->slot_changeColorByPageDown();
         return;
     }
-    gridPanel->canclePageUpDownSelect();
+    m_grid->canclePageUpDownSelect();
     makeTabCurrent(PurityTab);
-    purityPanel->colorIndex = 0;
-    purityPanel->slot_changeColorByPageUpDown();
+    m_purity->colorIndex = 0;
+    m_purity->slot_changeColorByPageUpDown();
 }
 
-void MainWindow::setGridCtrlPageUpEvent()
+void PageCycle::setGridCtrlPageUpEvent()
 {
-    if (cycleTab != GridTab)
-        return;
-    if (gridPanel->lineIndex < 1) {
-        --gridPanel->colorIndex;
-        gridPanel->lineIndex = lineSteps - 1;
+    if (m_grid->lineIndex < 1) {
+        --m_grid->colorIndex;
+        m_grid->lineIndex = lineSteps - 1;
     } else {
-        --gridPanel->lineIndex;
+        --m_grid->lineIndex;
     }
-    if (gridPanel->colorIndex >= 0) {
-        gridPanel->slot_changeColorByPageDown();
+    if (m_grid->colorIndex >= 0) {
+        m_grid->slot_changeColorByPageDown();
         return;
     }
-    gridPanel->canclePageUpDownSelect();
+    m_grid->canclePageUpDownSelect();
     makeTabCurrent(GradientTab);
-    gradientPanel->m_colorIndex = colorSteps;
+    m_gradient->m_colorIndex = colorSteps;
 }
 
-void MainWindow::setGradualChangePageUpEvent()
+void PageCycle::setGradualChangePageUpEvent()
 {
-    if (cycleTab != GradientTab)
-        return;
-    gradientPanel->m_level = pageLevel;
-    if (gradientPanel->m_colorIndex < 1) {
-        purityPanel->canclePageUpDownSelect(); // the panel that is entered: wanted
+    m_gradient->m_level = pageLevel;
+    if (m_gradient->m_colorIndex < 1) {
+        m_purity->canclePageUpDownSelect(); // Specified: the panel that is entered, not left
         makeTabCurrent(PurityTab);
-        purityPanel->colorIndex = colorSteps;
+        m_purity->colorIndex = colorSteps;
         return;
     }
-    --gradientPanel->m_colorIndex;
-    gradientPanel->slot_changeColorByPageDown();
+    --m_gradient->m_colorIndex;
+    m_gradient->slot_changeColorByPageDown();
 }
 
-void MainWindow::setPurityCtrlPageUpEvent()
+void PageCycle::setPurityCtrlPageUpEvent()
 {
-    if (cycleTab != PurityTab)
-        return;
-    if (purityPanel->colorIndex < 1) {
+    if (m_purity->colorIndex < 1) {
         makeTabCurrent(GridTab);
-        gridPanel->colorIndex = colorSteps - 1;
-        gridPanel->lineIndex = lineSteps;
+        m_grid->colorIndex = colorSteps - 1;
+        m_grid->lineIndex = lineSteps;
         setGridCtrlPageUpEvent();
         return;
     }
-    --purityPanel->colorIndex;
-    purityPanel->slot_changeColorByPageUpDown();
+    --m_purity->colorIndex;
+    m_purity->slot_changeColorByPageUpDown();
 }

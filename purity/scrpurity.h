@@ -17,7 +17,7 @@ public:
     bool coversWindow() const override;
 
 signals:
-    // A grey level was set; a colour alone does not say so. Wanted.
+    // A grey level was set. Specified: a colour alone does not say so.
     void signal_puritySelect(bool flag);
 
 public slots:

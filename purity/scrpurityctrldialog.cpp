@@ -5,7 +5,7 @@
 #include "commonhelper.h"
 #include "drawcontainer.h"
 #include "form.h"
-#include "puritykeys.h"
+#include "latin1.h"
 #include "savesoon.h"
 #include "settingsrules.h"
 #include "sliderspinboxpair.h"
@@ -19,6 +19,12 @@
 
 namespace {
 
+constexpr QLatin1String manualGreyKey = latin1("/setting/testPurityGreyLevel");
+constexpr QLatin1String speedKey = latin1("/setting/testPuritySpeed");
+constexpr QLatin1String autoGreyKey = latin1("/setting/testAutoScale");
+constexpr QLatin1String autoModeKey = latin1("/setting/AutoTest");
+
+constexpr int defaultSpeed = 50;
 constexpr int maximumGrey = 255;
 constexpr int minimumSpeed = 1;
 constexpr int maximumSpeed = 100;
@@ -30,7 +36,7 @@ constexpr int stepIntervalMs(int speed)
     return (maximumSpeed + 1 - speed) * 100;
 }
 
-// The grey level after `grey`, round and round within 0 to 255.
+// Past 255 comes 0, and before 0 comes 255.
 constexpr int wrappedGrey(int grey)
 {
     return (grey + maximumGrey + 1) % (maximumGrey + 1);
@@ -51,7 +57,6 @@ ScrPurityCtrlDialog::ScrPurityCtrlDialog(QWidget *testWindow, QSettings *setting
     , m_saveSoon(new SaveSoon([this] { saveScrPurityInfo(); }, this))
 {
     initSlots();
-    initSaving();
     initCtrls();
     initPurityStatus();
 }
@@ -83,10 +88,7 @@ void ScrPurityCtrlDialog::initSlots()
 
     SliderSpinBoxPair::link(ui->hScrollBarSpeed, ui->spinBoxSpeed);
     connect(ui->spinBoxSpeed, valueChanged, this, &Panel::slot_SpeedChanged);
-}
 
-void ScrPurityCtrlDialog::initSaving()
-{
     for (QSpinBox *spinBox : {ui->spinBoxScale, ui->spinBoxSpeed, ui->spinBoxAutoScale})
         connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), m_saveSoon, &SaveSoon::schedule);
     connect(ui->radioButtonAuto, &QRadioButton::toggled, m_saveSoon, &SaveSoon::schedule);
@@ -129,31 +131,31 @@ void ScrPurityCtrlDialog::initPurityStatus()
 void ScrPurityCtrlDialog::restoreControls()
 {
     using SettingsRules::positiveInt;
-    ui->hScrollBarScale->setValue(
-        positiveInt(*settings, PurityKey::manualGrey, PurityKey::defaultGrey));
-    ui->hScrollBarSpeed->setValue(
-        positiveInt(*settings, PurityKey::speed, PurityKey::defaultSpeed));
-    ui->spinBoxAutoScale->setValue(
-        positiveInt(*settings, PurityKey::autoGrey, PurityKey::defaultGrey));
+    ui->hScrollBarScale->setValue(positiveInt(*settings, manualGreyKey, maximumGrey));
+    ui->hScrollBarSpeed->setValue(positiveInt(*settings, speedKey, defaultSpeed));
+    ui->spinBoxAutoScale->setValue(positiveInt(*settings, autoGreyKey, maximumGrey));
     const QSignalBlocker quietAuto(ui->radioButtonAuto);
     const QSignalBlocker quietManual(ui->radioButtonMual);
-    const bool automatic = settings->value(PurityKey::autoMode).toBool();
+    const bool automatic = settings->value(autoModeKey).toBool();
     (automatic ? ui->radioButtonAuto : ui->radioButtonMual)->setChecked(true);
 }
 
-DrawerBase *ScrPurityCtrlDialog::getDrawer()
+// Specified: an automatic grey that is not stored counts as 0 here and as 255 on the panel.
+QString ScrPurityCtrlDialog::storedGrey() const
 {
-    return &drawer;
+    if (settings->value(autoModeKey).toBool())
+        return QString::number(settings->value(autoGreyKey).toInt());
+    return QString::number(SettingsRules::positiveInt(*settings, manualGreyKey, maximumGrey));
 }
 
 void ScrPurityCtrlDialog::saveScrPurityInfo()
 {
     if (!settings)
         return;
-    SettingsRules::store(*settings, PurityKey::autoMode, ui->radioButtonAuto->isChecked());
-    SettingsRules::store(*settings, PurityKey::manualGrey, ui->spinBoxScale->value());
-    SettingsRules::store(*settings, PurityKey::speed, ui->spinBoxSpeed->value());
-    SettingsRules::store(*settings, PurityKey::autoGrey, ui->spinBoxAutoScale->value());
+    SettingsRules::store(*settings, autoModeKey, ui->radioButtonAuto->isChecked());
+    SettingsRules::store(*settings, manualGreyKey, ui->spinBoxScale->value());
+    SettingsRules::store(*settings, speedKey, ui->spinBoxSpeed->value());
+    SettingsRules::store(*settings, autoGreyKey, ui->spinBoxAutoScale->value());
 }
 
 void ScrPurityCtrlDialog::updateLanguage()
@@ -175,8 +177,7 @@ void ScrPurityCtrlDialog::selectColor(int index)
 {
     colorIndex = index;
     const QColor color = TestColor::at(index);
-    if (settings && !m_saveSoon->isHeld())
-        SettingsRules::store(*settings, SharedKey::baseColor, color);
+    storeColor(color);
     emit signal_colorChanged(color);
     if (!firstColorPending)
         puritySelected = true;
@@ -193,6 +194,11 @@ void ScrPurityCtrlDialog::slot_changeSelectedPurityColor(const QColor &color)
     // the click makes it select its colour again.
     if (color == Qt::white)
         button->click();
+    storeColor(color); // another panel may have stored its own since this button was checked
+}
+
+void ScrPurityCtrlDialog::storeColor(const QColor &color)
+{
     if (settings && !m_saveSoon->isHeld())
         SettingsRules::store(*settings, SharedKey::baseColor, color);
 }
@@ -209,34 +215,9 @@ void ScrPurityCtrlDialog::canclePageUpDownSelect()
         ui->radioButtonWhite->setChecked(false);
 }
 
-void ScrPurityCtrlDialog::slot_keyUpPressed()
+void ScrPurityCtrlDialog::stepGrey(int step)
 {
-    ui->hScrollBarScale->setValue(wrappedGrey(ui->hScrollBarScale->value() + 1));
-}
-
-void ScrPurityCtrlDialog::slot_keyDownPressed()
-{
-    ui->hScrollBarScale->setValue(wrappedGrey(ui->hScrollBarScale->value() - 1));
-}
-
-void ScrPurityCtrlDialog::slot_keyLeftPressed()
-{
-    slot_keyDownPressed();
-}
-
-void ScrPurityCtrlDialog::slot_keyRightPressed()
-{
-    slot_keyUpPressed();
-}
-
-void ScrPurityCtrlDialog::slot_keyInsertPressed()
-{
-    stepAutomatically(true);
-}
-
-void ScrPurityCtrlDialog::slot_keyDeletePressed()
-{
-    stepAutomatically(false);
+    ui->hScrollBarScale->setValue(wrappedGrey(ui->hScrollBarScale->value() + step));
 }
 
 // In automatic mode the direction changes; otherwise the run starts, in the direction of before.
@@ -250,11 +231,6 @@ void ScrPurityCtrlDialog::stepAutomatically(bool up)
         return;
     }
     ui->radioButtonAuto->setChecked(true); // which starts the run
-}
-
-void ScrPurityCtrlDialog::slot_AutoScaleChanged(int grey)
-{
-    emit signal_greyChanged(QString::number(grey));
 }
 
 void ScrPurityCtrlDialog::slot_SpeedChanged(int speed)
@@ -271,7 +247,7 @@ void ScrPurityCtrlDialog::slot_SpeedChanged(int speed)
 void ScrPurityCtrlDialog::slot_PauseResume()
 {
     if (autoTimer) {
-        stopTimer();
+        slot_stopChangeGrey();
         stepUp = true; // after a pause the levels rise
         stepDown = false;
         return;
@@ -281,15 +257,11 @@ void ScrPurityCtrlDialog::slot_PauseResume()
     slot_SpeedChanged(ui->hScrollBarSpeed->value());
 }
 
+// May run inside the timer's own timeout, so the timer goes when that is over.
 void ScrPurityCtrlDialog::slot_stopChangeGrey()
 {
-    if (autoTimer)
-        stopTimer();
-}
-
-// May run inside the timer's own timeout, so the timer goes when that is over.
-void ScrPurityCtrlDialog::stopTimer()
-{
+    if (!autoTimer)
+        return;
     autoTimer->stop();
     autoTimer->deleteLater();
     autoTimer = nullptr;
@@ -305,7 +277,7 @@ void ScrPurityCtrlDialog::slot_MalPushed(bool checked)
     slot_PauseResume();
     enableControls(false);
     emit signal_switchToMal(ui->spinBoxScale->value()); // which selects the purity test
-    emit signal_greyChanged(QString::number(ui->spinBoxScale->value()));
+    slot_AutoScaleChanged(ui->spinBoxScale->value());
 }
 
 void ScrPurityCtrlDialog::slot_AutoPushed(bool checked)
@@ -314,7 +286,7 @@ void ScrPurityCtrlDialog::slot_AutoPushed(bool checked)
         return;
     slot_PauseResume();
     enableControls(true);
-    emit signal_greyChanged(QString::number(ui->spinBoxAutoScale->value()));
+    slot_AutoScaleChanged(ui->spinBoxAutoScale->value());
 }
 
 void ScrPurityCtrlDialog::enableControls(bool automatic)
@@ -340,9 +312,4 @@ void ScrPurityCtrlDialog::slot_AutoTimerFinished()
     CommonHelper::setQPushButtonText(ui->buttonPauseResume, tr("暂停"));
     drawer.slot_AlphaChanged(grey);
     ui->spinBoxAutoScale->setValue(grey);
-}
-
-void ScrPurityCtrlDialog::slot_puritySelect(bool flag)
-{
-    puritySelected = flag;
 }

@@ -31,9 +31,12 @@ public:
     ScrPurityCtrlDialog(QWidget *testWindow, QSettings *settings, QWidget *parent);
     ~ScrPurityCtrlDialog() override;
 
-    DrawerBase *getDrawer() override;
+    DrawerBase *getDrawer() override { return &drawer; }
     void saveScrPurityInfo();
     void updateLanguage();
+
+    // The grey level in the settings, as the test window's overlay has it before any change.
+    QString storedGrey() const;
 
     // The page keys have left this panel.
     void canclePageUpDownSelect();
@@ -54,30 +57,30 @@ signals:
 public slots:
     void slot_changeSelectedPurityColor(const QColor &color);
     void slot_changeColorByPageUpDown();
-    void slot_keyUpPressed();
-    void slot_keyDownPressed();
-    void slot_keyLeftPressed();
-    void slot_keyRightPressed();
-    void slot_keyInsertPressed();
-    void slot_keyDeletePressed();
-    void slot_AutoScaleChanged(int grey);
+    void slot_keyUpPressed() { stepGrey(1); }
+    void slot_keyDownPressed() { stepGrey(-1); }
+    void slot_keyLeftPressed() { stepGrey(-1); }
+    void slot_keyRightPressed() { stepGrey(1); }
+    void slot_keyInsertPressed() { stepAutomatically(true); }
+    void slot_keyDeletePressed() { stepAutomatically(false); }
+    void slot_AutoScaleChanged(int grey) { emit signal_greyChanged(QString::number(grey)); }
     void slot_SpeedChanged(int speed);
     void slot_PauseResume();
     void slot_stopChangeGrey();
     void slot_MalPushed(bool checked);
     void slot_AutoPushed(bool checked);
     void slot_AutoTimerFinished();
-    void slot_puritySelect(bool flag);
+    void slot_puritySelect(bool flag) { puritySelected = flag; }
 
 private:
     void initSlots();
-    void initSaving();
     void initCtrls();
     void initPurityStatus();
     void restoreControls();
     void selectColor(int index);
+    void storeColor(const QColor &color);
+    void stepGrey(int step);
     void stepAutomatically(bool up);
-    void stopTimer();
     void enableControls(bool automatic);
 
     const std::unique_ptr<Ui::ScrPurityCtrlDialog> ui;
