@@ -46,8 +46,6 @@ private slots:
     void shortcut_worksFromTheTestWindow();
     void backspaceThatNobodyTook_isTheDeleteShortcut();
     void backspaceInASpinBox_isNoShortcut();
-    void plainArrowKeys_onOtherTabs_doNothing_data();
-    void plainArrowKeys_onOtherTabs_doNothing();
     void space_doesNothing();
     void keyNumberPress_knowsWhatPasses();
 
@@ -167,29 +165,6 @@ void TestApplication::backspaceInASpinBox_isNoShortcut()
     find<QSpinBox>("spinBoxScale")->setValue(200);
     typeInto(find<QSpinBox>("spinBoxScale"), Qt::Key_Backspace);
     QVERIFY(manual->isChecked());
-}
-
-void TestApplication::plainArrowKeys_onOtherTabs_doNothing_data()
-{
-    QTest::addColumn<int>("tab");
-    for (const int tab : {0, 2, 4, 5, 6})
-        QTest::addRow("tab %d", tab) << tab;
-}
-
-void TestApplication::plainArrowKeys_onOtherTabs_doNothing()
-{
-    QFETCH(int, tab);
-    auto *grey = find<QSlider>("hScrollBarScale");
-    find<QRadioButton>("radioButtonMual")->setChecked(true);
-    grey->setValue(100);
-    tabs()->setCurrentIndex(tab);
-    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Up})
-        typeInto(&mainWindow(), key);
-    QCOMPARE(grey->value(), 100);
-
-    tabs()->setCurrentIndex(1);
-    typeInto(&mainWindow(), Qt::Key_Up);
-    QCOMPARE(grey->value(), 101);
 }
 
 void TestApplication::space_doesNothing()

@@ -1,4 +1,3 @@
-#include "dictionary.h"
 #include "mainwindowrig.h"
 #include "scraboutwidget.h"
 #include "shippedtranslation.h"
@@ -19,10 +18,8 @@ private slots:
     void content_isBannerThreeNumberedLinesAndATelephone_data();
     void content_isBannerThreeNumberedLinesAndATelephone();
     void height_isAtMost192();
-    void longText_isElidedWithItsFullTextAsToolTip();
     void everyText_fitsWithTheFontOfTheStyleSheet_data();
     void everyText_fitsWithTheFontOfTheStyleSheet();
-    void mainWindow_showsItAsTab6AndRetranslatesIt();
 
 private:
     static QVector<QLabel *> labelsOf(const QWidget &card);
@@ -101,22 +98,6 @@ void TestScrAboutWidget::height_isAtMost192()
     QCOMPARE(card.height(), 192);
 }
 
-void TestScrAboutWidget::longText_isElidedWithItsFullTextAsToolTip()
-{
-    const QString longText = QStringLiteral("1. a long line of products ").repeated(8).trimmed();
-    ScrAboutWidget card;
-    {
-        const Dictionary words({{QStringLiteral("1. LED显示屏控制系统"), longText}});
-        card.updateLanguage();
-    }
-    const QLabel *line = labelsOf(card).at(1);
-    QCOMPARE(line->toolTip(), longText);
-    QVERIFY(line->text().endsWith(QChar(0x2026)));
-    card.updateLanguage();
-    QCOMPARE(line->text(), QStringLiteral("1. LED显示屏控制系统"));
-    QCOMPARE(line->toolTip(), QString());
-}
-
 void TestScrAboutWidget::everyText_fitsWithTheFontOfTheStyleSheet_data()
 {
     QTest::addColumn<QString>("language");
@@ -132,26 +113,14 @@ void TestScrAboutWidget::everyText_fitsWithTheFontOfTheStyleSheet()
     MainWindowRig rig;
     rig.start();
     rig.window().updateLanguage();
-    const QVector<QLabel *> labels = labelsOf(*rig.find<ScrAboutWidget>());
+    QVERIFY(qobject_cast<ScrAboutWidget *>(rig.tabs()->widget(6)));
+    const QVector<QLabel *> labels = labelsOf(*rig.tabs()->widget(6));
     QVERIFY(labels.at(0)->font().pixelSize() > labels.at(1)->font().pixelSize()); // the banner
     for (const QLabel *label : labels) {
         QCOMPARE(label->toolTip(), QString());
         QVERIFY2(label->fontMetrics().boundingRect(label->text()).width() <= label->width(),
                  qPrintable(label->text()));
     }
-}
-
-void TestScrAboutWidget::mainWindow_showsItAsTab6AndRetranslatesIt()
-{
-    MainWindowRig rig;
-    rig.start();
-    const auto *card = qobject_cast<ScrAboutWidget *>(rig.tabs()->widget(6));
-    QVERIFY(card);
-    const QString banner = QStringLiteral("Tarn：LED显示屏专业解决方案");
-    QCOMPARE(labelsOf(*card).at(0)->text(), banner);
-    const Dictionary words({{banner, QStringLiteral("banner")}});
-    rig.window().updateLanguage();
-    QCOMPARE(labelsOf(*card).at(0)->text(), QStringLiteral("banner"));
 }
 
 QTEST_MAIN(TestScrAboutWidget)

@@ -1,4 +1,3 @@
-#include "dictionary.h"
 #include "mainwindowrig.h"
 #include "scrhelperctrlwidget.h"
 #include "shippedtranslation.h"
@@ -47,15 +46,12 @@ private slots:
     void form_hasTheGenericKeys();
     void updateLanguage_showsTheMacKeys();
     void columns_haveTheirMinimumWidthsAndLineUp();
-    void longText_isElidedWithItsFullTextAsToolTip();
-    void shortTextAgain_clearsTheToolTip();
     void everyLanguage_hasItsOwnMeanings_data();
     void everyLanguage_hasItsOwnMeanings();
     void everyKey_fitsItsKey_data();
     void everyKey_fitsItsKey();
     void mainWindow_showsItAsTab5InAScrollArea();
     void wheel_reachesTheTip();
-    void mainWindow_retranslatesIt();
 
 private:
     static QVector<QLabel *> inReadingOrder(const QWidget &card);
@@ -140,34 +136,6 @@ void TestScrHelperCtrlWidget::columns_haveTheirMinimumWidthsAndLineUp()
     QCOMPARE(labels.last()->x(), labels.at(0)->x());
 }
 
-void TestScrHelperCtrlWidget::longText_isElidedWithItsFullTextAsToolTip()
-{
-    const QString longText = QStringLiteral("a long meaning of a key, ").repeated(8).trimmed();
-    ScrHelperCtrlWidget card;
-    {
-        const Dictionary words({{QStringLiteral("窗口大小"), longText}});
-        card.updateLanguage();
-    }
-    const QLabel *meaning = inReadingOrder(card).at(2 * 4 + 1);
-    QCOMPARE(meaning->toolTip(), longText);
-    QVERIFY(meaning->text().endsWith(QChar(0x2026)));
-    QVERIFY(longText.startsWith(meaning->text().chopped(1)));
-}
-
-void TestScrHelperCtrlWidget::shortTextAgain_clearsTheToolTip()
-{
-    ScrHelperCtrlWidget card;
-    {
-        const Dictionary words({{QStringLiteral("[⇧+H]"), QString(99, QLatin1Char('W'))}});
-        card.updateLanguage();
-    }
-    const QLabel *key = inReadingOrder(card).at(2 * 9);
-    QVERIFY(!key->toolTip().isEmpty());
-    card.updateLanguage();
-    QCOMPARE(key->text(), QStringLiteral("[⇧+H]"));
-    QCOMPARE(key->toolTip(), QString());
-}
-
 void TestScrHelperCtrlWidget::everyLanguage_hasItsOwnMeanings_data()
 {
     QTest::addColumn<QString>("language");
@@ -238,13 +206,6 @@ void TestScrHelperCtrlWidget::wheel_reachesTheTip()
     }
     QVERIFY(isInView());
     area->verticalScrollBar()->setValue(0);
-}
-
-void TestScrHelperCtrlWidget::mainWindow_retranslatesIt()
-{
-    const Dictionary words({{QStringLiteral("窗口位置"), QStringLiteral("place")}});
-    m_rig.window().updateLanguage();
-    QCOMPARE(inReadingOrder(*shownCard()).at(2 * 6 + 1)->text(), QStringLiteral("place"));
 }
 
 QTEST_MAIN(TestScrHelperCtrlWidget)

@@ -3,7 +3,6 @@
 #include "savesoon.h"
 
 #include <QLabel>
-#include <QMetaMethod>
 #include <QtTest>
 
 void addColorRows(int count)
@@ -81,30 +80,4 @@ QStringList AnyPanelRig::texts() const
 bool AnyPanelRig::isSaveDue() const
 {
     return widget()->findChild<SaveSoon *>()->isDue();
-}
-
-SignalLog::SignalLog(QObject *object)
-{
-    const QMetaObject *const type = object->metaObject();
-    for (int index = type->methodOffset(); index < type->methodCount(); ++index) {
-        const QMetaMethod method = type->method(index);
-        if (method.methodType() == QMetaMethod::Signal) // as the SIGNAL macro would name it
-            m_spies.push_back(std::make_unique<QSignalSpy>(object, '2' + method.methodSignature()));
-    }
-}
-
-QString SignalLog::text() const
-{
-    QStringList all;
-    for (const auto &spy : m_spies) {
-        const QString signature = QString::fromLatin1(spy->signal());
-        const QString name = signature.left(signature.indexOf(QLatin1Char('(')));
-        for (const QVariantList &emission : *spy) {
-            QStringList arguments;
-            for (const QVariant &argument : emission)
-                arguments << argument.toString();
-            all << QStringLiteral("%1(%2)").arg(name, arguments.join(QLatin1Char(',')));
-        }
-    }
-    return all.join(QLatin1Char(' '));
 }

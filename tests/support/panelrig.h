@@ -5,13 +5,11 @@
 #include "testsettings.h"
 
 #include <QAbstractButton>
-#include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
 
 #include <memory>
 #include <type_traits>
-#include <vector>
 
 // What a row of swatches may select, in the order of the colour table.
 constexpr int colorCount = 7;
@@ -111,17 +109,4 @@ private:
         if constexpr (std::is_base_of_v<ControlBase, Panel>)
             canvas.setDrawer(panel->getDrawer());
     }
-};
-
-// Every signal of an object's own class, as it is emitted.
-class SignalLog
-{
-public:
-    explicit SignalLog(QObject *object);
-
-    // "name(argument,argument)" for each emission, one signal after the other.
-    QString text() const;
-
-private:
-    std::vector<std::unique_ptr<QSignalSpy>> m_spies;
 };

@@ -1,6 +1,7 @@
 #include "paneltest.h"
 
 #include "dictionary.h"
+#include "signallog.h"
 
 #include <QFile>
 #include <QtTest>
@@ -115,10 +116,10 @@ void PanelTable::edit_isToldSavedSoonAndRestored()
     QFETCH(const QString, key);
     QFETCH(const QString, expected);
     const auto rig = start(byHand(stored() + lines));
-    const SignalLog log(rig->widget());
+    SignalLog log(rig->widget());
     rig->operate(control, value);
 
-    QTEST(log.text(), "signalLog");
+    QTEST(log.take(), "signalLog");
     QVERIFY(rig->settings.onDisk(key).toString() != expected); // not at once
     QTRY_COMPARE_WITH_TIMEOUT(rig->settings.onDisk(key).toString(), expected, savedMs);
 
