@@ -15,11 +15,13 @@ namespace {
 // The room that the indicator of a check box or radio button takes, in pixels.
 constexpr int indicatorWidth = 20;
 
+using KeySignal = void (CommonHelper::*)();
+
 struct Combination
 {
     int key;
     Qt::KeyboardModifier modifiers; // that have to be among the event's
-    void (CommonHelper::*signal)();
+    KeySignal signal;
 };
 
 // In the order in which they are tried: Shift+Ctrl+Up is the Shift combination. A Mac keyboard has
