@@ -15,7 +15,6 @@ class tst_e2e_cabinet : public EndToEndTest
     Q_OBJECT
 
 private slots:
-    void layoutButton_showsLinesAndNumbersOnBlack();
     void rightToLeft_isAnchoredAtTheRightEdge();
     void colourAndPicture_takeEachOthersPlaceAndFollowTheWindow();
     void layout_coversWhatOtherTestsHaveShown();
@@ -152,18 +151,12 @@ bool tst_e2e_cabinet::shows(const Backdrop &backdrop, bool fromRight)
     return false;
 }
 
-void tst_e2e_cabinet::layoutButton_showsLinesAndNumbersOnBlack()
+void tst_e2e_cabinet::rightToLeft_isAnchoredAtTheRightEdge()
 {
     startOnTheCabinetTab();
     QVERIFY(testWindowTurns(qRgb(255, 0, 0))); // as before every pattern
     clickInWindow(layoutButton);
     QVERIFY(shows([](const QPoint &) { return black; }));
-}
-
-void tst_e2e_cabinet::rightToLeft_isAnchoredAtTheRightEdge()
-{
-    startOnTheCabinetTab();
-    clickInWindow(layoutButton);
     clickInWindow(fromRightButton);
     QVERIFY(shows([](const QPoint &) { return black; }, true));
     const QPoint corner = Start.bottomRight();

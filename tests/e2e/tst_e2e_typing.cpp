@@ -9,8 +9,7 @@ class tst_e2e_typing : public EndToEndTest
     Q_OBJECT
 
 private slots:
-    void typedDigit_arrivesOnce();
-    void otherKeys_doNotArrive();
+    void typedDigits_arriveOnceAndOtherKeysNot();
 
 private:
     bool openPurityTab();
@@ -73,27 +72,14 @@ void tst_e2e_typing::clearSpinBox()
     }
 }
 
-void tst_e2e_typing::typedDigit_arrivesOnce()
-{
-    QVERIFY(openPurityTab());
-    QVERIFY(clickIntoSpinBox());
-    clearSpinBox();
-
-    desktop().keyboard().key("7");
-    QVERIFY(testWindowTurns(qRgb(0, 7, 0)));
-    desktop().keyboard().key("8");
-    QVERIFY(testWindowTurns(qRgb(0, 78, 0)));
-    QVERIFY2(tool().quit(), qPrintable(tool().problem()));
-    QCOMPARE(tool().configValue(QStringLiteral("/setting/testPurityGreyLevel")).toInt(), 78);
-}
-
-void tst_e2e_typing::otherKeys_doNotArrive()
+void tst_e2e_typing::typedDigits_arriveOnceAndOtherKeysNot()
 {
     QVERIFY(openPurityTab());
     QVERIFY(clickIntoSpinBox());
     clearSpinBox();
 
     desktop().keyboard().key("4");
+    QVERIFY(testWindowTurns(qRgb(0, 4, 0)));
     // Selecting all would let the next digit replace the first, and Tab would
     // take the keyboard elsewhere.
     desktop().keyboard().key("a");

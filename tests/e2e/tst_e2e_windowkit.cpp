@@ -1,7 +1,6 @@
 #include "endtoendtest.h"
 #include "waiting.h"
 
-#include <QProcessEnvironment>
 #include <QTest>
 
 #include <memory>
@@ -34,7 +33,6 @@ private:
     bool allShow(const QVector<WindowInfo> &windows);
 
     std::unique_ptr<ChildProcess> m_program;
-    QTemporaryDir m_runtimeDirectory;
     QByteArray m_said;
 };
 
@@ -70,17 +68,11 @@ WindowInfo tst_e2e_windowkit::kitWindow(const QString &title)
 
 bool tst_e2e_windowkit::startKit(Qt::WindowModality modality)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("DISPLAY"), desktop().displayName());
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_runtimeDirectory.path());
     m_said.clear();
     m_program = std::make_unique<ChildProcess>();
-    m_program->setProcessEnvironment(environment);
-    m_program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_program->start(QStringLiteral(TARN_WINDOW_KIT), {QString::number(modality)},
-                     QIODevice::ReadOnly);
-    return m_program->waitForStarted() && waitFor([this] { return isDialogInFront(); });
+    return m_program->startOn(desktop().displayName(), QStringLiteral(TARN_WINDOW_KIT),
+                              {QString::number(modality)})
+           && waitFor([this] { return isDialogInFront(); });
 }
 
 bool tst_e2e_windowkit::isDialogInFront()

@@ -11,8 +11,6 @@ class TestResources : public QObject
 private slots:
     void image_decodesAtItsSize_data();
     void image_decodesAtItsSize();
-    void doubledImage_isTwiceAsLarge_data();
-    void doubledImage_isTwiceAsLarge();
     void statesOfAControl_lookDifferent_data();
     void statesOfAControl_lookDifferent();
     void windowsIcon_holdsEverySize();
@@ -118,37 +116,6 @@ void TestResources::image_decodesAtItsSize()
     QVERIFY2(!image.isNull(), "does not decode");
     QCOMPARE(image.size(), size);
     QVERIFY2(hasVisiblePixel(image), "wholly transparent");
-}
-
-void TestResources::doubledImage_isTwiceAsLarge_data()
-{
-    QTest::addColumn<QString>("single");
-    QTest::addColumn<QString>("doubled");
-
-    const QStringList buttons = titleButtons();
-    for (const QString &button : buttons) {
-        for (const char *state : {"normal", "hover", "pressed"}) {
-            const QString name = QStringLiteral("titleBar/") + button + QLatin1String(state);
-            QTest::newRow(qPrintable(name))
-                << name + QStringLiteral(".png") << name + QStringLiteral("@2x.png");
-        }
-    }
-    const QStringList checkStates = checkBoxStates();
-    for (const QString &state : checkStates) {
-        const QString name = QStringLiteral("checkBox/btn_form_chackbox_") + state;
-        QTest::newRow(qPrintable(name))
-            << name + QStringLiteral(".png") << name + QStringLiteral("_2x.png");
-    }
-}
-
-void TestResources::doubledImage_isTwiceAsLarge()
-{
-    QFETCH(QString, single);
-    QFETCH(QString, doubled);
-
-    const QImage small(imagePath(single));
-    QVERIFY(!small.isNull());
-    QCOMPARE(QImage(imagePath(doubled)).size(), small.size() * 2);
 }
 
 void TestResources::statesOfAControl_lookDifferent_data()

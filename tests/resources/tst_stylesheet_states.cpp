@@ -1,6 +1,7 @@
+#include "commonhelper.h"
+
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
@@ -23,6 +24,17 @@ namespace {
 constexpr QSize canvasSize(90, 42);
 constexpr QStyle::State normal = QStyle::State_Enabled | QStyle::State_Active;
 constexpr QStyle::State horizontal = QStyle::State_Horizontal;
+constexpr QStyle::State hover = normal | QStyle::State_MouseOver;
+constexpr QStyle::State pressed = hover | QStyle::State_Sunken;
+constexpr QStyle::State focused = normal | QStyle::State_HasFocus;
+constexpr QStyle::State disabled = QStyle::State_None;
+
+QVector<QStyle::State> with(QStyle::State extra, QVector<QStyle::State> states)
+{
+    for (QStyle::State &state : states)
+        state |= extra;
+    return states;
+}
 
 // Paints a widget in a state that it need not be in.
 using Painting = std::function<void(QPainter &, QStyle::State)>;
@@ -64,27 +76,9 @@ private:
     QWidget m_window;
 };
 
-namespace {
-
-constexpr QStyle::State hover = normal | QStyle::State_MouseOver;
-constexpr QStyle::State pressed = hover | QStyle::State_Sunken;
-constexpr QStyle::State focused = normal | QStyle::State_HasFocus;
-constexpr QStyle::State disabled = QStyle::State_None;
-
-QVector<QStyle::State> with(QStyle::State extra, QVector<QStyle::State> states)
-{
-    for (QStyle::State &state : states)
-        state |= extra;
-    return states;
-}
-
-} // namespace
-
 void TestStyleSheetStates::initTestCase()
 {
-    QFile file(QStringLiteral(":/qss/global_style.css"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    m_window.setStyleSheet(QString::fromUtf8(file.readAll()));
+    m_window.setStyleSheet(CommonHelper::setStyle(QStringLiteral(":/qss/global_style.css")));
 }
 
 template<typename Widget>

@@ -21,6 +21,19 @@ ChildProcess::~ChildProcess()
     end();
 }
 
+bool ChildProcess::startOn(const QString &display, const QString &program,
+                           const QStringList &arguments)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), display);
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_runtimeDirectory.path());
+    setProcessEnvironment(environment);
+    setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    start(program, arguments, QIODevice::ReadOnly);
+    return waitForStarted();
+}
+
 void ChildProcess::end()
 {
     if (state() == NotRunning)
