@@ -156,8 +156,8 @@ void MainWindow::initSlots()
 void MainWindow::initKeySlots()
 {
     const Keys *const keys = &m_keyHelper;
-    Window *const window = &m_testWindow;
-    Place *const place = m_placementPanel;
+    auto *const window = &m_testWindow;
+    auto *const place = m_placementPanel;
     connect(keys, &Keys::signal_keyHomePressed, window, &Window::slot_keyHomePressed);
     connect(keys, &Keys::signal_keyEndPressed, window, &Window::slot_keyEndPressed);
     connect(keys, &Keys::signal_keyPageUpPressed, this, &MainWindow::slot_SwitchUpTabControl);
@@ -183,8 +183,8 @@ void MainWindow::initKeySlots()
 
 void MainWindow::initTestWindowSlots()
 {
-    Window *const window = &m_testWindow;
-    Place *const place = m_placementPanel;
+    auto *const window = &m_testWindow;
+    auto *const place = m_placementPanel;
     connect(window, &Window::signal_containerWidgetHide, place, &Place::slot_enableShowButton);
     connect(window, &Window::signal_containerWidgetShow, place, &Place::slot_disableShowButton);
     connect(window, &Window::signal_drawWidgetSizeChange, place, &Place::slot_drawWidgetSizeChange);
@@ -206,9 +206,9 @@ void MainWindow::initTestWindowSlots()
 // current, and a run of one stops the run of the other.
 void MainWindow::initPanelSlots()
 {
-    Purity *const purity = m_purityPanel;
-    Gradient *const gradient = m_gradientPanel;
-    Grid *const grid = m_gridPanel;
+    auto *const purity = m_purityPanel;
+    auto *const gradient = m_gradientPanel;
+    auto *const grid = m_gridPanel;
     const auto toPurity = &Purity::slot_changeSelectedPurityColor;
     const auto toGradient = &Gradient::slot_changeSelectedGradualColor;
     const auto toGrid = &Grid::slot_changeSelectedGridColor;
