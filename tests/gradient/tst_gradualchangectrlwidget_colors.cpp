@@ -39,7 +39,6 @@ private slots:
     void colourClick_showsTheColourAndAnnouncesItOnce_data();
     void colourClick_showsTheColourAndAnnouncesItOnce();
     void colourClick_onTheCheckedButtonAnnouncesItAgain();
-    void colours_areExclusive();
     void colourSlots_setTheColour_data();
     void colourSlots_setTheColour();
     void updateSelectedColor_announcesTheColour();
@@ -113,16 +112,6 @@ void TestGradualChangeCtrlWidgetColors::colourClick_onTheCheckedButtonAnnouncesI
     QCOMPARE(announced.first().first().value<QColor>(), QColor(Qt::blue));
     QCOMPARE(rig.checkedColor(), 2);
     QVERIFY(!rig.panel->m_userChanged);
-}
-
-void TestGradualChangeCtrlWidgetColors::colours_areExclusive()
-{
-    const GradientRig rig;
-    for (int clicked = colorCount - 1; clicked >= 0; --clicked) {
-        rig.click(rig.colorButton(clicked));
-        for (int index = 0; index < colorCount; ++index)
-            QCOMPARE(rig.colorButton(index)->isChecked(), index == clicked);
-    }
 }
 
 void TestGradualChangeCtrlWidgetColors::colourSlots_setTheColour_data()
