@@ -196,7 +196,7 @@ void MainWindow::initTestWindowSlots()
     connect(this, &MainWindow::signal_sendScreenMaxSize, place, &Place::getScreenSize);
     emit signal_sendScreenMaxSize();
     connect(place, &Place::signal_screenMaxSizeChanged, this, [this] {
-        QTimer::singleShot(screenChangeSettlesMs, this, &MainWindow::stayReachable);
+        QTimer::singleShot(screenChangeSettlesMs, this, &MainWindow::moveOntoScreen);
     });
     connect(this, &MainWindow::signal_colorChanged, window, &Window::slot_changeSelectedDrawColor);
     connect(this, &MainWindow::signal_greyChanged, window, &Window::slot_changeSelectedDrawGrey);
@@ -331,7 +331,7 @@ void MainWindow::slot_currentTabWidget(int index)
 }
 
 // The control window does not stay behind on a screen that is gone.
-void MainWindow::stayReachable()
+void MainWindow::moveOntoScreen()
 {
     const QRect frame = frameGeometry();
     const QPoint place = ScreenArea::movedInto(frame, ScreenArea::around(frame.center())).topLeft();

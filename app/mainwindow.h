@@ -68,7 +68,7 @@ private:
     void initKeySlots();
     void initTestWindowSlots();
     void initPanelSlots();
-    void stayReachable();
+    void moveOntoScreen();
     void setInitDrawWindowInfo();
     void setTabs();
     void addTab(QWidget *panel, DrawerBase *drawer);
