@@ -2,7 +2,6 @@
 
 #include <QPainter>
 
-#include <algorithm>
 #include <tuple>
 
 namespace {
@@ -18,14 +17,25 @@ bool isGeneral(CabinetLayout::Layer layer)
     return layer <= CabinetLayout::SlantRightLines;
 }
 
-int penWidth(int wanted)
+bool isOfModules(CabinetLayout::Layer layer)
 {
-    return qBound(0, wanted, widestLine);
+    return layer == CabinetLayout::ModuleRows || layer == CabinetLayout::ModuleColumns;
 }
 
-int cellLength(qint64 length)
+int penWidth(int width)
 {
-    return int(qBound(qint64(0), length, longestSide));
+    return qBound(0, width, widestLine);
+}
+
+// Of so many modules; 0 for a length that is none.
+int length(int moduleLength, int modules)
+{
+    return int(qBound(qint64(0), qint64(moduleLength) * modules, longestSide));
+}
+
+qint64 cellCount(int windowLength, int cellLength)
+{
+    return cellLength > 0 && windowLength >= 0 ? windowLength / cellLength + 1 : 0;
 }
 
 // At least two digits.
@@ -34,55 +44,77 @@ QString numberText(qint64 number)
     return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
 }
 
+void drawNumber(QPainter &painter, const CabinetLayout &layout, qint64 row, qint64 column)
+{
+    painter.drawText(layout.cell(row, column), Qt::AlignCenter,
+                     layout.rowText(row) + layout.columnText(column));
+}
+
 } // namespace
 
-bool CabinetLayout::Outline::operator==(const Outline &other) const
+QBrush LayoutParameters::background() const
 {
-    return std::tie(width, height, lineWidth, color)
-           == std::tie(other.width, other.height, other.lineWidth, other.color);
+    return hasPicture() ? QBrush(m_bgPixmap) : QBrush(m_oldTest ? m_oldTestColor : m_bgColor);
 }
 
 bool CabinetLayout::operator==(const CabinetLayout &other) const
 {
     const auto key = [](const CabinetLayout &l) {
-        return std::tie(l.size, l.background, l.pen, l.font, l.direction, l.lineStart, l.lineStep,
-                        l.layoutOn, l.module, l.scanBoard, l.leftToRight, l.fontColor, l.fontSize,
-                        l.fontShape, l.beginRow, l.beginColumn);
+        return std::tie(l.size, l.font, l.direction, l.m_layoutOn, l.m_moduleWidth,
+                        l.m_moduleHeight, l.m_moduleRowCount, l.m_moduleColumnCount, l.m_fontColor,
+                        l.m_moduleLineColor, l.m_scanColor, l.m_leftToRight, l.m_fontSize,
+                        l.m_fontShape, l.m_beginRow, l.m_beginColumn, l.m_moduleLineWidth,
+                        l.m_scanLineWidth, l.m_pen, l.m_horiLines, l.m_vertLines,
+                        l.m_slantLeftLines, l.m_slantRightLines, l.m_lineStart, l.m_lineStep);
     };
-    return key(*this) == key(other)
-           && std::equal(std::begin(generalLines), std::end(generalLines),
-                         std::begin(other.generalLines));
+    return key(*this) == key(other) && background() == other.background();
 }
 
 void CabinetLayout::preparePainter(QPainter &painter) const
 {
     painter.setFont(font);
     painter.setLayoutDirection(direction);
-    painter.setPen(pen);
+    painter.setPen(m_pen);
 }
 
 void CabinetLayout::drawBackground(QPainter &painter) const
 {
     const QRect all(QPoint(0, 0), size);
-    const bool isPicture = background.style() == Qt::TexturePattern;
-    if (!background.isOpaque() || (isPicture && background.texture().isNull()))
+    const QBrush brush = background();
+    if (!brush.isOpaque())
         painter.fillRect(all, Qt::black);
-    if (isPicture)
-        painter.drawTiledPixmap(all, background.texture());
+    if (hasPicture())
+        painter.drawTiledPixmap(all, m_bgPixmap);
     else
-        painter.fillRect(all, background);
+        painter.fillRect(all, brush);
+}
+
+void CabinetLayout::draw(QPainter &painter) const
+{
+    preparePainter(painter);
+    for (int layer = 0; layer < LayerCount; ++layer)
+        drawStrokes(painter, Layer(layer), 0, strokeCount(Layer(layer)));
+}
+
+bool CabinetLayout::isOn(Layer layer) const
+{
+    const bool generalLines[] = {m_horiLines, m_vertLines, m_slantLeftLines, m_slantRightLines};
+    return isGeneral(layer) ? generalLines[layer] : m_layoutOn;
+}
+
+qint64 CabinetLayout::fullCount(Layer layer) const
+{
+    return layer == Numbers ? rowCount() * columnCount() : family(layer).count();
 }
 
 qint64 CabinetLayout::strokeCount(Layer layer) const
 {
-    if (isGeneral(layer) ? !generalLines[layer] : !layoutOn)
-        return 0;
-    return layer == Numbers ? rowCount() * columnCount() : family(layer).count();
+    return isOn(layer) ? fullCount(layer) : 0;
 }
 
 void CabinetLayout::drawLayer(QPainter &painter, Layer layer) const
 {
-    drawStrokes(painter, layer, 0, strokeCount(layer));
+    drawStrokes(painter, layer, 0, fullCount(layer));
 }
 
 void CabinetLayout::drawStrokes(QPainter &painter, Layer layer, qint64 from, qint64 to) const
@@ -93,7 +125,7 @@ void CabinetLayout::drawStrokes(QPainter &painter, Layer layer, qint64 from, qin
         painter.setPen(numberPen(painter));
         painter.setFont(numberFont(painter));
         for (qint64 stroke = from; stroke < to; ++stroke)
-            drawNumber(painter, stroke / columnCount(), stroke % columnCount());
+            drawNumber(painter, *this, stroke / columnCount(), stroke % columnCount());
         painter.setFont(oldFont);
     } else {
         const LineFamily lines = family(layer);
@@ -104,100 +136,89 @@ void CabinetLayout::drawStrokes(QPainter &painter, Layer layer, qint64 from, qin
     painter.setPen(oldPen);
 }
 
-void CabinetLayout::drawLines(QPainter &painter, Layer layer) const
+QSize CabinetLayout::moduleSize() const
 {
-    drawStrokes(painter, layer, 0, family(layer).count());
+    return {length(m_moduleWidth, 1), length(m_moduleHeight, 1)};
 }
 
-void CabinetLayout::drawText(QPainter &painter) const
+QSize CabinetLayout::cellSize() const
 {
-    drawStrokes(painter, Numbers, 0, rowCount() * columnCount());
+    return {length(m_moduleWidth, m_moduleColumnCount), length(m_moduleHeight, m_moduleRowCount)};
 }
 
 LineFamily CabinetLayout::family(Layer layer) const
 {
+    const int start = qMax(0, m_lineStart);
     if (isGeneral(layer))
-        return {LineFamily::Direction(layer), size, lineStart, lineStep};
+        return {LineFamily::Direction(layer), size, start, m_lineStep};
+    const QSize step = isOfModules(layer) ? moduleSize() : cellSize();
     if (layer == ModuleRows || layer == ScanRows)
-        return {LineFamily::Horizontal, size, lineStart, cellLength(outline(layer).height)};
-    const int step = cellLength(outline(layer).width);
-    int first = lineStart;
-    if (!leftToRight && step > 0 && first <= size.width())
-        first += (size.width() - first) % step; // one stands at the right edge
-    return {LineFamily::Vertical, size, first, step};
-}
-
-const CabinetLayout::Outline &CabinetLayout::outline(Layer layer) const
-{
-    return layer == ModuleRows || layer == ModuleColumns ? module : scanBoard;
+        return {LineFamily::Horizontal, size, start, step.height()};
+    int first = start;
+    if (!m_leftToRight && step.width() > 0 && first <= size.width())
+        first += (size.width() - first) % step.width(); // one stands at the right edge
+    return {LineFamily::Vertical, size, first, step.width()};
 }
 
 QPen CabinetLayout::linePen(QPen linePen, Layer layer) const
 {
     if (!isGeneral(layer)) {
-        linePen.setColor(outline(layer).color);
-        linePen.setWidth(penWidth(outline(layer).lineWidth));
+        linePen.setColor(isOfModules(layer) ? m_moduleLineColor : m_scanColor);
+        linePen.setWidth(penWidth(isOfModules(layer) ? m_moduleLineWidth : m_scanLineWidth));
     }
     return linePen;
 }
 
 qint64 CabinetLayout::rowCount() const
 {
-    const int height = cellLength(scanBoard.height);
-    return height > 0 && size.height() >= 0 ? size.height() / height + 1 : 0;
+    return cellCount(size.height(), cellSize().height());
 }
 
 qint64 CabinetLayout::columnCount() const
 {
-    const int width = cellLength(scanBoard.width);
-    return width > 0 && size.width() >= 0 ? size.width() / width + 1 : 0;
+    return cellCount(size.width(), cellSize().width());
 }
 
-// From right to left the last column may lie beyond the left edge, and from left to right
-// beyond the right one: wanted.
+// Specified: from right to left the last column may lie beyond the left edge, and from left to
+// right beyond the right one.
 QRect CabinetLayout::cell(qint64 row, qint64 column) const
 {
-    const int width = cellLength(scanBoard.width);
-    const int height = cellLength(scanBoard.height);
-    const qint64 left = leftToRight ? column * width : size.width() - (column + 1) * width;
-    return {int(left), int(row * height), width, height};
+    const QSize cell = cellSize();
+    const qint64 left =
+        m_leftToRight ? column * cell.width() : size.width() - (column + 1) * cell.width();
+    return {QPoint(int(left), int(row * cell.height())), cell};
 }
 
 QString CabinetLayout::rowText(qint64 row) const
 {
-    return numberText(beginRow + row);
+    return numberText(m_beginRow + row);
 }
 
 QString CabinetLayout::columnText(qint64 column) const
 {
-    return numberText(beginColumn + column);
-}
-
-void CabinetLayout::drawNumber(QPainter &painter, qint64 row, qint64 column) const
-{
-    painter.drawText(cell(row, column), Qt::AlignCenter, rowText(row) + columnText(column));
+    return numberText(m_beginColumn + column);
 }
 
 QPen CabinetLayout::numberPen(const QPainter &painter) const
 {
     QPen numberPen = painter.pen();
-    numberPen.setColor(fontColor);
-    numberPen.setWidth(penWidth(fontSize));
+    numberPen.setColor(m_fontColor);
+    numberPen.setWidth(penWidth(m_fontSize));
     return numberPen;
 }
 
 QFont CabinetLayout::numberFont(const QPainter &painter) const
 {
     QFont numberFont = painter.font();
-    if (fontSize > 0)
-        numberFont.setPointSize(qMin(fontSize, largestFont));
-    if (fontShape == 0 || fontShape == 1)
+    if (m_fontSize > 0)
+        numberFont.setPointSize(qMin(m_fontSize, largestFont));
+    if (m_fontShape == 0 || m_fontShape == 1)
         numberFont.setStyle(QFont::StyleNormal);
-    if (fontShape == 2)
+    if (m_fontShape == 2)
         numberFont.setStyle(QFont::StyleItalic);
-    if (fontShape == 0 || fontShape == 2)
+    if (m_fontShape == 0 || m_fontShape == 2)
         numberFont.setWeight(QFont::Normal);
-    if (fontShape == 1)
+    if (m_fontShape == 1)
         numberFont.setWeight(QFont::Bold);
     return numberFont;
 }

@@ -6,14 +6,53 @@
 #include <QColor>
 #include <QFont>
 #include <QPen>
+#include <QPixmap>
 #include <QRect>
 #include <QSize>
+#include <QString>
 
 class QPainter;
 
+// What the operator chooses of the layout. Any value of any field is safe.
+struct LayoutParameters
+{
+    bool m_layoutOn = false;
+    QColor m_bgColor; // while there is no path of a picture
+    QColor m_oldTestColor;
+    QString m_bgPicturePath; // empty for the solid colour
+    int m_moduleWidth = 32; // pixels
+    int m_moduleHeight = 16;
+    int m_moduleRowCount = 2; // modules on one scan board
+    int m_moduleColumnCount = 2;
+    QColor m_fontColor;
+    QColor m_moduleLineColor;
+    QColor m_scanColor;
+    bool m_leftToRight = true; // where columns begin
+    int m_fontSize = 10; // in points; the pen of the numbers has the same width
+    int m_fontShape = 0; // 0 normal, 1 bold, 2 italic; others leave the window's font as it is
+    int m_beginRow = 1;
+    int m_beginColumn = 1;
+    int m_moduleLineWidth = 1; // pixels
+    int m_scanLineWidth = 4;
+    QPen m_pen;
+    QBrush m_brush;
+    bool m_horiLines = false;
+    bool m_vertLines = false;
+    bool m_slantLeftLines = false;
+    bool m_slantRightLines = false;
+    bool m_oldTest = false;
+    int m_lineStart = 0; // of every family, modules and scan boards included, in pixels
+    int m_lineStep = 8; // between the lines of the four general families
+    QPixmap m_bgPixmap; // stretched to the test window, once it has been shown
+
+    bool hasPicture() const { return !m_oldTest && !m_bgPicturePath.isEmpty(); }
+    // Below all layers, over black. The old test's colour wins.
+    QBrush background() const;
+};
+
 // Everything that decides on the layout's pixels, and the rule for what it looks like: strokes
-// in layers, one above the other. Any value of any field is safe.
-struct CabinetLayout
+// in layers, one above the other.
+struct CabinetLayout : LayoutParameters
 {
     // From the lowest to the topmost.
     enum Layer {
@@ -29,48 +68,24 @@ struct CabinetLayout
         LayerCount,
     };
 
-    // The lines of modules or of scan boards.
-    struct Outline
-    {
-        qint64 width = 0; // of a module or a scan board; below 1 there are no lines
-        qint64 height = 0;
-        int lineWidth = 1;
-        QColor color;
-
-        bool operator==(const Outline &other) const;
-    };
-
-    QSize size; // of the window
-    QBrush background; // below all layers, over black
-    QPen pen; // before the first layer
-    QFont font; // of the window
-    Qt::LayoutDirection direction = Qt::LeftToRight; // of the window
-    bool generalLines[4] = {}; // HoriLines to SlantRightLines
-    int lineStart = 0; // of every family; 0 or more
-    int lineStep = 8; // of the general lines; below 1 there are none
-    bool layoutOn = false; // all layers above the general lines
-    Outline module;
-    Outline scanBoard;
-    bool leftToRight = true; // where columns begin
-    QColor fontColor;
-    int fontSize = 10; // in points; below 1 the font keeps its own
-    int fontShape = 0;
-    int beginRow = 1;
-    int beginColumn = 1;
+    // Of the window.
+    QSize size;
+    QFont font;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
 
     // Sets up what the strokes take for granted.
     void preparePainter(QPainter &painter) const;
     void drawBackground(QPainter &painter) const;
+    // All layers that are on.
+    void draw(QPainter &painter) const;
 
-    // A layer has lines, or numbers row by row, for strokes.
+    // A layer has lines, or numbers row by row, for strokes; none while it is off.
     qint64 strokeCount(Layer layer) const;
     void drawStrokes(QPainter &painter, Layer layer, qint64 from, qint64 to) const;
+    // All of its strokes, on or off.
     void drawLayer(QPainter &painter, Layer layer) const;
     LineFamily family(Layer layer) const;
     QPen linePen(QPen linePen, Layer layer) const;
-    // All strokes of a layer, enabled or not.
-    void drawLines(QPainter &painter, Layer layer) const;
-    void drawText(QPainter &painter) const;
 
     // The scan boards that have numbers.
     QRect cell(qint64 row, qint64 column) const;
@@ -86,6 +101,8 @@ struct CabinetLayout
     bool operator!=(const CabinetLayout &other) const { return !(*this == other); }
 
 private:
-    const Outline &outline(Layer layer) const;
-    void drawNumber(QPainter &painter, qint64 row, qint64 column) const;
+    QSize moduleSize() const;
+    QSize cellSize() const;
+    bool isOn(Layer layer) const;
+    qint64 fullCount(Layer layer) const;
 };

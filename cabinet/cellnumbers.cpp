@@ -64,7 +64,7 @@ bool CellNumbers::prepare(const CabinetLayout &layout, const QPainter &painter)
     m_pen = layout.numberPen(painter);
     m_font = QFont(layout.numberFont(painter), painter.device());
     const qreal scale = painter.deviceTransform().m11();
-    if (layout.beginRow < 0 || layout.beginColumn < 0 || layout.direction != Qt::LeftToRight
+    if (layout.m_beginRow < 0 || layout.m_beginColumn < 0 || layout.direction != Qt::LeftToRight
         || m_pen.style() == Qt::NoPen || QFontInfo(m_font).pixelSize() * scale > largestCharacter
         || !measureDigits(m_font, painter.device()))
         return false;

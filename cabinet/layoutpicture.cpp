@@ -11,14 +11,6 @@ namespace {
 constexpr qint64 strokesAtATime = 4;
 constexpr int widestFilledLine = 255;
 
-void paintDirectly(QPainter &painter, const CabinetLayout &layout)
-{
-    layout.preparePainter(painter);
-    layout.drawBackground(painter);
-    for (int layer = 0; layer < CabinetLayout::LayerCount; ++layer)
-        layout.drawLayer(painter, Layer(layer));
-}
-
 } // namespace
 
 LayoutPicture::LayoutPicture()
@@ -32,8 +24,10 @@ void LayoutPicture::show(QPainter &painter, const CabinetLayout &layout)
     const bool isAnother = layout != m_layout;
     if (isAnother)
         m_layout = layout;
-    if (!showPart(painter, layout.size, isAnother))
-        paintDirectly(painter, layout);
+    if (showPart(painter, layout.size, isAnother))
+        return;
+    layout.drawBackground(painter);
+    layout.draw(painter);
 }
 
 void LayoutPicture::preparePainter(QPainter &painter) const
@@ -72,7 +66,7 @@ bool LayoutPicture::canFill(Layer layer) const
 {
     if (layer < CabinetLayout::ModuleRows || layer == CabinetLayout::Numbers)
         return false;
-    const QPen linePen = m_layout.linePen(m_layout.pen, layer);
+    const QPen linePen = m_layout.linePen(m_layout.m_pen, layer);
     QPen plain(linePen.color());
     plain.setWidth(linePen.width());
     const bool isWideRow =
@@ -85,7 +79,7 @@ bool LayoutPicture::canFill(Layer layer) const
 void LayoutPicture::fillLines(QPainter &painter, Layer layer, qint64 from, qint64 to)
 {
     const LineFamily family = m_layout.family(layer);
-    const QPen pen = m_layout.linePen(m_layout.pen, layer);
+    const QPen pen = m_layout.linePen(m_layout.m_pen, layer);
     LineTrace &trace = m_traces[size_t(layer)];
     trace.measure(family, pen.width(), qRound(scale()));
     const QTransform before = painter.worldTransform();
