@@ -222,6 +222,7 @@ void ScrGridCtrlDialog::updateLanguage()
 {
     setWindowTitle(tr("显示屏测试工具-网格"));
     m_swatches->retranslate();
+    m_lamps.retranslate();
     for (const Family &family : m_families)
         CommonHelper::setQPushButtonText(family.button, tr(family.text));
     CommonHelper::setQLabelText(ui->label_4, tr("速度"));
@@ -234,8 +235,6 @@ void ScrGridCtrlDialog::updateLanguage()
     m_runningShown = false; // up to the next step
     SliderSpinBoxPair::setAccessibleName(ui->hScrollBarSpeed, ui->labelSpeed, tr("速度"));
     SliderSpinBoxPair::setAccessibleName(ui->hScrollBarGrayLevel, ui->labelGrayLevel, tr("灰度"));
-    ui->signalGreenButton->setAccessibleName(tr("运行指示灯"));
-    ui->signalGreyButton->setAccessibleName(tr("运行指示灯"));
 }
 
 // A page of the tabs, not a window: Escape does not close it, and Enter does not press the

@@ -2,7 +2,7 @@
 
 #include "controlbase.h"
 #include "griddrawer.h"
-#include "lamppair.h"
+#include "runindicator.h"
 
 #include <QColor>
 #include <QDialog>
@@ -200,7 +200,7 @@ private:
     bool isSlantLeftPress = false;
     bool isSlantRightPress = false;
     const Families m_families; // in the order of lineIndex
-    LampPair m_lamps;
+    RunIndicator m_lamps;
     SwatchRow *m_swatches;
     SaveSoon *m_saveSoon;
     bool m_runningShown = false; // by the text of the start/pause button

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controlbase.h"
-#include "lamppair.h"
+#include "runindicator.h"
 #include "scrpurity.h"
 
 #include <QWidget>
@@ -91,7 +91,7 @@ private:
     bool autoRunning = false;
     bool stepUp = false;
     bool stepDown = false;
-    LampPair m_lamps;
+    RunIndicator m_lamps;
     SwatchRow *m_swatches;
     SaveSoon *m_saveSoon;
 };

@@ -161,13 +161,6 @@
     </message>
 </context>
 <context>
-    <name>LampPair</name>
-    <message>
-        <source>运行指示灯</source>
-        <translation>Индикатор работы</translation>
-    </message>
-</context>
-<context>
     <name>MainWindow</name>
     <message>
         <source>窗口</source>
@@ -294,6 +287,13 @@
     </message>
 </context>
 <context>
+    <name>RunIndicator</name>
+    <message>
+        <source>运行指示灯</source>
+        <translation>Индикатор работы</translation>
+    </message>
+</context>
+<context>
     <name>ScrAboutWidget</name>
     <message>
         <source>Tarn：LED显示屏专业解决方案</source>
@@ -349,10 +349,6 @@
     <message>
         <source>开始</source>
         <translation>Старт</translation>
-    </message>
-    <message>
-        <source>运行指示灯</source>
-        <translation>Индикатор работы</translation>
     </message>
     <message>
         <source>横</source>

@@ -1,11 +1,11 @@
-#include "lamppair.h"
+#include "runindicator.h"
 
 #include <QWidget>
 #include <QtTest>
 
 namespace {
 
-// A pair on a panel that is shown or not, as the panels of hidden tabs are not.
+// An indicator on a panel that is shown or not, as the panels of hidden tabs are not.
 struct Lamps
 {
     explicit Lamps(bool panelShown)
@@ -20,85 +20,85 @@ struct Lamps
     QWidget panel;
     QWidget green{&panel};
     QWidget grey{&panel};
-    LampPair pair{&green, &grey};
+    RunIndicator indicator{&green, &grey};
 };
 
 } // namespace
 
-class TestLampPair : public QObject
+class TestRunIndicator : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void newPair_showsGrey_data();
-    void newPair_showsGrey();
+    void newIndicator_showsGrey_data();
+    void newIndicator_showsGrey();
     void setting_showsThatLampAlone_data();
     void setting_showsThatLampAlone();
     void blinking_showsTheOtherLamp_data();
     void blinking_showsTheOtherLamp();
-    void pairOnAShownPanel_isVisible();
+    void indicatorOnAShownPanel_isVisible();
 };
 
-void TestLampPair::newPair_showsGrey_data()
+void TestRunIndicator::newIndicator_showsGrey_data()
 {
     QTest::addColumn<bool>("panelShown");
     QTest::newRow("hidden panel") << false;
     QTest::newRow("shown panel") << true;
 }
 
-void TestLampPair::newPair_showsGrey()
+void TestRunIndicator::newIndicator_showsGrey()
 {
     QFETCH(const bool, panelShown);
     const Lamps lamps(panelShown);
     QVERIFY(lamps.showsGrey());
 }
 
-void TestLampPair::setting_showsThatLampAlone_data()
+void TestRunIndicator::setting_showsThatLampAlone_data()
 {
-    newPair_showsGrey_data();
+    newIndicator_showsGrey_data();
 }
 
-void TestLampPair::setting_showsThatLampAlone()
-{
-    QFETCH(const bool, panelShown);
-    Lamps lamps(panelShown);
-    lamps.pair.showGreen();
-    QVERIFY(lamps.showsGreen());
-    lamps.pair.showGreen();
-    QVERIFY(lamps.showsGreen());
-    lamps.pair.showGrey();
-    QVERIFY(lamps.showsGrey());
-    lamps.pair.showGrey();
-    QVERIFY(lamps.showsGrey());
-}
-
-void TestLampPair::blinking_showsTheOtherLamp_data()
-{
-    newPair_showsGrey_data();
-}
-
-void TestLampPair::blinking_showsTheOtherLamp()
+void TestRunIndicator::setting_showsThatLampAlone()
 {
     QFETCH(const bool, panelShown);
     Lamps lamps(panelShown);
-    lamps.pair.blink();
+    lamps.indicator.showGreen();
     QVERIFY(lamps.showsGreen());
-    lamps.pair.blink();
+    lamps.indicator.showGreen();
+    QVERIFY(lamps.showsGreen());
+    lamps.indicator.showGrey();
     QVERIFY(lamps.showsGrey());
-    lamps.pair.showGreen();
-    lamps.pair.blink();
+    lamps.indicator.showGrey();
     QVERIFY(lamps.showsGrey());
 }
 
-void TestLampPair::pairOnAShownPanel_isVisible()
+void TestRunIndicator::blinking_showsTheOtherLamp_data()
+{
+    newIndicator_showsGrey_data();
+}
+
+void TestRunIndicator::blinking_showsTheOtherLamp()
+{
+    QFETCH(const bool, panelShown);
+    Lamps lamps(panelShown);
+    lamps.indicator.blink();
+    QVERIFY(lamps.showsGreen());
+    lamps.indicator.blink();
+    QVERIFY(lamps.showsGrey());
+    lamps.indicator.showGreen();
+    lamps.indicator.blink();
+    QVERIFY(lamps.showsGrey());
+}
+
+void TestRunIndicator::indicatorOnAShownPanel_isVisible()
 {
     Lamps lamps(true);
     QVERIFY(lamps.grey.isVisible());
     QVERIFY(!lamps.green.isVisible());
-    lamps.pair.blink();
+    lamps.indicator.blink();
     QVERIFY(lamps.green.isVisible());
     QVERIFY(!lamps.grey.isVisible());
 }
 
-QTEST_MAIN(TestLampPair)
-#include "tst_lamppair.moc"
+QTEST_MAIN(TestRunIndicator)
+#include "tst_runindicator.moc"

@@ -2,13 +2,13 @@
 
 class QWidget;
 
-// The two status lamps of an automatic run, green and grey in one place: exactly one
-// of them is shown.
-class LampPair
+// Tells whether an automatic run goes on, by a green and a grey lamp in one place of which
+// exactly one is shown.
+class RunIndicator
 {
 public:
     // The lamps are borrowed; the grey one is shown at first.
-    LampPair(QWidget *green, QWidget *grey);
+    RunIndicator(QWidget *green, QWidget *grey);
 
     void showGreen();
     void showGrey();
