@@ -57,10 +57,7 @@ GradualChangeCtrlWidget::GradualChangeCtrlWidget(QWidget *drawWidget, QSettings 
     , m_settings(settings)
     , m_levelButtons{ui->buttonFirstLevel, ui->buttonSecondLevel, ui->buttonThirdLevel,
                      ui->buttonFirthLevel}
-    , m_swatches(new SwatchRow({ui->radioButtonRed, ui->radioButtonGreen, ui->radioButtonBlue,
-                                ui->radioButtonWhite, ui->radioButtonYellow, ui->radioButtonCyan,
-                                ui->radioButtonPurple},
-                               this))
+    , m_swatches(new SwatchRow(*ui, this))
     , m_saveSoon(new SaveSoon([this] { saveGradualChangeInfo(); }, this))
 {
     for (QPushButton *button : m_levelButtons)

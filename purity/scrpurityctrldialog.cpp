@@ -50,10 +50,7 @@ ScrPurityCtrlDialog::ScrPurityCtrlDialog(QWidget *testWindow, QSettings *setting
     , drawer(testWindow)
     , settings(settings_)
     , m_lamps(ui->signalGreenButton, ui->signalGreyButton)
-    , m_swatches(new SwatchRow({ui->radioButtonRed, ui->radioButtonGreen, ui->radioButtonBlue,
-                                ui->radioButtonWhite, ui->radioButtonYellow, ui->radioButtonCyan,
-                                ui->radioButtonPurple},
-                               this))
+    , m_swatches(new SwatchRow(*ui, this))
     , m_saveSoon(new SaveSoon([this] { saveScrPurityInfo(); }, this))
 {
     initSlots();

@@ -19,6 +19,15 @@ public:
     // The buttons are borrowed; they have to outlive the row.
     SwatchRow(const Buttons &buttons, QObject *parent);
 
+    // Those of a form, by the names that they have in every form.
+    template<typename Form>
+    SwatchRow(const Form &form, QObject *parent)
+        : SwatchRow(Buttons{form.radioButtonRed, form.radioButtonGreen, form.radioButtonBlue,
+                            form.radioButtonWhite, form.radioButtonYellow, form.radioButtonCyan,
+                            form.radioButtonPurple},
+                    parent)
+    { }
+
     // The button of a test colour, null for any other colour.
     QAbstractButton *button(const QColor &color) const;
 
