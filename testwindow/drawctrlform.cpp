@@ -8,14 +8,13 @@
 #include "placekeeper.h"
 #include "savesoon.h"
 #include "settingsrules.h"
-#include "sliderspinboxpair.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
 #include <QScreen>
 #include <QSettings>
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -31,13 +30,6 @@ constexpr QLatin1String hidden = latin1("/setting/testWindowVisible");
 constexpr int defaultSize = 256;
 constexpr int sizeWithoutSettings = 200;
 
-constexpr QLatin1String buttonStyleName = latin1("normalContentPushBtn");
-
-void step(QSlider *slider, int by)
-{
-    slider->setValue(slider->value() + by);
-}
-
 QVector<QRect> screenGeometries()
 {
     QVector<QRect> geometries;
@@ -52,13 +44,17 @@ QVector<QRect> screenGeometries()
 DrawCtrlForm::DrawCtrlForm(QWidget *testWindow_, QSettings *settings_, QWidget *parent)
     : QWidget(parent)
     , ui(makeForm<Ui::DrawCtrlForm>(this))
+    , m_pairs{{{ui->hScrollBarX, ui->spinBoxX},
+               {ui->hScrollBarY, ui->spinBoxY},
+               {ui->hScrollBarWidth, ui->spinBoxWidth},
+               {ui->hScrollBarHeight, ui->spinBoxHeight}}}
     , testWindow(testWindow_)
     , settings(settings_)
     , m_saveSoon(new SaveSoon([this] { saveWindowBaseInfo(); }, this))
     , m_keeper(new PlaceKeeper(testWindow, new ManagerEcho, this))
 {
-    ui->pushButtonShow->setObjectName(buttonStyleName);
-    ui->pushButtonHide->setObjectName(buttonStyleName);
+    for (QPushButton *button : {ui->pushButtonShow, ui->pushButtonHide})
+        button->setObjectName(QStringLiteral("normalContentPushBtn"));
     initSlots();
     initCtrls();
     testWindow->installEventFilter(this);
@@ -72,10 +68,6 @@ DrawCtrlForm::~DrawCtrlForm()
 
 void DrawCtrlForm::initSlots()
 {
-    SliderSpinBoxPair::link(ui->hScrollBarX, ui->spinBoxX);
-    SliderSpinBoxPair::link(ui->hScrollBarY, ui->spinBoxY);
-    SliderSpinBoxPair::link(ui->hScrollBarWidth, ui->spinBoxWidth);
-    SliderSpinBoxPair::link(ui->hScrollBarHeight, ui->spinBoxHeight);
     connect(ui->hScrollBarX, &QSlider::valueChanged, this, &DrawCtrlForm::slot_MoveX);
     connect(ui->hScrollBarY, &QSlider::valueChanged, this, &DrawCtrlForm::slot_MoveY);
     connect(ui->hScrollBarWidth, &QSlider::valueChanged, this, &DrawCtrlForm::slot_resetWidth);
@@ -88,15 +80,8 @@ void DrawCtrlForm::initSlots()
 void DrawCtrlForm::initCtrls()
 {
     getScreenSize();
-    followDesktop();
     ui->pushButtonShow->setEnabled(false);
-    for (QSpinBox *spinBox : {ui->spinBoxX, ui->spinBoxY, ui->spinBoxWidth, ui->spinBoxHeight})
-        SliderSpinBoxPair::prepare(spinBox);
-}
-
-// The desktop widget reports every kind of change in one place, on all of Qt 5.
-void DrawCtrlForm::followDesktop()
-{
+    // The desktop widget reports every kind of change in one place, on all of Qt 5.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     connect(desktop, &QDesktopWidget::screenCountChanged, this,
@@ -127,49 +112,27 @@ void DrawCtrlForm::getScreenSize()
 
 void DrawCtrlForm::setRanges(const QSize &desktopSize)
 {
-    const auto quiet = blockControls();
     const int w = desktopSize.width();
     const int h = desktopSize.height();
-    SliderSpinBoxPair::setRange(ui->hScrollBarX, ui->spinBoxX, 1 - w, w - 1);
-    SliderSpinBoxPair::setRange(ui->hScrollBarY, ui->spinBoxY, 1 - h, h - 1);
-    SliderSpinBoxPair::setRange(ui->hScrollBarWidth, ui->spinBoxWidth, 1, w);
-    SliderSpinBoxPair::setRange(ui->hScrollBarHeight, ui->spinBoxHeight, 1, h);
-}
-
-std::vector<QSignalBlocker> DrawCtrlForm::blockControls()
-{
-    std::vector<QSignalBlocker> blockers;
-    for (QSlider *slider :
-         {ui->hScrollBarX, ui->hScrollBarY, ui->hScrollBarWidth, ui->hScrollBarHeight})
-        blockers.emplace_back(slider);
-    for (QSpinBox *spinBox : {ui->spinBoxX, ui->spinBoxY, ui->spinBoxWidth, ui->spinBoxHeight})
-        blockers.emplace_back(spinBox);
-    return blockers;
+    m_pairs[X].setRange(1 - w, w - 1);
+    m_pairs[Y].setRange(1 - h, h - 1);
+    m_pairs[Width].setRange(1, w);
+    m_pairs[Height].setRange(1, h);
 }
 
 // Shows the rectangle, clipped to the ranges, without any effect on the test window.
 void DrawCtrlForm::setControls(const QRect &rectangle)
 {
-    const auto quiet = blockControls();
-    const auto set = [](QSlider *slider, QSpinBox *spinBox, int value) {
-        slider->setValue(value);
-        spinBox->setValue(value);
-    };
-    set(ui->hScrollBarX, ui->spinBoxX, rectangle.x());
-    set(ui->hScrollBarY, ui->spinBoxY, rectangle.y());
-    set(ui->hScrollBarWidth, ui->spinBoxWidth, rectangle.width());
-    set(ui->hScrollBarHeight, ui->spinBoxHeight, rectangle.height());
+    m_pairs[X].setQuietly(rectangle.x());
+    m_pairs[Y].setQuietly(rectangle.y());
+    m_pairs[Width].setQuietly(rectangle.width());
+    m_pairs[Height].setQuietly(rectangle.height());
 }
 
 QRect DrawCtrlForm::controlsRectangle() const
 {
-    return {ui->hScrollBarX->value(), ui->hScrollBarY->value(), ui->hScrollBarWidth->value(),
-            ui->hScrollBarHeight->value()};
-}
-
-void DrawCtrlForm::slot_dealScreenChange(int /*screen*/)
-{
-    getScreenSize();
+    return {m_pairs[X].value(), m_pairs[Y].value(), m_pairs[Width].value(),
+            m_pairs[Height].value()};
 }
 
 void DrawCtrlForm::initWindowPosition()
@@ -182,11 +145,13 @@ void DrawCtrlForm::initWindowPosition()
     const auto stored = [this](const auto &key) {
         return qBound(-QWIDGETSIZE_MAX, settings->value(key).toInt(), QWIDGETSIZE_MAX);
     };
-    // A stored height is answered with the stored width: a restart gives a square window. Wanted.
+    // Specified: a stored height is answered with the stored width, for a square test window.
     const int width = stored(Key::width) < 1 ? defaultSize : stored(Key::width);
     const int height = stored(Key::height) < 1 ? defaultSize : stored(Key::width);
     restore({stored(Key::x), stored(Key::y), width, height});
-    setTestWindowShown(!settings->value(Key::hidden).toBool());
+    const bool isShown = !settings->value(Key::hidden).toBool();
+    testWindow->setVisible(isShown);
+    showVisibility(isShown);
 }
 
 void DrawCtrlForm::restore(const QRect &rectangle)
@@ -244,12 +209,6 @@ bool DrawCtrlForm::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void DrawCtrlForm::setTestWindowShown(bool shown)
-{
-    testWindow->setVisible(shown);
-    showVisibility(shown);
-}
-
 void DrawCtrlForm::showVisibility(bool shown)
 {
     ui->pushButtonHide->setEnabled(shown);
@@ -269,16 +228,17 @@ void DrawCtrlForm::saveWindowBaseInfo()
 
 void DrawCtrlForm::updateLanguage()
 {
-    ui->label->setText(tr("X"));
-    ui->label_2->setText(tr("Y"));
-    CommonHelper::setQLabelText(ui->labelWidth, tr("宽"));
-    CommonHelper::setQLabelText(ui->labelHeight, tr("高"));
+    const std::pair<QLabel *, QString> captions[] = {{ui->label, tr("X")},
+                                                     {ui->label_2, tr("Y")},
+                                                     {ui->labelWidth, tr("宽")},
+                                                     {ui->labelHeight, tr("高")}};
+    for (int pair = X; pair <= Height; ++pair) {
+        const auto &[label, text] = captions[pair];
+        CommonHelper::setQLabelText(label, text);
+        m_pairs.at(pair).setAccessibleName(text);
+    }
     CommonHelper::setQPushButtonText(ui->pushButtonShow, tr("显示"));
     CommonHelper::setQPushButtonText(ui->pushButtonHide, tr("隐藏"));
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarX, ui->spinBoxX, tr("X"));
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarY, ui->spinBoxY, tr("Y"));
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarWidth, ui->spinBoxWidth, tr("宽"));
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarHeight, ui->spinBoxHeight, tr("高"));
 }
 
 void DrawCtrlForm::slot_showPushed()
@@ -329,47 +289,6 @@ void DrawCtrlForm::slot_resetHeight(unsigned int height)
 {
     const QRect now = m_keeper->place();
     place({now.topLeft(), QSize(now.width(), static_cast<int>(height))});
-}
-
-// The sliders stop at the ends of their ranges, so every key step is one pixel or none.
-void DrawCtrlForm::slot_keyShiftUpPressed()
-{
-    step(ui->hScrollBarHeight, -1);
-}
-
-void DrawCtrlForm::slot_keyShiftDownPressed()
-{
-    step(ui->hScrollBarHeight, 1);
-}
-
-void DrawCtrlForm::slot_keyShiftLeftPressed()
-{
-    step(ui->hScrollBarWidth, -1);
-}
-
-void DrawCtrlForm::slot_keyShiftRightPressed()
-{
-    step(ui->hScrollBarWidth, 1);
-}
-
-void DrawCtrlForm::slot_keyCtrlUpPressed()
-{
-    step(ui->hScrollBarY, -1);
-}
-
-void DrawCtrlForm::slot_keyCtrlDownPressed()
-{
-    step(ui->hScrollBarY, 1);
-}
-
-void DrawCtrlForm::slot_keyCtrlLeftPressed()
-{
-    step(ui->hScrollBarX, -1);
-}
-
-void DrawCtrlForm::slot_keyCtrlRightPressed()
-{
-    step(ui->hScrollBarX, 1);
 }
 
 // A border at the top or the left moves the window too.

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "sliderspinboxpair.h"
+
 #include <QRect>
-#include <QSignalBlocker>
 #include <QVector>
 #include <QWidget>
 
+#include <array>
 #include <memory>
-#include <vector>
 
 class PlaceKeeper;
 class QDesktopWidget;
@@ -39,7 +40,7 @@ signals:
 public slots:
     // Takes the size of the desktop: ranges for the controls, and the signal.
     void getScreenSize();
-    void slot_dealScreenChange(int screen);
+    void slot_dealScreenChange(int /*screen*/) { getScreenSize(); }
     void slot_showPushed();
     void slot_HidePushed();
     void slot_enableShowButton();
@@ -48,14 +49,14 @@ public slots:
     void slot_MoveY(int y);
     void slot_resetWidth(unsigned int width);
     void slot_resetHeight(unsigned int height);
-    void slot_keyShiftUpPressed();
-    void slot_keyShiftDownPressed();
-    void slot_keyShiftLeftPressed();
-    void slot_keyShiftRightPressed();
-    void slot_keyCtrlUpPressed();
-    void slot_keyCtrlDownPressed();
-    void slot_keyCtrlLeftPressed();
-    void slot_keyCtrlRightPressed();
+    void slot_keyShiftUpPressed() { step(Height, -1); }
+    void slot_keyShiftDownPressed() { step(Height, 1); }
+    void slot_keyShiftLeftPressed() { step(Width, -1); }
+    void slot_keyShiftRightPressed() { step(Width, 1); }
+    void slot_keyCtrlUpPressed() { step(Y, -1); }
+    void slot_keyCtrlDownPressed() { step(Y, 1); }
+    void slot_keyCtrlLeftPressed() { step(X, -1); }
+    void slot_keyCtrlRightPressed() { step(X, 1); }
     void slot_drawWidgetSizeChange(int width, int height);
     void slot_drawWidgetPositionChange(int x, int y);
 
@@ -63,22 +64,24 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    enum Pair { X, Y, Width, Height, pairCount };
+
     void initSlots();
     void initCtrls();
     void initWindowPosition();
-    void followDesktop();
     void setRanges(const QSize &desktopSize);
-    std::vector<QSignalBlocker> blockControls();
     void setControls(const QRect &rectangle);
     QRect controlsRectangle() const;
     void restore(const QRect &rectangle);
     QRect adopt(const QRect &rectangle);
     void place(const QRect &rectangle);
     void follow(const QRect &rectangle);
-    void setTestWindowShown(bool shown);
+    // By one pixel, or not at the end of the range.
+    void step(Pair pair, int by) { m_pairs.at(pair).setValue(m_pairs.at(pair).value() + by); }
     void showVisibility(bool shown);
 
     const std::unique_ptr<Ui::DrawCtrlForm> ui;
+    std::array<SliderSpinBoxPair, pairCount> m_pairs;
     QWidget *testWindow;
     QSettings *settings;
     QDesktopWidget *desktop = nullptr;

@@ -5,19 +5,31 @@ class QSpinBox;
 class QString;
 
 // A slider and a spin box that always show the same value.
-namespace SliderSpinBoxPair {
+class SliderSpinBoxPair
+{
+public:
+    // Both are borrowed. Each sets the other from now on.
+    SliderSpinBoxPair(QSlider *slider, QSpinBox *spinBox);
 
-// Each sets the other from now on.
-void link(QSlider *slider, QSpinBox *spinBox);
+    int value() const;
+    void setValue(int value);
+    // Neither tells that its value has changed for this.
+    void setRange(int minimum, int maximum);
+    void setQuietly(int value);
 
-// Gives both the same range.
-void setRange(QSlider *slider, QSpinBox *spinBox, int minimum, int maximum);
+    // What assistive technology reads for the two, since neither has a text of its own.
+    void setAccessibleName(const QString &name);
 
-// What assistive technology reads for the two, since neither has a text of its own.
-void setAccessibleName(QSlider *slider, QSpinBox *spinBox, const QString &name);
+    // The look and manners of every spin box of the program, in a pair or not: no focus ring of
+    // the platform, no context menu.
+    static void prepare(QSpinBox *spinBox);
 
-// The look and manners of every spin box of the panels: no focus ring of the
-// platform, no context menu.
-void prepare(QSpinBox *spinBox);
+    // For a slider and a spin box that are no pair yet.
+    static void link(QSlider *slider, QSpinBox *spinBox) { SliderSpinBoxPair{slider, spinBox}; }
+    static void setRange(QSlider *slider, QSpinBox *spinBox, int minimum, int maximum);
+    static void setAccessibleName(QSlider *slider, QSpinBox *spinBox, const QString &name);
 
-} // namespace SliderSpinBoxPair
+private:
+    QSlider *m_slider;
+    QSpinBox *m_spinBox;
+};

@@ -5,93 +5,96 @@
 #include <QSpinBox>
 #include <QtTest>
 
-#include <memory>
+namespace {
+
+// A pair from 0 to 255, with what the two tell.
+struct Controls
+{
+    QSlider slider{Qt::Horizontal};
+    QSpinBox spinBox;
+    SliderSpinBoxPair pair{&slider, &spinBox};
+    QSignalSpy sliderTold{&slider, &QSlider::valueChanged};
+    QSignalSpy spinBoxTold{&spinBox, qOverload<int>(&QSpinBox::valueChanged)};
+
+    Controls() { pair.setRange(0, 255); }
+
+    // Whether both show it and the pair says so.
+    bool show(int value) const
+    {
+        return slider.value() == value && spinBox.value() == value && pair.value() == value;
+    }
+};
+
+} // namespace
 
 class TestSliderSpinBoxPair : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void slider_setsTheSpinBox();
-    void spinBox_setsTheSlider();
+    void eachSetsTheOther();
     void oneChange_isOneChangeOfEach();
+    void quietValue_isToldByNeither();
     void typedNumber_reachesTheSlider();
-    void unlinkedPair_staysApart();
-
     void range_isSetOnBoth_data();
     void range_isSetOnBoth();
-    void range_limitsTheValueOfBoth();
-
+    void range_limitsTheValueOfBothQuietly();
     void accessibleName_isSetOnBoth();
-    void prepare_takesTheFocusRingAndTheMenuAway();
-
-private:
-    std::unique_ptr<QSlider> m_slider;
-    std::unique_ptr<QSpinBox> m_spinBox;
+    void spinBox_hasNeitherFocusRingNorMenu();
 };
 
-void TestSliderSpinBoxPair::init()
+void TestSliderSpinBoxPair::eachSetsTheOther()
 {
-    m_slider = std::make_unique<QSlider>(Qt::Horizontal);
-    m_spinBox = std::make_unique<QSpinBox>();
-    SliderSpinBoxPair::setRange(m_slider.get(), m_spinBox.get(), 0, 255);
-}
-
-void TestSliderSpinBoxPair::slider_setsTheSpinBox()
-{
-    SliderSpinBoxPair::link(m_slider.get(), m_spinBox.get());
+    Controls controls;
     for (const int value : {1, 255, 0}) {
-        m_slider->setValue(value);
-        QCOMPARE(m_spinBox->value(), value);
+        controls.slider.setValue(value);
+        QVERIFY(controls.show(value));
     }
-}
-
-void TestSliderSpinBoxPair::spinBox_setsTheSlider()
-{
-    SliderSpinBoxPair::link(m_slider.get(), m_spinBox.get());
     for (const int value : {1, 255, 0}) {
-        m_spinBox->setValue(value);
-        QCOMPARE(m_slider->value(), value);
+        controls.spinBox.setValue(value);
+        QVERIFY(controls.show(value));
     }
 }
 
 void TestSliderSpinBoxPair::oneChange_isOneChangeOfEach()
 {
-    SliderSpinBoxPair::link(m_slider.get(), m_spinBox.get());
-    QSignalSpy slider(m_slider.get(), &QSlider::valueChanged);
-    QSignalSpy spinBox(m_spinBox.get(), qOverload<int>(&QSpinBox::valueChanged));
-    m_slider->setValue(10);
-    QCOMPARE(slider.count(), 1);
-    QCOMPARE(spinBox.count(), 1);
-    m_spinBox->setValue(20);
-    QCOMPARE(slider.count(), 2);
-    QCOMPARE(spinBox.count(), 2);
-    m_spinBox->setValue(20);
-    QCOMPARE(slider.count(), 2);
-    QCOMPARE(spinBox.count(), 2);
+    Controls controls;
+    controls.slider.setValue(10);
+    QCOMPARE(controls.sliderTold.count(), 1);
+    QCOMPARE(controls.spinBoxTold.count(), 1);
+    controls.spinBox.setValue(20);
+    controls.spinBox.setValue(20);
+    QCOMPARE(controls.sliderTold.count(), 2);
+    QCOMPARE(controls.spinBoxTold.count(), 2);
+    controls.pair.setValue(30);
+    QVERIFY(controls.show(30));
+    QCOMPARE(controls.sliderTold.count(), 3);
+    QCOMPARE(controls.spinBoxTold.count(), 3);
+}
+
+void TestSliderSpinBoxPair::quietValue_isToldByNeither()
+{
+    Controls controls;
+    controls.pair.setQuietly(77);
+    QVERIFY(controls.show(77));
+    QVERIFY(controls.sliderTold.isEmpty());
+    QVERIFY(controls.spinBoxTold.isEmpty());
+    controls.slider.setValue(78); // aloud again
+    QVERIFY(controls.show(78));
 }
 
 void TestSliderSpinBoxPair::typedNumber_reachesTheSlider()
 {
-    SliderSpinBoxPair::link(m_slider.get(), m_spinBox.get());
-    m_spinBox->selectAll();
-    QTest::keyClicks(m_spinBox.get(), QStringLiteral("123"));
-    QCOMPARE(m_spinBox->value(), 123);
-    QCOMPARE(m_slider->value(), 123);
-}
-
-void TestSliderSpinBoxPair::unlinkedPair_staysApart()
-{
-    m_slider->setValue(9);
-    QCOMPARE(m_spinBox->value(), 0);
+    Controls controls;
+    controls.spinBox.selectAll();
+    QTest::keyClicks(&controls.spinBox, QStringLiteral("123"));
+    QVERIFY(controls.show(123));
 }
 
 void TestSliderSpinBoxPair::range_isSetOnBoth_data()
 {
     QTest::addColumn<int>("minimum");
     QTest::addColumn<int>("maximum");
-    QTest::newRow("grey levels") << 0 << 255;
     QTest::newRow("speeds") << 1 << 100;
     QTest::newRow("negative") << -20 << -3;
     QTest::newRow("one value") << 5 << 5;
@@ -101,39 +104,43 @@ void TestSliderSpinBoxPair::range_isSetOnBoth()
 {
     QFETCH(const int, minimum);
     QFETCH(const int, maximum);
-    SliderSpinBoxPair::setRange(m_slider.get(), m_spinBox.get(), minimum, maximum);
-
-    QCOMPARE(m_slider->minimum(), minimum);
-    QCOMPARE(m_slider->maximum(), maximum);
-    QCOMPARE(m_spinBox->minimum(), minimum);
-    QCOMPARE(m_spinBox->maximum(), maximum);
+    Controls controls;
+    controls.pair.setRange(minimum, maximum);
+    QCOMPARE(controls.slider.minimum(), minimum);
+    QCOMPARE(controls.slider.maximum(), maximum);
+    QCOMPARE(controls.spinBox.minimum(), minimum);
+    QCOMPARE(controls.spinBox.maximum(), maximum);
 }
 
-void TestSliderSpinBoxPair::range_limitsTheValueOfBoth()
+void TestSliderSpinBoxPair::range_limitsTheValueOfBothQuietly()
 {
-    SliderSpinBoxPair::link(m_slider.get(), m_spinBox.get());
-    m_slider->setValue(200);
-    SliderSpinBoxPair::setRange(m_slider.get(), m_spinBox.get(), 1, 100);
-    QCOMPARE(m_slider->value(), 100);
-    QCOMPARE(m_spinBox->value(), 100);
+    Controls controls;
+    controls.pair.setQuietly(200);
+    controls.pair.setRange(1, 100);
+    QVERIFY(controls.show(100));
+    QVERIFY(controls.sliderTold.isEmpty());
+    QVERIFY(controls.spinBoxTold.isEmpty());
 }
 
 void TestSliderSpinBoxPair::accessibleName_isSetOnBoth()
 {
+    Controls controls;
     const QString name = QStringLiteral("速度");
-    SliderSpinBoxPair::setAccessibleName(m_slider.get(), m_spinBox.get(), name);
-    QCOMPARE(m_slider->accessibleName(), name);
-    QCOMPARE(m_spinBox->accessibleName(), name);
+    controls.pair.setAccessibleName(name);
+    QCOMPARE(controls.slider.accessibleName(), name);
+    QCOMPARE(controls.spinBox.accessibleName(), name);
 }
 
-void TestSliderSpinBoxPair::prepare_takesTheFocusRingAndTheMenuAway()
+void TestSliderSpinBoxPair::spinBox_hasNeitherFocusRingNorMenu()
 {
-    m_spinBox->setAttribute(Qt::WA_MacShowFocusRect, true);
-    QCOMPARE(m_spinBox->contextMenuPolicy(), Qt::DefaultContextMenu);
-    SliderSpinBoxPair::prepare(m_spinBox.get());
-
-    QCOMPARE(m_spinBox->contextMenuPolicy(), Qt::NoContextMenu);
-    QVERIFY(!m_spinBox->testAttribute(Qt::WA_MacShowFocusRect));
+    QSpinBox spinBox;
+    spinBox.setAttribute(Qt::WA_MacShowFocusRect);
+    QCOMPARE(spinBox.contextMenuPolicy(), Qt::DefaultContextMenu);
+    SliderSpinBoxPair::prepare(&spinBox);
+    QCOMPARE(spinBox.contextMenuPolicy(), Qt::NoContextMenu);
+    QVERIFY(!spinBox.testAttribute(Qt::WA_MacShowFocusRect));
+    const Controls controls;
+    QCOMPARE(controls.spinBox.contextMenuPolicy(), Qt::NoContextMenu);
 }
 
 QTEST_MAIN(TestSliderSpinBoxPair)
