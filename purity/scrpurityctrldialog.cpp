@@ -8,7 +8,6 @@
 #include "latin1.h"
 #include "savesoon.h"
 #include "settingsrules.h"
-#include "sliderspinboxpair.h"
 #include "swatchrow.h"
 #include "testcolor.h"
 
@@ -49,6 +48,8 @@ ScrPurityCtrlDialog::ScrPurityCtrlDialog(QWidget *testWindow, QSettings *setting
     , ui(makeForm<Ui::ScrPurityCtrlDialog>(this))
     , drawer(testWindow)
     , settings(settings_)
+    , m_grey(ui->hScrollBarScale, ui->spinBoxScale)
+    , m_speed(ui->hScrollBarSpeed, ui->spinBoxSpeed)
     , m_lamps(ui->signalGreenButton, ui->signalGreyButton)
     , m_swatches(new SwatchRow(*ui, this))
     , m_saveSoon(new SaveSoon([this] { saveScrPurityInfo(); }, this))
@@ -75,7 +76,6 @@ void ScrPurityCtrlDialog::initSlots()
 
     connect(ui->spinBoxScale, valueChanged, &drawer, &ScrPurity::slot_AlphaChanged);
     connect(ui->spinBoxAutoScale, valueChanged, &drawer, &ScrPurity::slot_AlphaChanged);
-    SliderSpinBoxPair::link(ui->hScrollBarScale, ui->spinBoxScale);
     connect(this, &Panel::signal_switchToMal, &drawer, &ScrPurity::slot_AlphaChanged);
     connect(&drawer, &ScrPurity::signal_puritySelect, this, &Panel::slot_puritySelect);
 
@@ -83,7 +83,6 @@ void ScrPurityCtrlDialog::initSlots()
     connect(ui->radioButtonAuto, &QRadioButton::toggled, this, &Panel::slot_AutoPushed);
     connect(ui->buttonPauseResume, &QPushButton::clicked, this, &Panel::slot_PauseResume);
 
-    SliderSpinBoxPair::link(ui->hScrollBarSpeed, ui->spinBoxSpeed);
     connect(ui->spinBoxSpeed, valueChanged, this, &Panel::slot_SpeedChanged);
 
     for (QSpinBox *spinBox : {ui->spinBoxScale, ui->spinBoxSpeed, ui->spinBoxAutoScale})
@@ -95,13 +94,12 @@ void ScrPurityCtrlDialog::initCtrls()
 {
     const auto hold = m_saveSoon->hold();
     ui->buttonPauseResume->setObjectName(QStringLiteral("beginPushBtn"));
-    SliderSpinBoxPair::setRange(ui->hScrollBarSpeed, ui->spinBoxSpeed, minimumSpeed, maximumSpeed);
-    SliderSpinBoxPair::setRange(ui->hScrollBarScale, ui->spinBoxScale, 0, maximumGrey);
+    m_speed.setRange(minimumSpeed, maximumSpeed);
+    m_grey.setRange(0, maximumGrey);
     ui->spinBoxAutoScale->setRange(0, maximumGrey);
-    for (QSpinBox *spinBox : {ui->spinBoxScale, ui->spinBoxSpeed, ui->spinBoxAutoScale}) {
-        SliderSpinBoxPair::prepare(spinBox);
+    SliderSpinBoxPair::prepare(ui->spinBoxAutoScale);
+    for (QSpinBox *spinBox : {ui->spinBoxScale, ui->spinBoxSpeed, ui->spinBoxAutoScale})
         spinBox->setFixedHeight(spinBoxHeight);
-    }
     auto *modes = new QButtonGroup(this);
     modes->addButton(ui->radioButtonAuto);
     modes->addButton(ui->radioButtonMual);
@@ -128,8 +126,8 @@ void ScrPurityCtrlDialog::initPurityStatus()
 void ScrPurityCtrlDialog::restoreControls()
 {
     using SettingsRules::positiveInt;
-    ui->hScrollBarScale->setValue(positiveInt(*settings, manualGreyKey, maximumGrey));
-    ui->hScrollBarSpeed->setValue(positiveInt(*settings, speedKey, defaultSpeed));
+    m_grey.setValue(positiveInt(*settings, manualGreyKey, maximumGrey));
+    m_speed.setValue(positiveInt(*settings, speedKey, defaultSpeed));
     ui->spinBoxAutoScale->setValue(positiveInt(*settings, autoGreyKey, maximumGrey));
     const QSignalBlocker quietAuto(ui->radioButtonAuto);
     const QSignalBlocker quietManual(ui->radioButtonMual);
@@ -165,8 +163,8 @@ void ScrPurityCtrlDialog::updateLanguage()
     CommonHelper::setQLabelText(ui->label_3, tr("灰度"));
     CommonHelper::setQLabelText(ui->label_4, tr("速度"));
     CommonHelper::setQPushButtonText(ui->buttonPauseResume, autoTimer ? tr("暂停") : tr("开始"));
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarScale, ui->spinBoxScale, tr("灰度"));
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarSpeed, ui->spinBoxSpeed, tr("速度"));
+    m_grey.setAccessibleName(tr("灰度"));
+    m_speed.setAccessibleName(tr("速度"));
     ui->spinBoxAutoScale->setAccessibleName(tr("当前灰度"));
 }
 

@@ -3,6 +3,7 @@
 #include "controlbase.h"
 #include "runindicator.h"
 #include "scrpurity.h"
+#include "sliderspinboxpair.h"
 
 #include <QWidget>
 
@@ -91,6 +92,8 @@ private:
     bool autoRunning = false;
     bool stepUp = false;
     bool stepDown = false;
+    SliderSpinBoxPair m_grey;
+    SliderSpinBoxPair m_speed;
     RunIndicator m_lamps;
     SwatchRow *m_swatches;
     SaveSoon *m_saveSoon;
