@@ -12,8 +12,6 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-#include <utility>
-
 namespace {
 
 using Item = AdvancedValue::Item;
@@ -31,32 +29,22 @@ constexpr int controlHeight = 22;
 constexpr const char *shapes[] = {QT_TRANSLATE_NOOP("AdvancedSetup", "常规"),
                                   QT_TRANSLATE_NOOP("AdvancedSetup", "加粗"),
                                   QT_TRANSLATE_NOOP("AdvancedSetup", "斜体")};
-constexpr int shapeCount = 3;
 
-constexpr const char *boxNames[] = {"boxFontSize", "boxBeginRow", "boxBeginColumn", "boxModeWidth",
-                                    "boxScanWidth"};
-
-// Two pairs of a caption and a control in each row.
-QGridLayout *createGrid()
+// In the order of the items.
+struct Control
 {
-    auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(0);
-    grid->setVerticalSpacing(rowSpacing);
-    grid->setColumnMinimumWidth(2, pairSpacing);
-    grid->setColumnStretch(4, 1);
-    return grid;
-}
+    const char *name;
+    const char *caption;
+};
 
-void addPair(QGridLayout *grid, int row, int pair, QLabel *caption, QWidget *control)
-{
-    caption->setFixedWidth(captionWidth);
-    caption->setBuddy(control);
-    control->setFixedHeight(controlHeight);
-    if (pair == 0)
-        control->setFixedWidth(controlWidth);
-    grid->addWidget(caption, row, 3 * pair);
-    grid->addWidget(control, row, 3 * pair + 1);
-}
+constexpr Control controls[] = {
+    {"boxFontSize", QT_TRANSLATE_NOOP("AdvancedSetup", "大小")},
+    {"boxBeginRow", QT_TRANSLATE_NOOP("AdvancedSetup", "行起始数")},
+    {"boxBeginColumn", QT_TRANSLATE_NOOP("AdvancedSetup", "列起始数")},
+    {"boxModeWidth", QT_TRANSLATE_NOOP("AdvancedSetup", "模块线宽")},
+    {"boxScanWidth", QT_TRANSLATE_NOOP("AdvancedSetup", "扫描版线宽")},
+    {"comboFontShape", QT_TRANSLATE_NOOP("AdvancedSetup", "字形")},
+};
 
 } // namespace
 
@@ -65,7 +53,10 @@ AdvancedSetup::AdvancedSetup(QSettings *settings, ScrGrid *drawer, QWidget *pare
     , m_settings(settings)
     , m_drawer(drawer)
 {
-    initFrame();
+    m_titleBar->setStyleSheet(QStringLiteral("background-color:rgb(48,50,56)"));
+    setWindowModality(Qt::WindowModal);
+    setCancelButtonVisible(false);
+    m_okButton->setAutoDefault(false);
     initLayout();
     dataInit();
     ControlInit();
@@ -73,60 +64,48 @@ AdvancedSetup::AdvancedSetup(QSettings *settings, ScrGrid *drawer, QWidget *pare
     uiInit();
 }
 
-AdvancedSetup::~AdvancedSetup() = default;
-
-void AdvancedSetup::initFrame()
-{
-    m_titleBar->setStyleSheet(QStringLiteral("background-color:rgb(48,50,56)"));
-    setWindowModality(Qt::WindowModal);
-    setCancelButtonVisible(false);
-    m_okButton->setAutoDefault(false);
-}
-
 void AdvancedSetup::initLayout()
 {
-    m_fontHeader = new QLabel;
-    m_fontHeader->setMaximumWidth(headerWidth);
-    for (QLabel *&caption : m_captions)
-        caption = new QLabel;
-    for (int item = 0; item < boxCount; ++item) {
-        auto *box = new QSpinBox;
-        box->setObjectName(QLatin1String(boxNames[item]));
+    for (QSpinBox *&box : m_boxes) {
+        box = new QSpinBox;
         SliderSpinBoxPair::prepare(box);
-        m_boxes.at(item) = box;
     }
-    m_shapeCombo = new QComboBox;
-    m_shapeCombo->setObjectName(QStringLiteral("comboFontShape"));
-
+    m_fontHeader->setMaximumWidth(headerWidth);
     auto *column = new QVBoxLayout;
     column->setContentsMargins(contentMargin, contentMargin, contentMargin, contentMargin);
     column->setSpacing(rowSpacing);
     column->addWidget(m_fontHeader);
-    column->addLayout(layOutFont());
+    column->addLayout(layOut({Item::FontSize, Item::FontShape}));
     column->addWidget(createSeparator());
-    column->addLayout(layOutNumbersAndLines());
+    column->addLayout(
+        layOut({Item::BeginRow, Item::BeginColumn, Item::ModuleLine, Item::ScanLine}));
     column->addWidget(createSeparator("ContentSplitLabel"));
     setLayout(column);
 }
 
-QLayout *AdvancedSetup::layOutFont()
+// Two pairs of a caption and a control in each row.
+QLayout *AdvancedSetup::layOut(const QVector<AdvancedValue::Item> &items)
 {
-    QGridLayout *grid = createGrid();
-    addPair(grid, 0, 0, m_captions.at(Item::FontSize), m_boxes.at(Item::FontSize));
-    addPair(grid, 0, 1, m_captions.at(Item::FontShape), m_shapeCombo);
-    return grid;
-}
-
-QLayout *AdvancedSetup::layOutNumbersAndLines()
-{
-    QGridLayout *grid = createGrid();
-    const Item places[2][2] = {{Item::BeginRow, Item::BeginColumn},
-                               {Item::ModuleLineWidth, Item::ScanLineWidth}};
-    for (int row = 0; row < 2; ++row) {
-        for (int pair = 0; pair < 2; ++pair) {
-            const Item item = places[row][pair];
-            addPair(grid, row, pair, m_captions.at(item), m_boxes.at(item));
-        }
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(0);
+    grid->setVerticalSpacing(rowSpacing);
+    grid->setColumnMinimumWidth(2, pairSpacing);
+    grid->setColumnStretch(4, 1);
+    for (int place = 0; place < items.size(); ++place) {
+        const Item item = items.at(place);
+        QWidget *control = m_shapeCombo;
+        if (item != Item::FontShape)
+            control = m_boxes.at(item);
+        control->setObjectName(QLatin1String(controls[item].name));
+        control->setFixedHeight(controlHeight);
+        const bool isFirst = place % 2 == 0;
+        if (isFirst)
+            control->setFixedWidth(controlWidth);
+        auto *caption = m_captions.at(item) = new QLabel;
+        caption->setFixedWidth(captionWidth);
+        caption->setBuddy(control);
+        grid->addWidget(caption, place / 2, isFirst ? 0 : 3);
+        grid->addWidget(control, place / 2, isFirst ? 1 : 4);
     }
     return grid;
 }
@@ -139,26 +118,27 @@ void AdvancedSetup::dataInit()
             m_settings ? value.stored(*m_settings).value_or(value.initial) : value.initial;
     }
     int &shape = m_values.at(Item::FontShape);
-    if (shape < 0 || shape >= shapeCount)
+    if (shape < 0 || shape >= int(std::size(shapes)))
         shape = 0;
 }
 
-// What is stored shows on the test window again. The drawer takes it as it is, the boxes within
-// their limits; wanted.
+// What is stored shows on the test window again. Specified: the drawer takes it as it is, the
+// boxes within their limits.
 void AdvancedSetup::ControlInit()
 {
     if (!m_drawer)
         return;
-    for (int item = 0; item < boxCount; ++item) {
+    for (int item = 0; item < AdvancedValue::itemCount; ++item) {
         const AdvancedValue &value = advancedValues.at(item);
-        m_boxes.at(item)->setRange(value.minimum, value.maximum);
-        m_boxes.at(item)->setValue(m_values.at(item));
+        if (item < boxCount) {
+            m_boxes.at(item)->setRange(value.minimum, value.maximum);
+            m_boxes.at(item)->setValue(m_values.at(item));
+        }
+        m_drawer->*value.field = m_values.at(item);
     }
-    for (int shape = 0; shape < shapeCount; ++shape)
-        m_shapeCombo->addItem(QString());
+    for (const char *shape : shapes)
+        m_shapeCombo->addItem(tr(shape));
     m_shapeCombo->setCurrentIndex(m_values.at(Item::FontShape));
-    for (int item = 0; item < AdvancedValue::itemCount; ++item)
-        m_drawer->*advancedValues.at(item).field = m_values.at(item);
     m_drawer->active = true;
     m_drawer->update();
 }
@@ -185,16 +165,9 @@ void AdvancedSetup::updateLanguage()
 {
     setWindowTitle(tr("高级设置"));
     m_fontHeader->setText(tr("字体"));
-    const std::pair<Item, QString> captions[] = {
-        {Item::FontSize, tr("大小")},
-        {Item::FontShape, tr("字形")},
-        {Item::BeginRow, tr("行起始数")},
-        {Item::BeginColumn, tr("列起始数")},
-        {Item::ModuleLineWidth, tr("模块线宽")},
-        {Item::ScanLineWidth, tr("扫描版线宽")},
-    };
-    for (const auto &[item, text] : captions) {
+    for (int item = 0; item < AdvancedValue::itemCount; ++item) {
         QLabel *caption = m_captions.at(item);
+        const QString text = tr(controls[item].caption);
         CommonHelper::setQLabelText(caption, text);
         caption->buddy()->setAccessibleName(text);
     }
@@ -211,39 +184,4 @@ void AdvancedSetup::change(AdvancedValue::Item item, int value)
     m_drawer->*advancedValues.at(item).field = value;
     m_drawer->active = true;
     m_drawer->update();
-}
-
-void AdvancedSetup::slot_closeWindow()
-{
-    close();
-}
-
-void AdvancedSetup::slot_boxFontSizeValueChanged(int size)
-{
-    change(Item::FontSize, size);
-}
-
-void AdvancedSetup::slot_boxBeginRowValueChanged(int row)
-{
-    change(Item::BeginRow, row);
-}
-
-void AdvancedSetup::slot_boxBeginColumnValueChanged(int column)
-{
-    change(Item::BeginColumn, column);
-}
-
-void AdvancedSetup::slot_boxModeWidthValueChanged(int width)
-{
-    change(Item::ModuleLineWidth, width);
-}
-
-void AdvancedSetup::slot_boxScanWidthValueChanged(int width)
-{
-    change(Item::ScanLineWidth, width);
-}
-
-void AdvancedSetup::slot_comboFontShapeCurrentIndexChanged(int shape)
-{
-    change(Item::FontShape, shape);
 }

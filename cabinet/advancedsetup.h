@@ -3,10 +3,12 @@
 #include "advancedvalue.h"
 #include "settingsdialog.h"
 
+#include <QComboBox>
+#include <QLabel>
+#include <QVector>
+
 #include <array>
 
-class QComboBox;
-class QLabel;
 class QLayout;
 class QSettings;
 class QSpinBox;
@@ -21,36 +23,33 @@ public:
     // Both are borrowed. Without settings nothing is stored; without a drawer the dialog has
     // nothing to show and changes nothing.
     AdvancedSetup(QSettings *settings, ScrGrid *drawer, QWidget *parent);
-    ~AdvancedSetup() override;
 
     void updateLanguage();
 
 public slots:
-    void slot_closeWindow();
-    void slot_boxFontSizeValueChanged(int size);
-    void slot_boxBeginRowValueChanged(int row);
-    void slot_boxBeginColumnValueChanged(int column);
-    void slot_boxModeWidthValueChanged(int width);
-    void slot_boxScanWidthValueChanged(int width);
-    void slot_comboFontShapeCurrentIndexChanged(int shape);
+    void slot_closeWindow() { close(); }
+    void slot_boxFontSizeValueChanged(int size) { change(AdvancedValue::FontSize, size); }
+    void slot_boxBeginRowValueChanged(int row) { change(AdvancedValue::BeginRow, row); }
+    void slot_boxBeginColumnValueChanged(int col) { change(AdvancedValue::BeginColumn, col); }
+    void slot_boxModeWidthValueChanged(int width) { change(AdvancedValue::ModuleLine, width); }
+    void slot_boxScanWidthValueChanged(int width) { change(AdvancedValue::ScanLine, width); }
+    void slot_comboFontShapeCurrentIndexChanged(int i) { change(AdvancedValue::FontShape, i); }
 
 private:
     static constexpr int boxCount = AdvancedValue::FontShape; // all but the last have a spin box
 
-    void initFrame();
     void initLayout();
     void dataInit();
     void ControlInit();
     void uiInit();
-    QLayout *layOutFont();
-    QLayout *layOutNumbersAndLines();
+    QLayout *layOut(const QVector<AdvancedValue::Item> &items);
     void change(AdvancedValue::Item item, int value);
 
     QSettings *m_settings;
     ScrGrid *m_drawer;
     std::array<int, AdvancedValue::itemCount> m_values{}; // as stored, or the defaults
     std::array<QSpinBox *, boxCount> m_boxes{};
-    QComboBox *m_shapeCombo = nullptr;
-    QLabel *m_fontHeader = nullptr;
+    QComboBox *m_shapeCombo = new QComboBox;
+    QLabel *m_fontHeader = new QLabel;
     std::array<QLabel *, AdvancedValue::itemCount> m_captions{};
 };

@@ -3,24 +3,16 @@
 #include "cabinetkeys.h"
 #include "scrgrid.h"
 
+#include <QSettings>
+
 #include <array>
 #include <optional>
-
-class QSettings;
 
 // One of the cabinet layout's advanced values: where it is kept, its limits, and the drawer's
 // field that it goes to.
 struct AdvancedValue
 {
-    enum Item {
-        FontSize,
-        BeginRow,
-        BeginColumn,
-        ModuleLineWidth,
-        ScanLineWidth,
-        FontShape,
-        itemCount
-    };
+    enum Item { FontSize, BeginRow, BeginColumn, ModuleLine, ScanLine, FontShape, itemCount };
 
     QLatin1String key;
     int minimum;
@@ -30,7 +22,11 @@ struct AdvancedValue
 
     // What is stored, within the limits or not; 0 for a text that is no int, nothing for an
     // empty one.
-    std::optional<int> stored(const QSettings &settings) const;
+    std::optional<int> stored(const QSettings &settings) const
+    {
+        const QString text = settings.value(key).toString();
+        return text.isEmpty() ? std::nullopt : std::optional(text.toInt());
+    }
 };
 
 constexpr std::array<AdvancedValue, AdvancedValue::itemCount> advancedValues = {{

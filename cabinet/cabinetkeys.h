@@ -9,8 +9,7 @@ constexpr QLatin1String boxHeight = latin1("/setting/tarnBoxHeight");
 constexpr QLatin1String boxWidth = latin1("/setting/tarnBoxWidth");
 constexpr QLatin1String columnCount = latin1("/setting/tarnModelColumnCount");
 constexpr QLatin1String rowCount = latin1("/setting/tarnModelRowCount");
-constexpr QLatin1String rightToLeft =
-    latin1("/setting/tarnLeftToRight"); // true means right to left
+constexpr QLatin1String rightToLeft = latin1("/setting/tarnLeftToRight"); // true: right to left
 constexpr QLatin1String solidBackground = latin1("/setting/tarnBackgroundSelect");
 
 // Each colour is kept twice, as itself and as the style of its swatch.

@@ -33,17 +33,6 @@ int length(int moduleLength, int modules)
     return int(qBound(qint64(0), qint64(moduleLength) * modules, longestSide));
 }
 
-qint64 cellCount(int windowLength, int cellLength)
-{
-    return cellLength > 0 && windowLength >= 0 ? windowLength / cellLength + 1 : 0;
-}
-
-// At least two digits.
-QString numberText(qint64 number)
-{
-    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
-}
-
 void drawNumber(QPainter &painter, const CabinetLayout &layout, qint64 row, qint64 column)
 {
     painter.drawText(layout.cell(row, column), Qt::AlignCenter,
@@ -169,14 +158,9 @@ QPen CabinetLayout::linePen(QPen linePen, Layer layer) const
     return linePen;
 }
 
-qint64 CabinetLayout::rowCount() const
+qint64 CabinetLayout::cellCount(int windowLength, int cellLength)
 {
-    return cellCount(size.height(), cellSize().height());
-}
-
-qint64 CabinetLayout::columnCount() const
-{
-    return cellCount(size.width(), cellSize().width());
+    return cellLength > 0 && windowLength >= 0 ? windowLength / cellLength + 1 : 0;
 }
 
 // Specified: from right to left the last column may lie beyond the left edge, and from left to
@@ -189,14 +173,10 @@ QRect CabinetLayout::cell(qint64 row, qint64 column) const
     return {QPoint(int(left), int(row * cell.height())), cell};
 }
 
-QString CabinetLayout::rowText(qint64 row) const
+// At least two digits.
+QString CabinetLayout::numberText(qint64 number)
 {
-    return numberText(m_beginRow + row);
-}
-
-QString CabinetLayout::columnText(qint64 column) const
-{
-    return numberText(m_beginColumn + column);
+    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
 }
 
 QPen CabinetLayout::numberPen(const QPainter &painter) const
@@ -212,13 +192,9 @@ QFont CabinetLayout::numberFont(const QPainter &painter) const
     QFont numberFont = painter.font();
     if (m_fontSize > 0)
         numberFont.setPointSize(qMin(m_fontSize, largestFont));
-    if (m_fontShape == 0 || m_fontShape == 1)
-        numberFont.setStyle(QFont::StyleNormal);
-    if (m_fontShape == 2)
-        numberFont.setStyle(QFont::StyleItalic);
-    if (m_fontShape == 0 || m_fontShape == 2)
-        numberFont.setWeight(QFont::Normal);
-    if (m_fontShape == 1)
-        numberFont.setWeight(QFont::Bold);
+    if (m_fontShape >= 0 && m_fontShape <= 2) {
+        numberFont.setWeight(m_fontShape == 1 ? QFont::Bold : QFont::Normal);
+        numberFont.setStyle(m_fontShape == 2 ? QFont::StyleItalic : QFont::StyleNormal);
+    }
     return numberFont;
 }

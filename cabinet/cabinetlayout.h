@@ -89,10 +89,10 @@ struct CabinetLayout : LayoutParameters
 
     // The scan boards that have numbers.
     QRect cell(qint64 row, qint64 column) const;
-    qint64 rowCount() const;
-    qint64 columnCount() const;
-    QString rowText(qint64 row) const;
-    QString columnText(qint64 column) const;
+    qint64 rowCount() const { return cellCount(size.height(), cellSize().height()); }
+    qint64 columnCount() const { return cellCount(size.width(), cellSize().width()); }
+    QString rowText(qint64 row) const { return numberText(m_beginRow + row); }
+    QString columnText(qint64 column) const { return numberText(m_beginColumn + column); }
     // For the numbers, on what the painter paints on.
     QPen numberPen(const QPainter &painter) const;
     QFont numberFont(const QPainter &painter) const;
@@ -101,6 +101,8 @@ struct CabinetLayout : LayoutParameters
     bool operator!=(const CabinetLayout &other) const { return !(*this == other); }
 
 private:
+    static qint64 cellCount(int windowLength, int cellLength);
+    static QString numberText(qint64 number);
     QSize moduleSize() const;
     QSize cellSize() const;
     bool isOn(Layer layer) const;

@@ -4,7 +4,7 @@
 
 #include <QGlyphRun>
 #include <QPointF>
-#include <QRawFont>
+#include <QStringList>
 #include <QVector>
 
 #include <array>
@@ -31,21 +31,17 @@ private:
         qreal overhang = 0; // beyond the advance, which counts at the end of a text
     };
 
-    using Digits = QVector<quint8>;
-
     bool measureDigits(const QFont &font, QPaintDevice *device);
-    static Digits digits(const QString &text);
-    qreal advance(const Digits &digits) const;
-    void add(const Digits &digits, QPointF &place);
+    const Digit &digit(QChar digit) const { return m_digits[size_t(digit.digitValue())]; }
+    qreal advance(const QString &text) const;
+    void add(const QString &text, QPointF &place);
     void drawCollected(QPainter &painter);
 
-    QFont m_font;
     QPen m_pen;
-    QRawFont m_rawFont;
     std::array<Digit, 10> m_digits;
     qreal m_height = 0; // of a text
     qreal m_baseline = 0; // from a text's top
-    QVector<Digits> m_columns;
+    QStringList m_columns;
     QGlyphRun m_run;
     QVector<quint32> m_glyphs; // collected, to be drawn at once
     QVector<QPointF> m_places;

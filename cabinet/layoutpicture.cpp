@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <utility>
+
 using Layer = CabinetLayout::Layer;
 
 namespace {
@@ -13,37 +15,21 @@ constexpr int widestFilledLine = 255;
 
 } // namespace
 
-LayoutPicture::LayoutPicture()
-    : PictureInParts(CabinetLayout::LayerCount)
-{ }
-
 void LayoutPicture::show(QPainter &painter, const CabinetLayout &layout)
 {
     if (layout.size.isEmpty())
         return;
-    const bool isAnother = layout != m_layout;
-    if (isAnother)
-        m_layout = layout;
+    const bool isAnother = std::exchange(m_layout, layout) != layout;
     if (showPart(painter, layout.size, isAnother))
         return;
     layout.drawBackground(painter);
     layout.draw(painter);
 }
 
-void LayoutPicture::preparePainter(QPainter &painter) const
-{
-    m_layout.preparePainter(painter);
-}
-
 void LayoutPicture::drawBackground(QPainter &painter)
 {
     m_layout.drawBackground(painter);
     m_numbersReady = isWhole(scale()) && m_numbers.prepare(m_layout, painter);
-}
-
-qint64 LayoutPicture::strokeCount(int layer) const
-{
-    return m_layout.strokeCount(Layer(layer));
 }
 
 qint64 LayoutPicture::drawStrokes(QPainter &painter, int layer, qint64 from)

@@ -7,18 +7,23 @@
 
 #include <array>
 
-// The picture of a layout, which begins anew when the layout is another one.
+// The picture of a layout, which is painted again when the layout is another one.
 class LayoutPicture : public PictureInParts
 {
 public:
-    LayoutPicture();
+    LayoutPicture()
+        : PictureInParts(CabinetLayout::LayerCount)
+    { }
 
     void show(QPainter &painter, const CabinetLayout &layout);
 
 protected:
-    void preparePainter(QPainter &painter) const override;
+    void preparePainter(QPainter &painter) const override { m_layout.preparePainter(painter); }
     void drawBackground(QPainter &painter) override;
-    qint64 strokeCount(int layer) const override;
+    qint64 strokeCount(int layer) const override
+    {
+        return m_layout.strokeCount(CabinetLayout::Layer(layer));
+    }
     qint64 drawStrokes(QPainter &painter, int layer, qint64 from) override;
 
 private:

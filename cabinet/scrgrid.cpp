@@ -78,8 +78,3 @@ CabinetLayout ScrGrid::layout() const
 {
     return {*this, targetWidget->size(), targetWidget->font(), targetWidget->layoutDirection()};
 }
-
-void ScrGrid::drawLayer(QPainter &painter, CabinetLayout::Layer layer) const
-{
-    layout().drawLayer(painter, layer);
-}

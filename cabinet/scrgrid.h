@@ -41,31 +41,35 @@ public:
 
     void drawModuleLines(QPainter &painter) const
     {
-        drawLayer(painter, CabinetLayout::ModuleRows);
-        drawLayer(painter, CabinetLayout::ModuleColumns);
+        drawLayer(painter, Layer::ModuleRows);
+        drawLayer(painter, Layer::ModuleColumns);
     }
     void drawScanLines(QPainter &painter) const
     {
-        drawLayer(painter, CabinetLayout::ScanRows);
-        drawLayer(painter, CabinetLayout::ScanColumns);
+        drawLayer(painter, Layer::ScanRows);
+        drawLayer(painter, Layer::ScanColumns);
     }
-    void drawText(QPainter &painter) const { drawLayer(painter, CabinetLayout::Numbers); }
-
+    void drawText(QPainter &painter) const { drawLayer(painter, Layer::Numbers); }
     // One family of lines each, enabled or not, with the painter's pen.
-    void drawHoriLines(QPainter &painter) const { drawLayer(painter, CabinetLayout::HoriLines); }
-    void drawVertLines(QPainter &painter) const { drawLayer(painter, CabinetLayout::VertLines); }
-    void drawSlantLeftLines(QPainter &p) const { drawLayer(p, CabinetLayout::SlantLeftLines); }
-    void drawSlantRightLines(QPainter &p) const { drawLayer(p, CabinetLayout::SlantRightLines); }
+    void drawHoriLines(QPainter &painter) const { drawLayer(painter, Layer::HoriLines); }
+    void drawVertLines(QPainter &painter) const { drawLayer(painter, Layer::VertLines); }
+    void drawSlantLeftLines(QPainter &painter) const { drawLayer(painter, Layer::SlantLeftLines); }
+    void drawSlantRightLines(QPainter &painter) const
+    {
+        drawLayer(painter, Layer::SlantRightLines);
+    }
     void drawOldTest(QPainter & /*painter*/) { setBgColor(m_oldTestColor); }
 
     // False while the layout takes some more paints to be complete.
     bool isDrawnInFull() const { return m_picture.isComplete(); }
 
 private:
+    using Layer = CabinetLayout::Layer;
+
     void installBackground();
     void stretchPicture();
     CabinetLayout layout() const;
-    void drawLayer(QPainter &painter, CabinetLayout::Layer layer) const;
+    void drawLayer(QPainter &painter, Layer layer) const { layout().drawLayer(painter, layer); }
 
     LayoutPicture m_picture;
     PictureLoader m_pictures;

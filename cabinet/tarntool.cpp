@@ -4,9 +4,10 @@
 
 #include "advancedsetup.h"
 #include "advancedvalue.h"
-#include "colordialog.h"
 #include "commonhelper.h"
+#include "filedialog.h"
 #include "form.h"
+#include "picturestore.h"
 #include "savesoon.h"
 #include "scrgrid.h"
 #include "settingsrules.h"
@@ -19,6 +20,7 @@
 #include <QTimer>
 
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -29,12 +31,10 @@ constexpr int secondId = 1;
 
 TarnTool::TarnTool(QWidget *drawWidget, QSettings *settings, QWidget *parent)
     : QDialog(parent)
-    , m_testWindow(drawWidget)
     , m_drawer(std::make_unique<ScrGrid>(drawWidget))
     , ui(makeForm<Ui::TarnTool>(this))
     , m_bgGroup(new QButtonGroup(this))
     , m_orderGroup(new QButtonGroup(this))
-    , m_colors(makeColors())
     , m_settings(settings)
     , m_saveSoon(new SaveSoon([this] { saveTarnBaseInfo(); }, this))
 {
@@ -42,26 +42,12 @@ TarnTool::TarnTool(QWidget *drawWidget, QSettings *settings, QWidget *parent)
         button->setObjectName(QStringLiteral("normalContentPushBtn"));
     uiInit();
     updateLanguage();
-    m_testWindow->installEventFilter(this);
+    drawWidget->installEventFilter(this);
 }
 
 TarnTool::~TarnTool()
 {
     saveTarnBaseInfo();
-}
-
-std::array<TarnTool::ColorChoice, TarnTool::colorCount> TarnTool::makeColors() const
-{
-    return {{
-        {ui->buttonFont, CabinetKey::fontColor, CabinetKey::fontStyle, &TarnTool::m_fontColor,
-         &ScrGrid::m_fontColor, Qt::yellow},
-        {ui->buttonModeLine, CabinetKey::moduleLineColor, CabinetKey::moduleLineStyle,
-         &TarnTool::m_moduleLineColor, &ScrGrid::m_moduleLineColor, Qt::red},
-        {ui->buttonScan, CabinetKey::scanLineColor, CabinetKey::scanLineStyle,
-         &TarnTool::m_scanColor, &ScrGrid::m_scanColor, Qt::blue},
-        {ui->labelColor, CabinetKey::backgroundColor, CabinetKey::backgroundStyle,
-         &TarnTool::m_bgColor, &ScrGrid::m_bgColor, Qt::black},
-    }};
 }
 
 // Restoring is not a change by the operator and writes nothing.
@@ -76,13 +62,21 @@ void TarnTool::uiInit()
 void TarnTool::dataInit()
 {
     m_counts = {{
-        {ui->boxHight, CabinetKey::boxHeight, 16, 16, 100},
-        {ui->boxWidth, CabinetKey::boxWidth, 16, 32, 100},
-        {ui->boxColumn, CabinetKey::columnCount, 1, 2, 100},
-        {ui->boxRow, CabinetKey::rowCount, 1, 2, 100},
+        {ui->boxHight, CabinetKey::boxHeight, &ScrGrid::m_moduleHeight, 16, 16, 100},
+        {ui->boxWidth, CabinetKey::boxWidth, &ScrGrid::m_moduleWidth, 16, 32, 100},
+        {ui->boxColumn, CabinetKey::columnCount, &ScrGrid::m_moduleColumnCount, 1, 2, 100},
+        {ui->boxRow, CabinetKey::rowCount, &ScrGrid::m_moduleRowCount, 1, 2, 100},
     }};
-    m_bgSolid = true;
-    m_leftToRight = true;
+    m_colors = {{
+        {ui->buttonFont, CabinetKey::fontColor, CabinetKey::fontStyle, &ScrGrid::m_fontColor,
+         Qt::yellow},
+        {ui->buttonModeLine, CabinetKey::moduleLineColor, CabinetKey::moduleLineStyle,
+         &ScrGrid::m_moduleLineColor, Qt::red},
+        {ui->buttonScan, CabinetKey::scanLineColor, CabinetKey::scanLineStyle,
+         &ScrGrid::m_scanColor, Qt::blue},
+        {ui->labelColor, CabinetKey::backgroundColor, CabinetKey::backgroundStyle,
+         &ScrGrid::m_bgColor, Qt::black},
+    }};
 }
 
 void TarnTool::ControlInit()
@@ -92,16 +86,14 @@ void TarnTool::ControlInit()
         count.box->setValue(count.initial);
         SliderSpinBoxPair::prepare(count.box);
     }
+    for (ColorChoice &choice : m_colors)
+        choice.reset();
     m_bgGroup->addButton(ui->radioBackground, firstId);
     m_bgGroup->addButton(ui->radioPicture, secondId);
     m_orderGroup->addButton(ui->radioBeginLeft, firstId);
     m_orderGroup->addButton(ui->radioBeginRight, secondId);
-    m_bgGroup->button(m_bgSolid ? firstId : secondId)->setChecked(true);
-    m_orderGroup->button(m_leftToRight ? firstId : secondId)->setChecked(true);
-    for (int item = 0; item < colorCount; ++item) {
-        const QColor initial = m_colors.at(item).initial;
-        setSwatch(static_cast<ColorItem>(item), initial, Swatch::style(initial));
-    }
+    for (QRadioButton *initial : {ui->radioBackground, ui->radioBeginLeft})
+        initial->setChecked(true);
     for (CustomerQlabel *label : {ui->labelColor, ui->labelimage})
         Swatch::makeClickable(label);
     slot_forbidControls();
@@ -110,6 +102,34 @@ void TarnTool::ControlInit()
     connect(ui->labelColor, &CustomerQlabel::clicked, this, &TarnTool::slot_radioBackgroundClicked);
     connect(ui->radioPicture, &QRadioButton::clicked, this, &TarnTool::slot_radioPictureRefresh);
     connect(ui->labelimage, &CustomerQlabel::clicked, this, &TarnTool::slot_radioPictureClicked);
+}
+
+void TarnTool::saveTarnBaseInfo()
+{
+    if (!m_settings)
+        return;
+    for (const Count &count : m_counts)
+        SettingsRules::store(*m_settings, count.key, count.box->value());
+    SettingsRules::store(*m_settings, CabinetKey::rightToLeft, ui->radioBeginRight->isChecked());
+    SettingsRules::store(*m_settings, CabinetKey::solidBackground,
+                         ui->radioBackground->isChecked());
+}
+
+void TarnTool::initTarnStatus()
+{
+    if (!m_settings)
+        return;
+    const auto hold = m_saveSoon->hold();
+    // A value beyond the limits is shown as the limit.
+    for (const Count &count : m_counts)
+        count.box->setValue(SettingsRules::nonZeroInt(*m_settings, count.key, count.initial));
+    for (const AdvancedValue &value : advancedValues)
+        *m_drawer.*value.field = value.stored(*m_settings).value_or(*m_drawer.*value.field);
+    for (ColorChoice &choice : m_colors)
+        choice.restore(*m_settings);
+    restorePicture();
+    const bool fromRight = m_settings->value(CabinetKey::rightToLeft).toBool();
+    (fromRight ? ui->radioBeginRight : ui->radioBeginLeft)->setChecked(true);
 }
 
 DrawerBase *TarnTool::getDrawer()
@@ -121,16 +141,11 @@ DrawerBase *TarnTool::getDrawer()
 void TarnTool::getData()
 {
     const bool solid = m_bgGroup->checkedId() == firstId;
-    if (solid)
-        m_drawer->m_bgColor = m_bgColor;
     m_drawer->m_bgPicturePath = solid ? QString() : m_bgPicturePath;
-    m_drawer->m_moduleWidth = ui->boxWidth->value();
-    m_drawer->m_moduleHeight = ui->boxHight->value();
-    m_drawer->m_moduleRowCount = ui->boxRow->value();
-    m_drawer->m_moduleColumnCount = ui->boxColumn->value();
-    m_drawer->m_fontColor = m_fontColor;
-    m_drawer->m_moduleLineColor = m_moduleLineColor;
-    m_drawer->m_scanColor = m_scanColor;
+    for (const Count &count : m_counts)
+        *m_drawer.*count.field = count.box->value();
+    for (const ColorChoice &choice : m_colors)
+        *m_drawer.*choice.field = choice.color;
     m_drawer->m_leftToRight = m_orderGroup->checkedId() == firstId;
     if (m_settings) {
         for (const AdvancedValue &value : advancedValues)
@@ -180,15 +195,14 @@ void TarnTool::slot_drawerSizeChanged(int /*width*/, int /*height*/)
 // screen do not.
 bool TarnTool::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_testWindow && event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize)
         m_drawer->updateBackgroundImage();
     return QDialog::eventFilter(watched, event);
 }
 
 // After the first time, so that a picture that takes long does not keep the window from showing.
-void TarnTool::paintEvent(QPaintEvent *event)
+void TarnTool::paintEvent(QPaintEvent * /*event*/)
 {
-    QDialog::paintEvent(event);
     if (m_thumbnailDue)
         QTimer::singleShot(0, this, &TarnTool::restoreThumbnail);
 }
@@ -212,82 +226,113 @@ void TarnTool::on_buttonSetup_clicked()
     m_setup->show();
 }
 
-void TarnTool::on_boxWidth_valueChanged(int width)
+void TarnTool::changeCount(CountItem item, int value)
 {
-    m_drawer->m_moduleWidth = width;
+    *m_drawer.*m_counts.at(item).field = value;
     showChange();
 }
 
-void TarnTool::on_boxHight_valueChanged(int height)
+void TarnTool::changeColor(ColorItem item)
 {
-    m_drawer->m_moduleHeight = height;
+    ColorChoice &choice = m_colors.at(item);
+    if (!choice.ask(m_settings))
+        return;
+    *m_drawer.*choice.field = choice.color;
     showChange();
 }
 
-void TarnTool::on_boxColumn_valueChanged(int columns)
+void TarnTool::changeOrder(bool leftToRight)
 {
-    m_drawer->m_moduleColumnCount = columns;
+    m_drawer->m_leftToRight = leftToRight;
     showChange();
 }
 
-void TarnTool::on_boxRow_valueChanged(int rows)
+// Without a kept picture the stored choice of one does not count.
+void TarnTool::restorePicture()
 {
-    m_drawer->m_moduleRowCount = rows;
-    showChange();
-}
-
-void TarnTool::on_radioBeginLeft_clicked()
-{
-    m_drawer->m_leftToRight = true;
-    showChange();
-}
-
-void TarnTool::on_radioBeginRight_clicked()
-{
-    m_drawer->m_leftToRight = false;
-    showChange();
-}
-
-void TarnTool::on_buttonFont_clicked()
-{
-    if (chooseColor(FontColor))
-        showChange();
-}
-
-void TarnTool::on_buttonModeLine_clicked()
-{
-    if (chooseColor(ModuleLineColor))
-        showChange();
-}
-
-void TarnTool::on_buttonScan_clicked()
-{
-    if (chooseColor(ScanColor))
-        showChange();
-}
-
-// Beginning with green, whatever the colour is; wanted. False when the operator chose none.
-bool TarnTool::chooseColor(ColorItem item)
-{
-    const QColor color = ColorDialog::getColor(Qt::green);
-    if (!color.isValid())
-        return false;
-    const QString style = Swatch::style(color);
-    setSwatch(item, color, style);
-    const ColorChoice &choice = m_colors.at(item);
-    if (m_settings) {
-        SettingsRules::store(*m_settings, choice.colorKey, color);
-        SettingsRules::store(*m_settings, choice.styleKey, style);
+    m_thumbnailDue = PictureLoader::isPicture(PictureStore::path());
+    if (!m_thumbnailDue) {
+        ui->radioBackground->setChecked(true);
+        return;
     }
-    *m_drawer.*choice.field = color;
-    return true;
+    usePicture(PictureStore::path());
+    const bool solid = m_settings->value(CabinetKey::solidBackground).toBool();
+    (solid ? ui->radioBackground : ui->radioPicture)->setChecked(true);
 }
 
-void TarnTool::setSwatch(ColorItem item, const QColor &color, const QString &style)
+// A kept picture that turns out to be damaged counts as none from here on.
+void TarnTool::restoreThumbnail()
 {
-    const ColorChoice &choice = m_colors.at(item);
-    this->*choice.color = color;
-    choice.swatch->setStyleSheet(style);
+    if (!std::exchange(m_thumbnailDue, false))
+        return;
+    const QImage picture = m_drawer->picture(PictureStore::path());
+    if (!picture.isNull()) {
+        showThumbnail(picture);
+        return;
+    }
+    ui->radioBackground->setChecked(true);
+    takePictureAway();
+}
+
+void TarnTool::usePicture(const QString &path)
+{
+    m_bgPicturePath = path;
+    m_drawer->setBackgroundImage(path);
+    showChange();
+}
+
+void TarnTool::showThumbnail(const QImage &picture)
+{
+    m_thumbnailDue = false;
+    const QImage small =
+        picture.scaled(ui->labelimage->size(), Qt::KeepAspectRatio, Qt::FastTransformation);
+    ui->labelimage->setPixmap(QPixmap::fromImage(small));
+}
+
+void TarnTool::takePictureAway()
+{
+    m_drawer->m_bgColor = m_colors[BackgroundColor].color;
+    m_drawer->m_bgPicturePath.clear();
+    m_bgPicturePath.clear();
+}
+
+void TarnTool::slot_radioBackgroundRefresh()
+{
+    takePictureAway();
+    showChange();
+}
+
+void TarnTool::slot_radioBackgroundClicked()
+{
+    if (ui->radioBackground->isChecked() && m_colors[BackgroundColor].ask(m_settings))
+        slot_radioBackgroundRefresh();
+}
+
+void TarnTool::slot_radioPictureRefresh()
+{
+    saveSoon(); // the choice itself, whether a picture comes of it or not
+    if (m_drawer->picture(PictureStore::path()).isNull())
+        slot_radioPictureClicked();
+    else
+        usePicture(PictureStore::path());
+}
+
+// What is chosen and is no picture is ignored: the picture before it stays in use and kept.
+void TarnTool::slot_radioPictureClicked()
+{
+    if (!ui->radioPicture->isChecked())
+        return;
+    const QString path = FileDialog::getOpenFileName(this, tr("选择背景图"), m_lastPictureDir,
+                                                     tr("图片文件 (*.jpg *.png *.bmp)"));
+    if (path.isEmpty())
+        return;
+    const QImage picture = m_drawer->picture(path);
+    if (picture.isNull())
+        return;
+    PictureStore::keep(path);
+    m_lastPictureDir = path;
+    showThumbnail(picture);
+    usePicture(path);
 }
 
 void TarnTool::updateLanguage()

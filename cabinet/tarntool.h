@@ -1,8 +1,9 @@
 #pragma once
+// Slots named on_... are connected by the form: clazy:excludeall=connect-by-name
 
+#include "colorchoice.h"
 #include "controlbase.h"
 
-#include <QColor>
 #include <QDialog>
 #include <QPointer>
 
@@ -12,10 +13,8 @@
 class AdvancedSetup;
 class QButtonGroup;
 class QImage;
-class QSettings;
 class QSpinBox;
 class SaveSoon;
-class ScrGrid;
 
 namespace Ui {
 class TarnTool;
@@ -71,76 +70,57 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private slots:
-    void on_buttonSetup_clicked(); // clazy:exclude=connect-by-name
-    void on_buttonFont_clicked(); // clazy:exclude=connect-by-name
-    void on_buttonModeLine_clicked(); // clazy:exclude=connect-by-name
-    void on_buttonScan_clicked(); // clazy:exclude=connect-by-name
-    void on_radioBeginLeft_clicked(); // clazy:exclude=connect-by-name
-    void on_radioBeginRight_clicked(); // clazy:exclude=connect-by-name
-    void on_buttonFixedPosition_clicked(); // clazy:exclude=connect-by-name
-    void on_boxWidth_valueChanged(int width); // clazy:exclude=connect-by-name
-    void on_boxHight_valueChanged(int height); // clazy:exclude=connect-by-name
-    void on_boxColumn_valueChanged(int columns); // clazy:exclude=connect-by-name
-    void on_boxRow_valueChanged(int rows); // clazy:exclude=connect-by-name
+    void on_buttonSetup_clicked();
+    void on_buttonFont_clicked() { changeColor(FontColor); }
+    void on_buttonModeLine_clicked() { changeColor(ModuleLineColor); }
+    void on_buttonScan_clicked() { changeColor(ScanColor); }
+    void on_radioBeginLeft_clicked() { changeOrder(true); }
+    void on_radioBeginRight_clicked() { changeOrder(false); }
+    void on_buttonFixedPosition_clicked();
+    void on_boxWidth_valueChanged(int width) { changeCount(ModuleWidth, width); }
+    void on_boxHight_valueChanged(int height) { changeCount(ModuleHeight, height); }
+    void on_boxColumn_valueChanged(int columns) { changeCount(ColumnCount, columns); }
+    void on_boxRow_valueChanged(int rows) { changeCount(RowCount, rows); }
 
 private:
+    enum CountItem { ModuleHeight, ModuleWidth, ColumnCount, RowCount, countCount };
     enum ColorItem { FontColor, ModuleLineColor, ScanColor, BackgroundColor, colorCount };
 
-    // One colour of the layout, with its swatch and its places in the settings and the drawer.
-    struct ColorChoice
-    {
-        QWidget *swatch;
-        QLatin1String colorKey;
-        QLatin1String styleKey;
-        QColor TarnTool::*color;
-        QColor ScrGrid::*field;
-        Qt::GlobalColor initial;
-    };
-
-    // A spin box with its place in the settings.
+    // A spin box with its place in the settings and the drawer.
     struct Count
     {
         QSpinBox *box;
         QLatin1String key;
+        int ScrGrid::*field;
         int minimum;
         int initial;
         int maximum;
     };
 
-    std::array<ColorChoice, colorCount> makeColors() const;
     void uiInit();
     void dataInit();
     void ControlInit();
-    void restoreCounts();
-    void restoreColors();
     void restorePicture();
     void restoreThumbnail();
-    bool chooseColor(ColorItem item);
-    void setSwatch(ColorItem item, const QColor &color, const QString &style);
+    void changeCount(CountItem item, int value);
+    void changeColor(ColorItem item);
+    void changeOrder(bool leftToRight);
     void takePictureAway();
-    void useSolidBackground();
     void usePicture(const QString &path);
     void showThumbnail(const QImage &picture);
     void showChange();
     void saveSoon();
 
-    QWidget *m_testWindow;
     const std::unique_ptr<ScrGrid> m_drawer;
     const std::unique_ptr<Ui::TarnTool> ui;
     QButtonGroup *m_bgGroup;
     QButtonGroup *m_orderGroup;
-    std::array<Count, 4> m_counts{};
-    const std::array<ColorChoice, colorCount> m_colors;
-    bool m_bgSolid = true;
-    bool m_leftToRight = true;
-    QColor m_fontColor;
-    QColor m_moduleLineColor;
-    QColor m_scanColor;
-    QColor m_bgColor;
+    std::array<Count, countCount> m_counts{};
+    std::array<ColorChoice, colorCount> m_colors{};
     QSettings *m_settings;
     SaveSoon *m_saveSoon;
     QString m_bgPicturePath; // of the picture in use; empty for the solid colour
-    QString m_lastPictureDir; // where the next file dialog begins
+    QString m_lastPictureDir = QStringLiteral("."); // where the next file dialog begins
     QPointer<AdvancedSetup> m_setup; // while it is open
     bool m_thumbnailDue = false; // of the kept picture
 };
