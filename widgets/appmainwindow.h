@@ -1,7 +1,5 @@
 #pragma once
 
-#include "windowdragger.h"
-
 #include <QMainWindow>
 
 namespace UX::Widgets {
@@ -17,16 +15,11 @@ class AppMainWindow : public QMainWindow
 
 public:
     explicit AppMainWindow(QWidget *parent = nullptr);
-    ~AppMainWindow() override;
 
     Widgets::TitleBar *titleBar() const { return m_titleBar; }
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     Widgets::TitleBar *const m_titleBar;
-    Widgets::WindowDragger m_dragger;
 };
 
 } // namespace UX::Utils

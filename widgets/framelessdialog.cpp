@@ -11,8 +11,6 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include <algorithm>
-
 namespace UX::Widgets {
 
 namespace {
@@ -34,7 +32,6 @@ QColor FramelessDialog::m_defaultBackgroundColor(backgroundColor);
 
 FramelessDialog::FramelessDialog(QWidget *parent, Qt::WindowFlags f)
     : QDialog(parent, f | Qt::FramelessWindowHint)
-    , m_dragger(this)
 {
     // Legible on the dark background without a style sheet as well.
     QPalette dark = palette();
@@ -54,7 +51,6 @@ void FramelessDialog::buildFrame()
 {
     m_titleBar = new TitleBar(this);
     m_titleBar->setTitleButtonVisible(TitleBar::LogoButton, false);
-    m_titleBar->installEventFilter(this);
 
     auto *frame = new QFrame(this);
     frame->setProperty("isFramelessCentralWidget", true);
@@ -84,7 +80,7 @@ QWidget *FramelessDialog::createButtonRow()
     layout->addStretch();
     for (QPushButton *button : {m_okButton, m_cancelButton}) {
         dressButton(button);
-        button->setVisible(true);
+        button->show();
         layout->addWidget(button);
     }
     layout->addStretch();
@@ -134,9 +130,10 @@ void FramelessDialog::setVisible(bool visible)
 
 void FramelessDialog::prepareToShow()
 {
-    m_windowBelow = isParentOnTop() ? nullptr : findWindowOnTop();
+    const bool isParentOnTop = parentWidget() && isStaysOnTop(parentWidget()->window());
+    m_windowBelow = isParentOnTop ? nullptr : findWindowOnTop();
     // A change of the flags hides a window that is already shown.
-    if (m_windowBelow || isParentOnTop())
+    if (m_windowBelow || isParentOnTop)
         setWindowFlag(Qt::WindowStaysOnTopHint);
     // A window manager reports a wrong place for a window that moves while it is being shown.
     if (!testAttribute(Qt::WA_Moved))
@@ -174,41 +171,19 @@ void FramelessDialog::lowerOwner()
     m_liftedOwner.clear();
 }
 
-int FramelessDialog::exec()
-{
-    return QDialog::exec();
-}
-
-void FramelessDialog::open()
-{
-    QDialog::open();
-}
-
-void FramelessDialog::show()
-{
-    QDialog::show();
-}
-
-bool FramelessDialog::isParentOnTop() const
-{
-    return parentWidget() && isStaysOnTop(parentWidget()->window());
-}
-
 QWidget *FramelessDialog::findWindowOnTop() const
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto found =
-        std::find_if(windows.cbegin(), windows.cend(), [this](const QWidget *window) {
-            return window != this && window->windowType() != Qt::ToolTip && window->isVisible()
-                   && isStaysOnTop(window);
-        });
-    return found == windows.cend() ? nullptr : *found;
+    for (QWidget *window : windows) {
+        if (window != this && window->windowType() != Qt::ToolTip && window->isVisible()
+            && isStaysOnTop(window))
+            return window;
+    }
+    return nullptr;
 }
 
 bool FramelessDialog::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_titleBar && m_dragger.handleEvent(event))
-        return true;
     // A click has brought that window in front.
     if (watched == m_windowBelow && event->type() == QEvent::MouseButtonRelease)
         raise();

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "windowdragger.h"
-
 #include <QColor>
 #include <QDialog>
 #include <QPointer>
@@ -38,11 +36,6 @@ public:
     // program's windows that are always on top, and stays there when one of them is clicked.
     void setVisible(bool visible) override;
 
-    // As in QDialog. Every way to show the dialog passes through setVisible.
-    int exec() override;
-    void open() override;
-    void show();
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -63,7 +56,6 @@ private:
     void retranslate();
     void updateButtonRow();
     void prepareToShow();
-    bool isParentOnTop() const;
     QWidget *findWindowOnTop() const;
     void attachToOwner();
     void lowerOwner();
@@ -72,7 +64,6 @@ private:
     QWidget *m_buttonRow = nullptr;
     QPointer<QWidget> m_windowBelow; // always on top, and yet below this dialog
     QPointer<QWindow> m_liftedOwner; // on top for the time that this dialog is open
-    WindowDragger m_dragger;
 };
 
 } // namespace UX::Widgets

@@ -31,10 +31,11 @@ QPixmap checkerboard(int check, const QColor &even, const QColor &odd, const QCo
     return tile;
 }
 
-// Puts the checkerboard's cross near the middle of a side of this length, after the margin.
-int brushOrigin(int length, int check, int margin)
+// Puts the checkerboard's cross near the middle of an area of this size, after the margin.
+QPoint brushOrigin(const QSize &size, int check, int margin)
 {
-    return (length % check + check) / 2 + margin;
+    return {(size.width() % check + check) / 2 + margin,
+            (size.height() % check + check) / 2 + margin};
 }
 
 bool isSame(const QColor &one, const QColor &other)
@@ -112,8 +113,7 @@ QPixmap QtColorButtonPrivate::generatePixmap() const
     QPainter painter(&pixmap);
     painter.fillRect(pixmap.rect(), Qt::black); // what is left of it is the frame
     const QRect area = pixmap.rect().adjusted(dragMargin, dragMargin, -dragMargin, -dragMargin);
-    painter.setBrushOrigin(brushOrigin(area.width(), dragCheck, dragMargin),
-                           brushOrigin(area.height(), dragCheck, dragMargin));
+    painter.setBrushOrigin(brushOrigin(area.size(), dragCheck, dragMargin));
     painter.fillRect(area, checkerboard(dragCheck, Qt::lightGray, Qt::darkGray, shownColor()));
     painter.fillRect(area.width() / 4 + dragMargin, area.height() / 4 + dragMargin,
                      area.width() / 2, area.height() / 2, QColor(shownColor().rgb()));
@@ -178,8 +178,7 @@ void QtColorButton::paintEvent(QPaintEvent *event)
         brush = QBrush(checkerboard(swatchCheck, Qt::white, Qt::black, d->shownColor()));
 
     QPainter painter(this);
-    painter.setBrushOrigin(brushOrigin(area.width(), swatchCheck, swatchMargin),
-                           brushOrigin(area.height(), swatchCheck, swatchMargin));
+    painter.setBrushOrigin(brushOrigin(area.size(), swatchCheck, swatchMargin));
     painter.fillRect(area, brush);
     painter.setPen(QColor(0, 0, 0, innerFrameAlpha));
     painter.drawRect(area.adjusted(1, 1, -2, -2));

@@ -10,24 +10,15 @@ RunIndicator::RunIndicator(QWidget *green, QWidget *grey)
     showGrey();
 }
 
-void RunIndicator::showGreen()
+void RunIndicator::show(bool isGreen)
 {
-    m_green->show();
-    m_grey->hide();
-}
-
-void RunIndicator::showGrey()
-{
-    m_green->hide();
-    m_grey->show();
+    m_green->setVisible(isGreen);
+    m_grey->setVisible(!isGreen);
 }
 
 void RunIndicator::blink()
 {
-    if (m_green->isHidden())
-        showGreen();
-    else
-        showGrey();
+    show(m_green->isHidden());
 }
 
 void RunIndicator::retranslate()

@@ -10,14 +10,16 @@ public:
     // The lamps are borrowed; the grey one is shown at first.
     RunIndicator(QWidget *green, QWidget *grey);
 
-    void showGreen();
-    void showGrey();
+    void showGreen() { show(true); }
+    void showGrey() { show(false); }
     void blink(); // the other one is shown
 
     // Names the lamps for assistive technology, in the interface language.
     void retranslate();
 
 private:
+    void show(bool isGreen);
+
     QWidget *m_green;
     QWidget *m_grey;
 };

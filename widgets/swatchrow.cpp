@@ -7,12 +7,11 @@
 
 SwatchRow::SwatchRow(const Buttons &buttons, QObject *parent)
     : QObject(parent)
-    , m_buttons(buttons)
+    , m_group(new QButtonGroup(this))
 {
-    auto *group = new QButtonGroup(this);
-    for (int index = 0; index < TestColor::count; ++index) {
-        QAbstractButton *button = m_buttons.at(static_cast<std::size_t>(index));
-        group->addButton(button, index);
+    for (QAbstractButton *button : buttons) {
+        const int index = m_group->buttons().size();
+        m_group->addButton(button, index);
         const auto announce = [this, index](bool checked) {
             if (checked)
                 emit selected(index);
@@ -24,15 +23,14 @@ SwatchRow::SwatchRow(const Buttons &buttons, QObject *parent)
 
 QAbstractButton *SwatchRow::button(const QColor &color) const
 {
-    const int index = TestColor::indexOf(color);
-    return index < 0 ? nullptr : m_buttons.at(static_cast<std::size_t>(index));
+    return m_group->button(TestColor::indexOf(color));
 }
 
 void SwatchRow::retranslate()
 {
     constexpr int border = 3; // on either side of the text, in pixels
     for (int index = 0; index < TestColor::count; ++index) {
-        QAbstractButton *button = m_buttons.at(static_cast<std::size_t>(index));
+        QAbstractButton *button = m_group->button(index);
         const QString name = TestColor::translatedName(index);
         button->setText(
             button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - 2 * border));

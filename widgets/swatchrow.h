@@ -5,6 +5,7 @@
 #include <array>
 
 class QAbstractButton;
+class QButtonGroup;
 class QColor;
 
 // Seven checkable buttons as an exclusive row of the test colours, in the order of
@@ -41,5 +42,5 @@ signals:
     void selected(int index);
 
 private:
-    Buttons m_buttons;
+    QButtonGroup *m_group; // by the colours' indices
 };

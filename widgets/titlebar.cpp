@@ -1,11 +1,9 @@
 #include "titlebar.h"
 
 #include <QEvent>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QStyle>
 #include <QToolButton>
 #include <QVariant>
 
@@ -17,31 +15,17 @@ constexpr int barHeight = 28;
 constexpr int logoSide = 16;
 constexpr int titleIndent = 8;
 
-// What one button is called by the style sheet and shows on its face, in the order of ButtonId.
-struct ButtonLook
-{
-    const char *property;
-    const char *imageName;
-    QStyle::StandardPixmap fallback;
-};
+// What the buttons are called by the style sheet and by their images, in the order of ButtonId.
+constexpr const char *properties[] = {"isTitleBarLogoButton", "isTitleBarMinButton",
+                                      "isTitleBarMaxButton", "isTitleBarRestoreButton",
+                                      "isTitleBarCloseButton"};
+constexpr const char *images[] = {"", "mix", "max", "return", "close"};
 
-constexpr ButtonLook buttonLooks[] = {
-    {"isTitleBarLogoButton", nullptr, QStyle::SP_TitleBarMenuButton},
-    {"isTitleBarMinButton", "mix", QStyle::SP_TitleBarMinButton},
-    {"isTitleBarMaxButton", "max", QStyle::SP_TitleBarMaxButton},
-    {"isTitleBarRestoreButton", "return", QStyle::SP_TitleBarNormalButton},
-    {"isTitleBarCloseButton", "close", QStyle::SP_TitleBarCloseButton},
-};
-
-// The images that go with the style sheet, or the style's own where they are not compiled in.
-QIcon buttonIcon(const ButtonLook &look, const QStyle *style)
+QIcon buttonIcon(int id)
 {
-    const QString path = QStringLiteral(":/Resource/Image/titleBar/btn_%1_%2.png")
-                             .arg(QLatin1String(look.imageName));
-    const QString normal = path.arg(QLatin1String("normal"));
-    if (!QFile::exists(normal))
-        return style->standardIcon(look.fallback);
-    QIcon icon(normal);
+    const QString path =
+        QStringLiteral(":/Resource/Image/titleBar/btn_%1_%2.png").arg(QLatin1String(images[id]));
+    QIcon icon(path.arg(QLatin1String("normal")));
     icon.addFile(path.arg(QLatin1String("hover")), QSize(), QIcon::Active);
     return icon;
 }
@@ -51,6 +35,7 @@ QIcon buttonIcon(const ButtonLook &look, const QStyle *style)
 TitleBar::TitleBar(QWidget *window)
     : QFrame(window)
     , m_window(window)
+    , m_dragger(window)
     , m_titleLabel(new QLabel(this))
 {
     setProperty("isTitleBar", true);
@@ -60,10 +45,9 @@ TitleBar::TitleBar(QWidget *window)
     m_titleLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     createButtons();
     layOut();
-    connectButtons();
     retranslate();
     setTitle(window->windowTitle());
-    updateButtons();
+    setTitleButtonIcon(LogoButton, window->windowIcon());
     m_titleLabel->installEventFilter(this);
     window->installEventFilter(this);
 }
@@ -71,19 +55,25 @@ TitleBar::TitleBar(QWidget *window)
 void TitleBar::createButtons()
 {
     for (int id = LogoButton; id < ButtonCount; ++id) {
-        const ButtonLook &look = buttonLooks[id];
         auto *button = new QToolButton(this);
-        button->setProperty(look.property, true);
+        button->setProperty(properties[id], true);
         button->setFocusPolicy(Qt::NoFocus);
         button->setAutoRaise(true);
         button->setFixedSize(barHeight, barHeight);
         button->setIconSize(QSize(barHeight, barHeight));
-        button->setIcon(id == LogoButton ? m_window->windowIcon() : buttonIcon(look, style()));
+        button->setIcon(id == LogoButton ? QIcon() : buttonIcon(id));
         m_buttons[id] = button;
     }
     m_buttons[LogoButton]->setIconSize(QSize(logoSide, logoSide));
-    // The logo only shows the icon: a press on it takes hold of the bar like one on the title.
+    // The logo only shows the icon: a press on it is one on the bar, as on the title.
     m_buttons[LogoButton]->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_buttons[MinButton]->setVisible(m_window->windowType() == Qt::Window);
+    for (const ButtonId id : {MaxButton, RestoreButton}) // of use where the size is not fixed
+        m_buttons[id]->hide();
+    connect(m_buttons[MinButton], &QToolButton::clicked, m_window, &QWidget::showMinimized);
+    connect(m_buttons[MaxButton], &QToolButton::clicked, m_window, &QWidget::showMaximized);
+    connect(m_buttons[RestoreButton], &QToolButton::clicked, m_window, &QWidget::showNormal);
+    connect(m_buttons[CloseButton], &QToolButton::clicked, m_window, &QWidget::close);
 }
 
 void TitleBar::layOut()
@@ -98,19 +88,6 @@ void TitleBar::layOut()
         row->addWidget(m_buttons[id]);
 }
 
-void TitleBar::connectButtons()
-{
-    connect(m_buttons[MinButton], &QToolButton::clicked, m_window, &QWidget::showMinimized);
-    connect(m_buttons[MaxButton], &QToolButton::clicked, m_window, &QWidget::showMaximized);
-    connect(m_buttons[RestoreButton], &QToolButton::clicked, m_window, &QWidget::showNormal);
-    connect(m_buttons[CloseButton], &QToolButton::clicked, m_window, &QWidget::close);
-}
-
-QString TitleBar::title() const
-{
-    return m_title;
-}
-
 void TitleBar::setTitle(const QString &title)
 {
     m_title = title;
@@ -118,68 +95,45 @@ void TitleBar::setTitle(const QString &title)
     elideTitle();
 }
 
-QWidget *TitleBar::titleButton(const int &id) const
+QToolButton *TitleBar::button(int id) const
 {
-    return findButton(id);
+    return id >= LogoButton && id < ButtonCount ? m_buttons[id] : nullptr;
 }
 
 void TitleBar::setTitleButtonIcon(const int &id, const QIcon &icon)
 {
-    QToolButton *button = findButton(id);
-    if (!button)
+    if (!button(id))
         return;
-    button->setIcon(icon);
-    updateButtons();
+    button(id)->setIcon(icon);
+    if (id == LogoButton)
+        button(id)->setVisible(m_logoVisible.value_or(!icon.isNull()));
 }
 
 void TitleBar::setTitleButtonVisible(const int &id, bool visible)
 {
-    if (!findButton(id))
+    if (!button(id))
         return;
-    m_requestedVisibility[id] = visible;
-    updateButtons();
+    button(id)->setVisible(visible);
+    if (id == LogoButton)
+        m_logoVisible = visible;
 }
 
-bool TitleBar::canMaximize(const QWidget *window)
-{
-    return window->windowType() == Qt::Window && window->minimumWidth() < window->maximumWidth()
-           && window->minimumHeight() < window->maximumHeight();
-}
-
-void TitleBar::changeEvent(QEvent *event)
+bool TitleBar::event(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         retranslate();
-    QFrame::changeEvent(event);
+    return m_dragger.handleEvent(event) || QFrame::event(event);
 }
 
 bool TitleBar::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window)
-        followWindow(event);
-    else if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
-        elideTitle();
-    return QFrame::eventFilter(watched, event);
-}
-
-void TitleBar::followWindow(const QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::WindowTitleChange:
+    if (watched == m_window && event->type() == QEvent::WindowTitleChange)
         setTitle(m_window->windowTitle());
-        break;
-    case QEvent::WindowIconChange:
+    else if (watched == m_window && event->type() == QEvent::WindowIconChange)
         setTitleButtonIcon(LogoButton, m_window->windowIcon());
-        break;
-    // A change of the size limits has no event of its own, but comes before one of these.
-    case QEvent::Show:
-    case QEvent::Resize:
-    case QEvent::WindowStateChange:
-        updateButtons();
-        break;
-    default:
-        break;
-    }
+    else if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
+        elideTitle(); // of the label
+    return QFrame::eventFilter(watched, event);
 }
 
 void TitleBar::retranslate()
@@ -198,33 +152,6 @@ void TitleBar::elideTitle()
     const QString shown = m_titleLabel->fontMetrics().elidedText(m_title, Qt::ElideRight, width);
     m_titleLabel->setText(shown);
     m_titleLabel->setToolTip(shown == m_title ? QString() : m_title);
-}
-
-void TitleBar::updateButtons()
-{
-    for (int id = LogoButton; id < ButtonCount; ++id)
-        m_buttons[id]->setVisible(m_requestedVisibility[id].value_or(isButtonUseful(id)));
-}
-
-bool TitleBar::isButtonUseful(int id) const
-{
-    switch (id) {
-    case LogoButton:
-        return !m_buttons[LogoButton]->icon().isNull();
-    case MinButton:
-        return m_window->windowType() == Qt::Window;
-    case MaxButton:
-        return canMaximize(m_window) && !m_window->isMaximized();
-    case RestoreButton:
-        return canMaximize(m_window) && m_window->isMaximized();
-    default:
-        return true;
-    }
-}
-
-QToolButton *TitleBar::findButton(int id) const
-{
-    return id >= LogoButton && id < ButtonCount ? m_buttons[id] : nullptr;
 }
 
 } // namespace UX::Widgets

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "windowdragger.h"
+
 #include <QFrame>
 #include <QString>
+#include <QToolButton>
 
 #include <optional>
 
 class QIcon;
 class QLabel;
-class QToolButton;
 
 namespace UX::Widgets {
 
@@ -19,44 +21,38 @@ class TitleBar : public QFrame
 public:
     enum ButtonId { LogoButton, MinButton, MaxButton, RestoreButton, CloseButton };
 
-    // Follows the title, the icon and the state of window, which must live at least as long as the
-    // bar and is its parent until a layout takes the bar.
+    // Follows the title and the icon of window, which is dragged by the bar, must live at least as
+    // long, and is its parent until a layout takes the bar.
     explicit TitleBar(QWidget *window);
 
-    QString title() const;
+    QString title() const { return m_title; }
     // A title that is too long is elided at the right and shown whole as tool tip.
     void setTitle(const QString &title);
 
     // The button with this ButtonId, or null for any other number.
-    QWidget *titleButton(const int &id) const;
+    QWidget *titleButton(const int &id) const { return button(id); }
     void setTitleButtonIcon(const int &id, const QIcon &icon);
-    // From now on the button is shown or hidden whatever the window's kind and state.
+    // The logo and the buttons that minimise and close show by themselves where they are of use.
     void setTitleButtonVisible(const int &id, bool visible);
 
-    // Whether maximising makes sense: not for a dialog, nor where a direction has a fixed size.
-    static bool canMaximize(const QWidget *window);
-
 protected:
-    void changeEvent(QEvent *event) override;
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     static constexpr int ButtonCount = CloseButton + 1;
 
     void createButtons();
-    void connectButtons();
     void layOut();
     void retranslate();
     void elideTitle();
-    void followWindow(const QEvent *event);
-    void updateButtons();
-    bool isButtonUseful(int id) const;
-    QToolButton *findButton(int id) const;
+    QToolButton *button(int id) const;
 
     QWidget *const m_window;
+    WindowDragger m_dragger;
     QLabel *const m_titleLabel;
     QToolButton *m_buttons[ButtonCount] = {};
-    std::optional<bool> m_requestedVisibility[ButtonCount];
+    std::optional<bool> m_logoVisible; // as asked for; otherwise where the window has an icon
     QString m_title;
 };
 

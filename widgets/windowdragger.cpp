@@ -1,7 +1,5 @@
 #include "windowdragger.h"
 
-#include "titlebar.h"
-
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QWidget>
@@ -9,31 +7,26 @@
 
 namespace UX::Widgets {
 
-WindowDragger::WindowDragger(QWidget *window)
-    : m_window(window)
-{ }
-
 bool WindowDragger::handleEvent(const QEvent *event)
 {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        return takeHold(static_cast<const QMouseEvent *>(event));
+    case QEvent::MouseButtonDblClick:
+        return beginDrag(static_cast<const QMouseEvent *>(event));
     case QEvent::MouseMove:
         return drag(static_cast<const QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
-        return letGo(static_cast<const QMouseEvent *>(event));
-    case QEvent::MouseButtonDblClick:
-        return doubleClick(static_cast<const QMouseEvent *>(event));
+        return endDrag(static_cast<const QMouseEvent *>(event));
     default:
         return false;
     }
 }
 
-bool WindowDragger::takeHold(const QMouseEvent *event)
+bool WindowDragger::beginDrag(const QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton || m_window->isMaximized() || m_window->isFullScreen())
+    if (event->button() != Qt::LeftButton || m_window->isMaximized())
         return false;
-    m_grip = event->globalPos() - m_window->pos();
+    m_offset = event->globalPos() - m_window->pos();
     m_isDragging = true;
     return true;
 }
@@ -50,28 +43,15 @@ bool WindowDragger::drag(const QMouseEvent *event)
     if (startSystemMove())
         m_isDragging = false;
     else
-        m_window->move(event->globalPos() - m_grip);
+        m_window->move(event->globalPos() - m_offset);
     return true;
 }
 
-bool WindowDragger::letGo(const QMouseEvent *event)
+bool WindowDragger::endDrag(const QMouseEvent *event)
 {
     if (!m_isDragging || event->button() != Qt::LeftButton)
         return false;
     m_isDragging = false;
-    return true;
-}
-
-bool WindowDragger::doubleClick(const QMouseEvent *event)
-{
-    if (!TitleBar::canMaximize(m_window))
-        return takeHold(event);
-    if (event->button() != Qt::LeftButton)
-        return false;
-    if (m_window->isMaximized())
-        m_window->showNormal();
-    else
-        m_window->showMaximized();
     return true;
 }
 

@@ -9,26 +9,27 @@ class QWidget;
 namespace UX::Widgets {
 
 // Does for a frameless window what a system title bar does with the mouse: the left button drags
-// the window, and a double click maximises or restores it if its size is not fixed.
+// the window.
 class WindowDragger
 {
 public:
     // The window is not owned and must outlive the dragger.
-    explicit WindowDragger(QWidget *window);
+    explicit WindowDragger(QWidget *window)
+        : m_window(window)
+    { }
 
     // Takes an event of the title bar; true if it was one for the dragger and is dealt with.
     bool handleEvent(const QEvent *event);
 
 private:
-    bool takeHold(const QMouseEvent *event);
+    bool beginDrag(const QMouseEvent *event);
     bool drag(const QMouseEvent *event);
-    bool letGo(const QMouseEvent *event);
-    bool doubleClick(const QMouseEvent *event);
+    bool endDrag(const QMouseEvent *event);
     bool startSystemMove();
 
     QWidget *m_window;
-    // Where the mouse holds the window, from the window's top left corner.
-    QPoint m_grip;
+    // Of the mouse, from the window's top left corner.
+    QPoint m_offset;
     bool m_isDragging = false;
 };
 

@@ -1,12 +1,14 @@
 #include "appmainwindow.h"
 #include "titlebar.h"
+#include "windowdrag.h"
 
 #include <QLabel>
-#include <QWindow>
 #include <QtTest>
 
 using UX::Utils::AppMainWindow;
 using UX::Widgets::TitleBar;
+
+Q_DECLARE_METATYPE(Qt::MouseButton)
 
 namespace {
 
@@ -23,14 +25,10 @@ private slots:
     void window_isFramelessAndCanBeMinimised();
     void windowTitle_showsInTheTitleBar();
     void centralWidget_fillsTheWindowBelowTheTitleBar();
-    void closeButton_closes();
-    void minimiseButton_minimises();
-    void dragOnTheTitleBar_movesTheWindow_data();
-    void dragOnTheTitleBar_movesTheWindow();
-    void dragOnTheContent_doesNot();
-    void rightButton_doesNotDrag();
-    void doubleClickOnAFixedSize_doesNothing();
-    void doubleClickOnAResizable_togglesMaximised();
+    void buttons_minimiseAndClose();
+    void drag_movesTheWindowByItsTitleBar_data();
+    void drag_movesTheWindowByItsTitleBar();
+    void doubleClick_doesNotMaximise();
 };
 
 void TestAppMainWindow::window_isFramelessAndCanBeMinimised()
@@ -66,105 +64,57 @@ void TestAppMainWindow::centralWidget_fillsTheWindowBelowTheTitleBar()
     QCOMPARE(bar, QRect(0, 0, 585, titleBarHeight));
 }
 
-void TestAppMainWindow::closeButton_closes()
+void TestAppMainWindow::buttons_minimiseAndClose()
 {
     AppMainWindow window;
     window.show();
+    QTest::mouseClick(window.titleBar()->titleButton(TitleBar::MinButton), Qt::LeftButton);
+    QVERIFY(window.isMinimized());
     QTest::mouseClick(window.titleBar()->titleButton(TitleBar::CloseButton), Qt::LeftButton);
     QVERIFY(!window.isVisible());
 }
 
-void TestAppMainWindow::minimiseButton_minimises()
-{
-    AppMainWindow window;
-    window.setFixedSize(fixedSize);
-    window.show();
-    QTest::mouseClick(window.titleBar()->titleButton(TitleBar::MinButton), Qt::LeftButton);
-    QVERIFY(window.isMinimized());
-}
-
-void TestAppMainWindow::dragOnTheTitleBar_movesTheWindow_data()
+void TestAppMainWindow::drag_movesTheWindowByItsTitleBar_data()
 {
     QTest::addColumn<QPoint>("grip");
-    QTest::newRow("empty part") << QPoint(2, 2);
-    QTest::newRow("logo") << QPoint(14, 14);
-    QTest::newRow("title") << QPoint(60, 14);
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::addColumn<bool>("moves");
+    QTest::newRow("empty part") << QPoint(2, 2) << Qt::LeftButton << true;
+    QTest::newRow("logo") << QPoint(14, 14) << Qt::LeftButton << true;
+    QTest::newRow("title") << QPoint(60, 14) << Qt::LeftButton << true;
+    QTest::newRow("right button") << QPoint(60, 14) << Qt::RightButton << false;
+    QTest::newRow("content") << QPoint(60, titleBarHeight + 1) << Qt::LeftButton << false;
 }
 
-// Sends press, moves and release through the window system, so that they find their widget as the
-// operator's would.
-static void dragThroughTheWindow(QWidget &window, const QPoint &grip, const QPoint &delta,
-                                 Qt::MouseButton button)
+void TestAppMainWindow::drag_movesTheWindowByItsTitleBar()
 {
-    QWindow *handle = window.windowHandle();
-    const QPoint from = window.mapToGlobal(grip);
-    QTest::mousePress(handle, button, Qt::NoModifier, grip);
-    QTest::mouseMove(handle, handle->mapFromGlobal(from + delta / 3));
-    QTest::mouseMove(handle, handle->mapFromGlobal(from + delta));
-    QTest::mouseRelease(handle, button, Qt::NoModifier, handle->mapFromGlobal(from + delta));
-}
-
-void TestAppMainWindow::dragOnTheTitleBar_movesTheWindow()
-{
-    QFETCH(QPoint, grip);
+    QFETCH(const QPoint, grip);
+    QFETCH(const Qt::MouseButton, button);
+    QFETCH(const bool, moves);
     AppMainWindow window;
+    window.setCentralWidget(new QWidget);
     QPixmap logo(16, 16);
     logo.fill(Qt::red);
     window.setWindowIcon(QIcon(logo));
-    window.setWindowTitle(QStringLiteral("A title to take hold of"));
+    window.setWindowTitle(QStringLiteral("A title to drag"));
     window.setFixedSize(fixedSize);
     window.move(100, 80);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 
-    dragThroughTheWindow(window, grip, QPoint(47, -31), Qt::LeftButton);
-    QCOMPARE(window.pos(), QPoint(147, 49));
+    dragThroughTheWindow(window, grip, QPoint(47, -31), button);
+    QCOMPARE(window.pos(), moves ? QPoint(147, 49) : QPoint(100, 80));
 }
 
-void TestAppMainWindow::dragOnTheContent_doesNot()
-{
-    AppMainWindow window;
-    window.setCentralWidget(new QWidget);
-    window.setFixedSize(fixedSize);
-    window.move(100, 80);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-    dragThroughTheWindow(window, QPoint(60, titleBarHeight + 1), QPoint(47, 31), Qt::LeftButton);
-    QCOMPARE(window.pos(), QPoint(100, 80));
-}
-
-void TestAppMainWindow::rightButton_doesNotDrag()
+void TestAppMainWindow::doubleClick_doesNotMaximise()
 {
     AppMainWindow window;
     window.setFixedSize(fixedSize);
     window.move(100, 80);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-    dragThroughTheWindow(window, QPoint(60, 14), QPoint(47, 31), Qt::RightButton);
-    QCOMPARE(window.pos(), QPoint(100, 80));
-}
-
-void TestAppMainWindow::doubleClickOnAFixedSize_doesNothing()
-{
-    AppMainWindow window;
-    window.setFixedSize(fixedSize);
-    window.move(100, 80);
-    window.show();
-    QTest::mouseDClick(window.titleBar(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 14));
-    QCOMPARE(window.windowState(), Qt::WindowStates(Qt::WindowNoState));
-    QCOMPARE(window.geometry(), QRect(QPoint(100, 80), fixedSize));
-}
-
-void TestAppMainWindow::doubleClickOnAResizable_togglesMaximised()
-{
-    AppMainWindow window;
-    window.show();
-    QTest::mouseDClick(window.titleBar(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 14));
-    QVERIFY(window.isMaximized());
     QTest::mouseDClick(window.titleBar(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 14));
     QVERIFY(!window.isMaximized());
+    QCOMPARE(window.geometry(), QRect(QPoint(100, 80), fixedSize));
 }
 
 QTEST_MAIN(TestAppMainWindow)

@@ -1,5 +1,6 @@
 #include "framelessdialog.h"
 #include "titlebar.h"
+#include "windowdrag.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -49,25 +50,20 @@ private slots:
     void windowTitle_showsInTheTitleBar();
     void layout_goesIntoTheContentArea();
     void buttons_areVisibleAndNamed();
-    void okButton_acceptsAndCancelRejects_data();
-    void okButton_acceptsAndCancelRejects();
-    void closeButton_rejects();
+    void okButton_acceptsAndTheOthersReject_data();
+    void okButton_acceptsAndTheOthersReject();
     void buttonRow_goesWithTheLastButton_data();
     void buttonRow_goesWithTheLastButton();
     void focus_isOnTheDefaultButton_data();
     void focus_isOnTheDefaultButton();
-    void focus_staysWhereTheSubclassSetIt();
     void background_isFilledWithTheDefaultColor();
-    void drag_movesTheDialog();
-    void drag_withTheRightButtonDoesNot();
-    void doubleClick_doesNotMaximise();
+    void drag_movesTheDialogUnmaximised();
 
     void modality_followsTheWayOfShowing();
     void firstShow_centresOnTheParentWindow();
     void firstShow_staysOnTheScreen_data();
     void firstShow_staysOnTheScreen();
-    void laterShow_keepsThePlace();
-    void explicitPlace_isKept();
+    void placeThatIsSet_isKept();
 };
 
 void TestFramelessDialog::dialog_isFramelessWhateverTheFlags_data()
@@ -134,31 +130,25 @@ void TestFramelessDialog::buttons_areVisibleAndNamed()
     }
 }
 
-void TestFramelessDialog::okButton_acceptsAndCancelRejects_data()
+void TestFramelessDialog::okButton_acceptsAndTheOthersReject_data()
 {
-    QTest::addColumn<bool>("accepts");
-    QTest::newRow("OK") << true;
-    QTest::newRow("Cancel") << false;
+    QTest::addColumn<QByteArray>("button");
+    for (const char *button : {"OK", "Cancel", "Close"})
+        QTest::newRow(button) << QByteArray(button);
 }
 
-void TestFramelessDialog::okButton_acceptsAndCancelRejects()
+void TestFramelessDialog::okButton_acceptsAndTheOthersReject()
 {
-    QFETCH(bool, accepts);
+    QFETCH(const QByteArray, button);
     SampleDialog dialog;
-    QPushButton *button = accepts ? dialog.m_okButton : dialog.m_cancelButton;
-    QTimer::singleShot(0, &dialog, [button] { QTest::mouseClick(button, Qt::LeftButton); });
-    QCOMPARE(dialog.exec(), int(accepts ? QDialog::Accepted : QDialog::Rejected));
+    QWidget *clicked = dialog.m_titleBar->titleButton(TitleBar::CloseButton);
+    if (button != "Close")
+        clicked = button == "OK" ? dialog.m_okButton : dialog.m_cancelButton;
+    const QSignalSpy rejected(&dialog, &QDialog::rejected);
+    QTimer::singleShot(0, &dialog, [clicked] { QTest::mouseClick(clicked, Qt::LeftButton); });
+    QCOMPARE(dialog.exec(), int(button == "OK" ? QDialog::Accepted : QDialog::Rejected));
+    QCOMPARE(rejected.count(), button == "OK" ? 0 : 1);
     QVERIFY(!dialog.isVisible());
-}
-
-void TestFramelessDialog::closeButton_rejects()
-{
-    SampleDialog dialog;
-    QWidget *close = dialog.m_titleBar->titleButton(TitleBar::CloseButton);
-    QSignalSpy rejected(&dialog, &QDialog::rejected);
-    QTimer::singleShot(0, &dialog, [close] { QTest::mouseClick(close, Qt::LeftButton); });
-    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QCOMPARE(rejected.count(), 1);
 }
 
 void TestFramelessDialog::buttonRow_goesWithTheLastButton_data()
@@ -194,37 +184,30 @@ void TestFramelessDialog::buttonRow_goesWithTheLastButton()
 void TestFramelessDialog::focus_isOnTheDefaultButton_data()
 {
     QTest::addColumn<bool>("ok");
-    QTest::newRow("OK") << true;
-    QTest::newRow("Cancel, without OK") << false;
+    QTest::addColumn<bool>("set");
+    QTest::newRow("OK") << true << false;
+    QTest::newRow("Cancel, without OK") << false << false;
+    QTest::newRow("where the subclass has set it") << true << true;
 }
 
 void TestFramelessDialog::focus_isOnTheDefaultButton()
 {
     QFETCH(bool, ok);
+    QFETCH(bool, set);
     SampleDialog dialog;
     auto *layout = new QVBoxLayout;
-    layout->addWidget(new QLineEdit);
+    auto *edit = new QLineEdit;
+    layout->addWidget(edit);
     dialog.setLayout(layout);
     dialog.setOKButtonVisible(ok);
+    if (set)
+        edit->setFocus();
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
 
-    QCOMPARE(dialog.focusWidget(), ok ? dialog.m_okButton : dialog.m_cancelButton);
-    QCOMPARE(QApplication::focusWidget(), dialog.focusWidget());
-    QVERIFY(qobject_cast<QPushButton *>(dialog.focusWidget())->isDefault());
-}
-
-void TestFramelessDialog::focus_staysWhereTheSubclassSetIt()
-{
-    SampleDialog dialog;
-    auto *layout = new QVBoxLayout;
-    auto *first = new QPushButton;
-    layout->addWidget(first);
-    dialog.setLayout(layout);
-    first->setFocus();
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    QCOMPARE(QApplication::focusWidget(), first);
+    QPushButton *button = ok ? dialog.m_okButton : dialog.m_cancelButton;
+    QCOMPARE(QApplication::focusWidget(), set ? static_cast<QWidget *>(edit) : button);
+    QVERIFY(set || button->isDefault());
 }
 
 void TestFramelessDialog::background_isFilledWithTheDefaultColor()
@@ -242,45 +225,16 @@ void TestFramelessDialog::background_isFilledWithTheDefaultColor()
         QCOMPARE(changed.pixelColor(point), QColor(1, 2, 3));
 }
 
-static void dragThroughTheWindow(QWidget &window, const QPoint &delta, Qt::MouseButton button)
-{
-    const QPoint grip(40, 14);
-    QWindow *handle = window.windowHandle();
-    const QPoint from = window.mapToGlobal(grip);
-    QTest::mousePress(handle, button, Qt::NoModifier, grip);
-    QTest::mouseMove(handle, handle->mapFromGlobal(from + delta / 3));
-    QTest::mouseMove(handle, handle->mapFromGlobal(from + delta));
-    QTest::mouseRelease(handle, button, Qt::NoModifier, handle->mapFromGlobal(from + delta));
-}
-
-void TestFramelessDialog::drag_movesTheDialog()
+void TestFramelessDialog::drag_movesTheDialogUnmaximised()
 {
     SampleDialog dialog;
     dialog.setGeometry(200, 150, 360, 220);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    dragThroughTheWindow(dialog, QPoint(-23, 71), Qt::LeftButton);
-    QCOMPARE(dialog.geometry(), QRect(177, 221, 360, 220));
-}
-
-void TestFramelessDialog::drag_withTheRightButtonDoesNot()
-{
-    SampleDialog dialog;
-    dialog.setGeometry(200, 150, 360, 220);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    dragThroughTheWindow(dialog, QPoint(-23, 71), Qt::RightButton);
-    QCOMPARE(dialog.geometry(), QRect(200, 150, 360, 220));
-}
-
-void TestFramelessDialog::doubleClick_doesNotMaximise()
-{
-    SampleDialog dialog;
-    dialog.setGeometry(200, 150, 360, 220);
-    dialog.show();
     QTest::mouseDClick(dialog.m_titleBar, Qt::LeftButton, Qt::NoModifier, QPoint(40, 14));
     QVERIFY(!dialog.isMaximized());
-    QCOMPARE(dialog.geometry(), QRect(200, 150, 360, 220));
+    dragThroughTheWindow(dialog, QPoint(40, 14), QPoint(-23, 71), Qt::LeftButton);
+    QCOMPARE(dialog.geometry(), QRect(177, 221, 360, 220));
 }
 
 void TestFramelessDialog::modality_followsTheWayOfShowing()
@@ -341,22 +295,17 @@ void TestFramelessDialog::firstShow_staysOnTheScreen()
     QCOMPARE(dialog.geometry(), QRect(expected, QSize(300, 200)));
 }
 
-void TestFramelessDialog::laterShow_keepsThePlace()
+void TestFramelessDialog::placeThatIsSet_isKept()
 {
     SampleDialog dialog;
+    for (const QPoint &place : {QPoint(33, 44), QPoint(55, 66)}) { // before the first show as well
+        dialog.move(place);
+        dialog.show();
+        QCOMPARE(dialog.pos(), place);
+        dialog.hide();
+    }
     dialog.show();
-    dialog.move(33, 44);
-    dialog.hide();
-    dialog.show();
-    QCOMPARE(dialog.pos(), QPoint(33, 44));
-}
-
-void TestFramelessDialog::explicitPlace_isKept()
-{
-    SampleDialog dialog;
-    dialog.move(33, 44);
-    dialog.show();
-    QCOMPARE(dialog.pos(), QPoint(33, 44));
+    QCOMPARE(dialog.pos(), QPoint(55, 66));
 }
 
 QTEST_MAIN(TestFramelessDialog)

@@ -56,29 +56,17 @@ class TestTitleBar : public QObject
 
 private slots:
     void windowTitle_isShown();
-    void longTitle_isElidedAndWholeAsToolTip();
-    void title_thatFitsAgainLosesItsToolTip();
-    void title_isElidedAgainWhenTheWindowGetsNarrower();
-    void markup_isShownAsItIs();
+    void titleThatDoesNotFit_isElidedAndWholeAsToolTip();
 
     void parts_carryTheStyleProperties_data();
     void parts_carryTheStyleProperties();
     void buttons_standInTheOrderOfTheirIds();
-    void buttons_takeNoFocus();
     void unknownId_isIgnored_data();
     void unknownId_isIgnored();
-    void buttonIcon_canBeSet();
-    void everyWindowButton_hasAnIcon();
 
-    void windowIcon_showsOnTheLogo();
-    void logo_hidesWithoutAnIcon();
-    void resizableWindow_offersMaximise();
-    void maximisedWindow_offersRestore();
-    void fixedSizeWindow_offersNeither_data();
-    void fixedSizeWindow_offersNeither();
-    void dialog_offersCloseAlone();
-    void requestedVisibility_staysThroughStateChanges();
-
+    void logo_showsTheWindowsIcon();
+    void window_offersWhatItNeeds();
+    void requestedButton_isShown();
     void buttons_actOnTheWindow();
     void newLanguage_changesTheToolTips();
 };
@@ -95,53 +83,32 @@ void TestTitleBar::windowTitle_isShown()
     QCOMPARE(titled.bar->height(), 28);
 }
 
-void TestTitleBar::longTitle_isElidedAndWholeAsToolTip()
-{
-    Titled<QWidget> titled(250);
-    titled.window.show();
-    const QString title = QStringLiteral("A very long title ").repeated(10);
-    titled.window.setWindowTitle(title);
-
-    const QString shown = titled.label()->text();
-    QVERIFY(shown.endsWith(QChar(0x2026)));
-    QVERIFY(title.startsWith(shown.left(shown.size() - 1)));
-    QVERIFY(shown.size() > 5);
-    QVERIFY(titled.label()->fontMetrics().boundingRect(shown).width() <= titled.label()->width());
-    QCOMPARE(titled.label()->toolTip(), title);
-    QCOMPARE(titled.bar->title(), title);
-    QCOMPARE(titled.window.width(), 250);
-}
-
-void TestTitleBar::title_thatFitsAgainLosesItsToolTip()
-{
-    Titled<QWidget> titled(250);
-    titled.window.show();
-    titled.bar->setTitle(QStringLiteral("A very long title ").repeated(10));
-    titled.bar->setTitle(QStringLiteral("Short"));
-
-    QCOMPARE(titled.label()->text(), QStringLiteral("Short"));
-    QCOMPARE(titled.label()->toolTip(), QString());
-}
-
-void TestTitleBar::title_isElidedAgainWhenTheWindowGetsNarrower()
+void TestTitleBar::titleThatDoesNotFit_isElidedAndWholeAsToolTip()
 {
     Titled<QWidget> titled(600);
     titled.window.show();
-    const QString title = QStringLiteral("A title for a wide window");
+    const QString title = QStringLiteral("A <b>title</b> for a wide window");
     titled.window.setWindowTitle(title);
     QCOMPARE(titled.label()->text(), title);
+    QCOMPARE(titled.label()->textFormat(), Qt::PlainText);
 
-    titled.window.resize(180, 100);
-    QTRY_VERIFY(titled.label()->text().endsWith(QChar(0x2026)));
+    titled.window.resize(200, 100);
+    QTRY_VERIFY(titled.label()->text() != title);
+    const QString shown = titled.label()->text();
+    QVERIFY(shown.endsWith(QChar(0x2026)));
+    QVERIFY(title.startsWith(shown.left(shown.size() - 1)));
+    QVERIFY(titled.label()->fontMetrics().boundingRect(shown).width() <= titled.label()->width());
+    QCOMPARE(titled.label()->toolTip(), title);
+    QCOMPARE(titled.label()->accessibleName(), title);
+    QCOMPARE(titled.bar->title(), title);
+    QCOMPARE(titled.window.width(), 200);
+
+    titled.bar->setTitle(QStringLiteral("Short"));
+    QCOMPARE(titled.label()->text(), QStringLiteral("Short"));
+    QCOMPARE(titled.label()->toolTip(), QString());
+    titled.bar->setTitle(title);
     titled.window.resize(600, 100);
     QTRY_COMPARE(titled.label()->text(), title);
-}
-
-void TestTitleBar::markup_isShownAsItIs()
-{
-    Titled<QWidget> titled;
-    titled.bar->setTitle(QStringLiteral("<b>bold</b>"));
-    QCOMPARE(titled.label()->textFormat(), Qt::PlainText);
 }
 
 void TestTitleBar::parts_carryTheStyleProperties_data()
@@ -164,6 +131,8 @@ void TestTitleBar::parts_carryTheStyleProperties()
 
     QCOMPARE(titled.button(id)->dynamicPropertyNames(), QList<QByteArray>{property});
     QCOMPARE(titled.button(id)->property(property.constData()), QVariant(true));
+    QCOMPARE(titled.button(id)->focusPolicy(), Qt::NoFocus);
+    QCOMPARE(titled.button(id)->icon().isNull(), id == TitleBar::LogoButton);
     QCOMPARE(titled.label()->property("isTitleBarTitle"), QVariant(true));
     QCOMPARE(titled.bar->property("isTitleBar"), QVariant(true));
 }
@@ -183,13 +152,6 @@ void TestTitleBar::buttons_standInTheOrderOfTheirIds()
     QCOMPARE(titled.button(4)->geometry().right(), titled.bar->rect().right());
 }
 
-void TestTitleBar::buttons_takeNoFocus()
-{
-    Titled<QWidget> titled;
-    for (int id = 0; id <= 4; ++id)
-        QCOMPARE(titled.button(id)->focusPolicy(), Qt::NoFocus);
-}
-
 void TestTitleBar::unknownId_isIgnored_data()
 {
     QTest::addColumn<int>("id");
@@ -204,114 +166,52 @@ void TestTitleBar::unknownId_isIgnored()
     QCOMPARE(titled.bar->titleButton(id), nullptr);
     titled.bar->setTitleButtonIcon(id, plainIcon(Qt::red));
     titled.bar->setTitleButtonVisible(id, false);
+    titled.window.show();
     QVERIFY(titled.shows(TitleBar::CloseButton));
 }
 
-void TestTitleBar::buttonIcon_canBeSet()
+void TestTitleBar::logo_showsTheWindowsIcon()
 {
     Titled<QWidget> titled;
-    titled.bar->setTitleButtonIcon(4, plainIcon(Qt::cyan));
+    titled.window.show();
+    QVERIFY(!titled.shows(TitleBar::LogoButton));
+    for (const QColor color : {Qt::green, Qt::magenta}) {
+        titled.window.setWindowIcon(plainIcon(color));
+        QVERIFY(titled.shows(TitleBar::LogoButton));
+        QCOMPARE(faceColor(titled.button(0)), color);
+    }
+    titled.bar->setTitleButtonVisible(TitleBar::LogoButton, false);
+    titled.window.setWindowIcon(plainIcon(Qt::blue));
+    QVERIFY(!titled.shows(TitleBar::LogoButton));
+
+    titled.bar->setTitleButtonIcon(TitleBar::CloseButton, plainIcon(Qt::cyan));
     QCOMPARE(faceColor(titled.button(4)), QColor(Qt::cyan));
     QVERIFY(faceColor(titled.button(1)) != QColor(Qt::cyan));
 }
 
-void TestTitleBar::everyWindowButton_hasAnIcon()
+void TestTitleBar::window_offersWhatItNeeds()
 {
-    Titled<QWidget> titled;
-    for (int id = 1; id <= 4; ++id)
-        QVERIFY(!titled.button(id)->icon().pixmap(16, 16).isNull());
+    Titled<QWidget> main;
+    main.window.show();
+    Titled<QDialog> dialog;
+    dialog.window.show();
+    QVERIFY(main.shows(TitleBar::MinButton));
+    QVERIFY(!dialog.shows(TitleBar::MinButton));
+    for (const int id : {TitleBar::MaxButton, TitleBar::RestoreButton})
+        QVERIFY(!main.shows(id) && !dialog.shows(id));
+    QVERIFY(main.shows(TitleBar::CloseButton) && dialog.shows(TitleBar::CloseButton));
 }
 
-void TestTitleBar::windowIcon_showsOnTheLogo()
-{
-    Titled<QWidget> titled;
-    titled.window.setWindowIcon(plainIcon(Qt::green));
-    QCOMPARE(faceColor(titled.button(0)), QColor(Qt::green));
-    QVERIFY(titled.shows(TitleBar::LogoButton));
-
-    titled.window.setWindowIcon(plainIcon(Qt::magenta));
-    QCOMPARE(faceColor(titled.button(0)), QColor(Qt::magenta));
-}
-
-void TestTitleBar::logo_hidesWithoutAnIcon()
-{
-    Titled<QWidget> titled;
-    QVERIFY(!titled.shows(TitleBar::LogoButton));
-}
-
-void TestTitleBar::resizableWindow_offersMaximise()
-{
-    Titled<QWidget> titled;
-    QVERIFY(TitleBar::canMaximize(&titled.window));
-    QVERIFY(titled.shows(TitleBar::MinButton));
-    QVERIFY(titled.shows(TitleBar::MaxButton));
-    QVERIFY(!titled.shows(TitleBar::RestoreButton));
-    QVERIFY(titled.shows(TitleBar::CloseButton));
-}
-
-void TestTitleBar::maximisedWindow_offersRestore()
-{
-    Titled<QWidget> titled;
-    titled.window.showMaximized();
-    QVERIFY(!titled.shows(TitleBar::MaxButton));
-    QVERIFY(titled.shows(TitleBar::RestoreButton));
-
-    titled.window.showNormal();
-    QVERIFY(titled.shows(TitleBar::MaxButton));
-    QVERIFY(!titled.shows(TitleBar::RestoreButton));
-}
-
-void TestTitleBar::fixedSizeWindow_offersNeither_data()
-{
-    QTest::addColumn<QSize>("minimum");
-    QTest::addColumn<QSize>("maximum");
-    const int most = QWIDGETSIZE_MAX;
-
-    QTest::newRow("both directions") << QSize(585, 245) << QSize(585, 245);
-    QTest::newRow("width") << QSize(585, 0) << QSize(585, most);
-    QTest::newRow("height") << QSize(0, 245) << QSize(most, 245);
-}
-
-void TestTitleBar::fixedSizeWindow_offersNeither()
-{
-    QFETCH(QSize, minimum);
-    QFETCH(QSize, maximum);
-    Titled<QWidget> titled;
-    titled.window.setMinimumSize(minimum);
-    titled.window.setMaximumSize(maximum);
-    titled.window.show();
-
-    QVERIFY(!TitleBar::canMaximize(&titled.window));
-    QVERIFY(titled.shows(TitleBar::MinButton));
-    QVERIFY(!titled.shows(TitleBar::MaxButton));
-    QVERIFY(!titled.shows(TitleBar::RestoreButton));
-    QVERIFY(titled.shows(TitleBar::CloseButton));
-}
-
-void TestTitleBar::dialog_offersCloseAlone()
+void TestTitleBar::requestedButton_isShown()
 {
     Titled<QDialog> titled;
+    for (int id = 0; id <= 4; ++id)
+        titled.bar->setTitleButtonVisible(id, true);
     titled.window.show();
-
-    QVERIFY(!TitleBar::canMaximize(&titled.window));
-    QVERIFY(!titled.shows(TitleBar::MinButton));
-    QVERIFY(!titled.shows(TitleBar::MaxButton));
-    QVERIFY(!titled.shows(TitleBar::RestoreButton));
-    QVERIFY(titled.shows(TitleBar::CloseButton));
-}
-
-void TestTitleBar::requestedVisibility_staysThroughStateChanges()
-{
-    Titled<QWidget> titled;
-    titled.window.setWindowIcon(plainIcon(Qt::green));
-    titled.bar->setTitleButtonVisible(TitleBar::LogoButton, false);
-    titled.bar->setTitleButtonVisible(TitleBar::RestoreButton, false);
-    titled.window.showMaximized();
-
-    QVERIFY(!titled.shows(TitleBar::LogoButton));
-    QVERIFY(!titled.shows(TitleBar::RestoreButton));
-    titled.bar->setTitleButtonVisible(TitleBar::LogoButton, true);
-    QVERIFY(titled.shows(TitleBar::LogoButton));
+    for (int id = 0; id <= 4; ++id)
+        QVERIFY(titled.shows(id));
+    titled.bar->setTitleButtonVisible(TitleBar::CloseButton, false);
+    QVERIFY(!titled.shows(TitleBar::CloseButton));
 }
 
 void TestTitleBar::buttons_actOnTheWindow()
