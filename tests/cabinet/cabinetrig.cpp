@@ -1,26 +1,26 @@
 #include "cabinetrig.h"
 
 #include "colordialog.h"
-#include "customerqlabel.h"
 #include "filedialog.h"
-#include "savesoon.h"
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QtTest>
 
-QByteArray pictureFile(const QColor &color, const QSize &size, const char *format)
+namespace {
+
+constexpr QSize canvasSize(128, 64);
+
+// Leaves the picture there first, for the panel to find.
+template<typename Settings>
+const Settings &after(const QByteArray &kept, const Settings &settings)
 {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    if (!image.save(&buffer, format))
-        qFatal("no picture of this format");
-    return bytes;
+    KeptPicture::set(kept);
+    return settings;
 }
+
+} // namespace
 
 namespace KeptPicture {
 
@@ -53,32 +53,38 @@ QByteArray contents()
 
 } // namespace KeptPicture
 
+const char *const countKeys[] = {"tarnBoxWidth", "tarnBoxHeight", "tarnModelColumnCount",
+                                 "tarnModelRowCount"};
+const char *const advancedKeys[] = {"advanceFontSize",  "advanceBeginRow",  "advanceBeginColumn",
+                                    "advanceModeWidth", "advanceScanWidth", "advanceFontShape"};
+
+QVector<int> advancedFields(const ScrGrid &drawer)
+{
+    return {drawer.m_fontSize,        drawer.m_beginRow,      drawer.m_beginColumn,
+            drawer.m_moduleLineWidth, drawer.m_scanLineWidth, drawer.m_fontShape};
+}
+
 CabinetRig::CabinetRig(const QVariantMap &values, const QByteArray &kept)
-    : settings(values)
+    : PanelRig(after(kept, values), canvasSize)
 {
-    KeptPicture::set(kept);
-    build();
+    takeDrawer();
 }
 
-CabinetRig::~CabinetRig()
+CabinetRig::CabinetRig(const QByteArray &contents)
+    : PanelRig(after({}, contents), canvasSize)
 {
-    canvas.setDrawer(nullptr);
+    takeDrawer();
 }
 
-void CabinetRig::build()
+void CabinetRig::takeDrawer()
 {
-    panel = std::make_unique<TarnTool>(&canvas, settings.get(), nullptr);
     drawer = qobject_cast<ScrGrid *>(panel->getDrawer());
-    canvas.setDrawer(drawer);
 }
 
 void CabinetRig::restart()
 {
-    canvas.setDrawer(nullptr);
-    panel.reset();
-    settings->sync();
-    settings.reopen();
-    build();
+    PanelRig::restart();
+    takeDrawer();
 }
 
 QPushButton *CabinetRig::pushButton(int index) const
@@ -90,12 +96,6 @@ QPushButton *CabinetRig::pushButton(int index) const
     return buttons.at(inOrder ? index : 1 - index);
 }
 
-void CabinetRig::click(QWidget *control) const
-{
-    // At the left, where a radio button has its indicator.
-    QTest::mouseClick(control, Qt::LeftButton, Qt::NoModifier, QPoint(8, control->height() / 2));
-}
-
 QStringList CabinetRig::enabledControls() const
 {
     QStringList names;
@@ -105,11 +105,6 @@ QStringList CabinetRig::enabledControls() const
             names << (child == layoutButton() ? QStringLiteral("layout") : child->objectName());
     }
     return names;
-}
-
-bool CabinetRig::isSaveDue() const
-{
-    return panel->findChild<SaveSoon *>()->isDue();
 }
 
 QVariant CabinetRig::stored(const char *key) const
@@ -125,6 +120,12 @@ void DialogAnswers::color(const QColor &color)
 void DialogAnswers::file(const QString &path)
 {
     FileDialog::setAnswer([path](const QString &) { return path; });
+}
+
+void DialogAnswers::none()
+{
+    ColorDialog::setAnswer([](const QColor &) -> QColor { qFatal("nothing is to be asked"); });
+    FileDialog::setAnswer([](const QString &) -> QString { qFatal("nothing is to be asked"); });
 }
 
 DialogAnswers::~DialogAnswers()

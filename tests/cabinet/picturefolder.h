@@ -16,13 +16,20 @@ public:
         return image;
     }
 
-    static QByteArray png(const QImage &image)
+    static QByteArray encoded(const QImage &image, const char *format = "PNG")
     {
         QByteArray bytes;
         QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "PNG");
+        if (!image.save(&buffer, format))
+            qFatal("no picture of this format");
         return bytes;
+    }
+
+    // The file of a picture in one colour.
+    static QByteArray file(const QColor &color, const QSize &size = QSize(8, 6),
+                           const char *format = "PNG")
+    {
+        return encoded(filled(size, color), format);
     }
 
     QString path() const { return m_folder.path(); }
@@ -36,8 +43,10 @@ public:
         return file.fileName();
     }
 
-    QString add(const QImage &image) { return add(png(image)); }
-    QString add(const QColor &color) { return add(filled({5, 3}, color)); }
+    QString add(const QImage &image) { return add(encoded(image)); }
+    QString add(const QColor &color) { return add(file(color)); }
+
+    void remove() { m_folder.remove(); }
 
 private:
     QTemporaryDir m_folder;

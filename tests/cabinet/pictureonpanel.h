@@ -2,6 +2,7 @@
 
 #include "cabinetrig.h"
 #include "customerqlabel.h"
+#include "picturefolder.h"
 #include "pictureloader.h"
 
 #include <QtTest>
@@ -43,7 +44,7 @@ int decodedDuring(const Action &action)
 // What its header says is right.
 inline QByteArray damagedPicture()
 {
-    const QByteArray whole = pictureFile(Qt::cyan, QSize(300, 200));
+    const QByteArray whole = PictureFolder::file(Qt::cyan, QSize(300, 200));
     return whole.left(whole.size() / 2);
 }
 
@@ -53,7 +54,7 @@ inline void addWhatIsNoPicture()
     QTest::addColumn<QByteArray>("contents");
     QTest::newRow("zero bytes") << QByteArray("");
     QTest::newRow("text") << QByteArray("no picture");
-    QByteArray huge = pictureFile(Qt::cyan, QSize(300, 200), "BMP");
+    QByteArray huge = PictureFolder::file(Qt::cyan, QSize(300, 200), "BMP");
     huge.replace(18, 8, QByteArray::fromHex("ffff0000ffff0000"));
     QTest::newRow("huge") << huge;
 }

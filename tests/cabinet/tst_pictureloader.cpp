@@ -2,7 +2,6 @@
 #include "picturefolder.h"
 #include "pictureloader.h"
 
-#include <QBuffer>
 #include <QDateTime>
 #include <QImage>
 #include <QPainter>
@@ -13,15 +12,6 @@
 #endif
 
 namespace {
-
-QByteArray saved(const QImage &image, const char *format)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    if (!image.save(&buffer, format))
-        qFatal("no picture of this format");
-    return bytes;
-}
 
 // Noise, so that no format makes it much smaller.
 QImage noise(QImage::Format format)
@@ -54,7 +44,8 @@ void addPictures()
                                                           {"32 bits", QImage::Format_ARGB32}};
     for (const char *format : {"BMP", "PNG", "JPG", "PPM", "XBM", "XPM"}) {
         for (const auto &depth : depths)
-            QTest::addRow("%s, %s", format, depth.first) << saved(noise(depth.second), format);
+            QTest::addRow("%s, %s", format, depth.first)
+                << PictureFolder::encoded(noise(depth.second), format);
     }
     QTest::newRow("GIF") << gif();
 }
@@ -64,7 +55,7 @@ constexpr int bmpHeight = 22; // where it stands
 // With the rows from top to bottom, and the height negative for that.
 QByteArray topDownBmp(const QImage &image)
 {
-    QByteArray bytes = saved(image.mirrored(), "BMP");
+    QByteArray bytes = PictureFolder::encoded(image.mirrored(), "BMP");
     bytes.replace(bmpHeight, 4, QByteArray::fromHex("d7ffffff"));
     return bytes;
 }
@@ -80,7 +71,7 @@ void setAge(const QString &path)
 // A PNG of one pixel, with another header (size, format and checksum).
 QByteArray png(const char *header)
 {
-    QByteArray bytes = saved(PictureFolder::filled({1, 1}, Qt::red), "PNG");
+    QByteArray bytes = PictureFolder::encoded(PictureFolder::filled({1, 1}, Qt::red), "PNG");
     const QByteArray other = QByteArray::fromHex(header);
     return bytes.replace(16, other.size(), other);
 }
@@ -176,7 +167,7 @@ void TestPictureLoader::cutOffPicture_countsWhenQtReadsIt()
 void TestPictureLoader::missingRowsOfABmp_areBlack()
 {
     const QImage image = noise(QImage::Format_RGB32);
-    const QByteArray data = saved(image, "BMP");
+    const QByteArray data = PictureFolder::encoded(image, "BMP");
     for (const int rows : {1, 20}) {
         const int rowBytes = (data.size() - 54) / image.height();
         const QByteArray rest = data.left(data.size() - (rows - 1) * rowBytes - 1);
@@ -224,7 +215,7 @@ void TestPictureLoader::veryLargeJpeg_isReducedWhileItIsDecoded()
         for (int x = 0; x < stripes.width(); ++x)
             line[x] = x % 2 == 0 ? 255 : 0;
     }
-    const QImage picture = read(saved(stripes, "JPG"));
+    const QImage picture = read(PictureFolder::encoded(stripes, "JPG"));
     QCOMPARE(picture.size(), QSize(8736, 6552));
     for (int x = 0; x < picture.width(); ++x) {
         const int gray = qGray(picture.pixel(x, 3000));
@@ -235,7 +226,7 @@ void TestPictureLoader::veryLargeJpeg_isReducedWhileItIsDecoded()
 void TestPictureLoader::pictureWithTooManyPixels_isNone_data()
 {
     QTest::addColumn<QByteArray>("data");
-    QByteArray header = saved(noise(QImage::Format_RGB32), "BMP");
+    QByteArray header = PictureFolder::encoded(noise(QImage::Format_RGB32), "BMP");
     header.replace(18, 8, QByteArray::fromHex("0040000001400000"));
     QTest::newRow("BMP that declares them") << header;
     header.replace(18, 8, QByteArray::fromHex("00400000ffbfffff"));
@@ -328,7 +319,8 @@ void TestPictureLoader::anotherFileOfTheSameSizeAndAge_isDecoded()
 {
     PictureLoader loader;
     for (const QColor color : {Qt::red, Qt::blue}) {
-        const QString path = m_folder.add(saved(PictureFolder::filled({9, 9}, color), "BMP"));
+        const QString path =
+            m_folder.add(PictureFolder::encoded(PictureFolder::filled({9, 9}, color), "BMP"));
         setAge(path);
         QCOMPARE(loader.load(path).pixelColor(0, 0), color);
     }
@@ -347,7 +339,7 @@ void TestPictureLoader::fileThatIsNoPicture_leavesTheLastOneDecoded()
 
 void TestPictureLoader::header_isReadWithoutDecoding()
 {
-    const QByteArray data = PictureFolder::png(noise(QImage::Format_RGB32));
+    const QByteArray data = PictureFolder::encoded(noise(QImage::Format_RGB32));
     const QString damaged = m_folder.add(data.left(data.size() / 2));
     const int before = PictureLoader::decodedCount();
     QVERIFY(PictureLoader::isPicture(damaged));

@@ -1,4 +1,3 @@
-#include "picturefolder.h"
 #include "scrgridrig.h"
 
 #include <QPainter>
@@ -63,12 +62,13 @@ QImage white(const QSize &size)
 }
 
 // What a function of the drawer paints on an image that is larger than the window.
-template<typename Paint>
-QImage paintedBeyond(const ScrGridRig &rig, const Paint &paint)
+QImage paintedBeyond(const ScrGridRig &rig, void (ScrGrid::*paint)(QPainter &) const,
+                     const QFont &font = {})
 {
     QImage image = white(rig.canvas.size() + QSize(100, 100));
     QPainter painter(&image);
-    paint(painter);
+    painter.setFont(font);
+    (rig.drawer.*paint)(painter);
     return image;
 }
 
@@ -107,13 +107,11 @@ private slots:
     void update_repaintsTheWindow();
     void moduleWiderThanTheWindow_leavesOneLine();
     void windowOfWholeCells_numbersOneMoreColumnBeyond();
-    void countingFromZero_startsWithFourZeros_data();
-    void countingFromZero_startsWithFourZeros();
+    void numbers_growInTheOrderOfTheColumns_data();
     void numbers_growInTheOrderOfTheColumns();
     void fontShape_isNormalBoldItalicOrAsItWas_data();
     void fontShape_isNormalBoldItalicOrAsItWas();
     void bothSlants_endDifferently();
-    void missingPicture_leavesTheOneBefore();
 };
 
 void TestScrGrid::newDrawer_isInactiveAndPaintsNothing()
@@ -189,8 +187,7 @@ void TestScrGrid::moduleWiderThanTheWindow_leavesOneLine()
     rig.drawer.m_moduleWidth = 101;
     rig.drawer.m_moduleHeight = 1000;
     const auto columns = [&rig] {
-        return inkColumns(
-            paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawModuleLines(p); }), 20);
+        return inkColumns(paintedBeyond(rig, &ScrGrid::drawModuleLines), 20);
     };
     QCOMPARE(columns(), QVector<int>{0});
     rig.drawer.m_leftToRight = false;
@@ -201,8 +198,7 @@ void TestScrGrid::windowOfWholeCells_numbersOneMoreColumnBeyond()
 {
     ScrGridRig rig(QSize(128, 32));
     const auto beyond = [&rig] {
-        const QImage image = paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawText(p); });
-        return yellowIn(image, QRect(128, 0, 90, 32));
+        return yellowIn(paintedBeyond(rig, &ScrGrid::drawText), QRect(128, 0, 90, 32));
     };
     QVERIFY(!beyond().isEmpty());
     QVERIFY(QRect(128, 0, 64, 32).contains(beyond()));
@@ -210,47 +206,42 @@ void TestScrGrid::windowOfWholeCells_numbersOneMoreColumnBeyond()
     QVERIFY(beyond().isEmpty());
 }
 
-void TestScrGrid::countingFromZero_startsWithFourZeros_data()
+void TestScrGrid::numbers_growInTheOrderOfTheColumns_data()
 {
     QTest::addColumn<bool>("leftToRight");
-    QTest::addColumn<int>("left");
-    QTest::newRow("at the top left") << true << 0;
-    QTest::newRow("at the top right") << false << 36;
-}
-
-void TestScrGrid::countingFromZero_startsWithFourZeros()
-{
-    QFETCH(const bool, leftToRight);
-    QFETCH(const int, left);
-    ScrGridRig rig(QSize(100, 30));
-    rig.drawer.m_beginRow = 0;
-    rig.drawer.m_beginColumn = 0;
-    rig.drawer.m_leftToRight = leftToRight;
-    const QRect cell(left, 0, 64, 32);
-    const QImage image = paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawText(p); });
-    QFont font;
-    font.setPointSize(10);
-    const QImage expected = textInCell(image.size(), cell, font, QStringLiteral("0000"));
-    QCOMPARE(image.copy(cell), expected.copy(cell));
+    QTest::addColumn<int>("beginRow");
+    QTest::addColumn<int>("beginColumn");
+    QTest::addColumn<QPoint>("place"); // of a cell in a window of 3 cells and a part
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, bool leftToRight, int beginRow, int beginColumn,
+                        const QPoint &place, const char *text) {
+        QTest::newRow(name) << leftToRight << beginRow << beginColumn << place
+                            << QString::fromLatin1(text);
+    };
+    row("from zero at the left", true, 0, 0, QPoint(0, 0), "0000");
+    row("from zero at the right", false, 0, 0, QPoint(136, 0), "0000");
+    row("second from the left", true, 11, 104, QPoint(64, 32), "12105");
+    row("second from the right", false, 11, 104, QPoint(72, 32), "12105");
+    row("third from the left", true, 11, 104, QPoint(128, 0), "11106");
+    row("third from the right", false, 11, 104, QPoint(8, 0), "11106");
 }
 
 void TestScrGrid::numbers_growInTheOrderOfTheColumns()
 {
-    ScrGridRig rig(QSize(192, 96));
-    rig.drawer.m_beginRow = 11;
-    rig.drawer.m_beginColumn = 104;
+    QFETCH(const QPoint, place);
+    QFETCH(const QString, text);
+    QFETCH(const bool, leftToRight);
+    QFETCH(const int, beginRow);
+    QFETCH(const int, beginColumn);
+    ScrGridRig rig(QSize(200, 96));
+    rig.drawer.m_leftToRight = leftToRight;
+    rig.drawer.m_beginRow = beginRow;
+    rig.drawer.m_beginColumn = beginColumn;
     QFont font;
     font.setPointSize(10);
-    const QRect second(64, 32, 64, 32); // row and column
-    for (const bool leftToRight : {true, false}) {
-        rig.drawer.m_leftToRight = leftToRight;
-        const QImage image = paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawText(p); });
-        const QImage expected = textInCell(image.size(), second, font, QStringLiteral("12105"));
-        QCOMPARE(image.copy(second), expected.copy(second));
-        const QRect right(128, 0, 64, 32);
-        const QString text = leftToRight ? QStringLiteral("11106") : QStringLiteral("11104");
-        QCOMPARE(image.copy(right), textInCell(image.size(), right, font, text).copy(right));
-    }
+    const QRect cell(place, QSize(64, 32));
+    const QImage image = paintedBeyond(rig, &ScrGrid::drawText);
+    QCOMPARE(image.copy(cell), textInCell(image.size(), cell, font, text).copy(cell));
 }
 
 void TestScrGrid::fontShape_isNormalBoldItalicOrAsItWas_data()
@@ -276,10 +267,7 @@ void TestScrGrid::fontShape_isNormalBoldItalicOrAsItWas()
     QFont font;
     font.setWeight(75);
     font.setStyle(QFont::StyleItalic);
-    const QImage image = paintedBeyond(rig, [&](QPainter &p) {
-        p.setFont(font);
-        rig.drawer.drawText(p);
-    });
+    const QImage image = paintedBeyond(rig, &ScrGrid::drawText, font);
     font.setPointSize(9);
     font.setWeight(weight);
     font.setStyle(QFont::Style(style));
@@ -293,10 +281,8 @@ void TestScrGrid::bothSlants_endDifferently()
     rig.drawer.m_layoutOn = false;
     rig.drawer.m_slantLeftLines = true;
     rig.drawer.m_slantRightLines = true;
-    const QImage rising =
-        paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawSlantLeftLines(p); });
-    const QImage falling =
-        paintedBeyond(rig, [&rig](QPainter &p) { rig.drawer.drawSlantRightLines(p); });
+    const QImage rising = paintedBeyond(rig, &ScrGrid::drawSlantLeftLines);
+    const QImage falling = paintedBeyond(rig, &ScrGrid::drawSlantRightLines);
 
     QCOMPARE(inkColumns(rising, 0), (QVector<int>{0, 8, 16}));
     QCOMPARE(inkColumns(rising, 3), (QVector<int>{5, 13}));
@@ -310,23 +296,6 @@ void TestScrGrid::bothSlants_endDifferently()
             QCOMPARE(shown.pixel(x, y) == LayoutColor::black, onLine);
         }
     }
-}
-
-void TestScrGrid::missingPicture_leavesTheOneBefore()
-{
-    PictureFolder pictures;
-    ScrGridRig rig(QSize(60, 40));
-    rig.drawer.setBackgroundImage(pictures.add(QColor(Qt::green)));
-    QCOMPARE(rig.painted().pixel(5, 5), LayoutColor::green);
-
-    const QString missing = pictures.path() + QStringLiteral("/missing");
-    rig.drawer.setBackgroundImage(missing);
-
-    QCOMPARE(rig.drawer.m_bgPicturePath, missing);
-    QCOMPARE(rig.painted().pixel(5, 5), LayoutColor::green);
-    rig.drawer.updateBackgroundImage();
-    QCOMPARE(rig.drawer.m_bgPicturePath, missing);
-    QCOMPARE(rig.painted().pixel(5, 5), LayoutColor::green);
 }
 
 QTEST_MAIN(TestScrGrid)

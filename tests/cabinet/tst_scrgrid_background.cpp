@@ -11,7 +11,6 @@ class TestScrGridBackground : public QObject
 
 private slots:
     void backgrounds_showOnTheScreenOneAfterAnother();
-    void background_showsAfterAnotherTest_data();
     void background_showsAfterAnotherTest();
     void windowsOwnBackground_isTheSame();
     void newStyleSheet_doesNotHideTheBackground();
@@ -21,8 +20,7 @@ private slots:
     void changedBackground_asksForOneMorePaint();
     void refresh_paintsOncePerTimeout();
     void oldTest_showsItsColourBehindTheLayout();
-    void setBgColor_keepsTheRestOfThePalette();
-    void loadBgPicture_startsFromAFreshPalette();
+    void picture_startsFromAFreshPaletteAndAColourDoesNot();
 
 private:
     PictureFolder m_pictures;
@@ -47,23 +45,15 @@ void TestScrGridBackground::backgrounds_showOnTheScreenOneAfterAnother()
     QTRY_VERIFY(rig.shows(LayoutColor::green));
 }
 
-void TestScrGridBackground::background_showsAfterAnotherTest_data()
-{
-    QTest::addColumn<bool>("grid");
-    QTest::newRow("purity") << false;
-    QTest::newRow("grid") << true;
-}
-
 void TestScrGridBackground::background_showsAfterAnotherTest()
 {
-    QFETCH(const bool, grid);
     ScrGridWindow rig;
     ScrPurity purity(&rig.window);
     GridDrawer lines(&rig.window);
+    purity.slot_colorChanged(Qt::green);
+    lines.slot_changeBgColor(Qt::green);
     for (const bool picture : {false, true}) {
-        rig.window.setDrawer(grid ? static_cast<DrawerBase *>(&lines) : &purity, true);
-        purity.slot_colorChanged(Qt::green);
-        lines.slot_changeBgColor(Qt::green);
+        rig.window.setDrawer(picture ? static_cast<DrawerBase *>(&lines) : &purity, true);
         QTRY_VERIFY(rig.shows(LayoutColor::green));
         rig.window.setDrawer(&rig.drawer, true);
         if (picture)
@@ -187,30 +177,22 @@ void TestScrGridBackground::oldTest_showsItsColourBehindTheLayout()
     QCOMPARE(onScreen(rig.window).pixel(1, 1), LayoutColor::red);
 }
 
-void TestScrGridBackground::setBgColor_keepsTheRestOfThePalette()
+void TestScrGridBackground::picture_startsFromAFreshPaletteAndAColourDoesNot()
 {
+    constexpr QPalette::ColorGroup groups[] = {QPalette::Active, QPalette::Inactive,
+                                               QPalette::Disabled};
     ScrGridRig rig;
     QPalette palette = rig.canvas.palette();
     palette.setColor(QPalette::Button, Qt::magenta);
     rig.canvas.setPalette(palette);
     rig.drawer.setBgColor(Qt::cyan);
-    for (const QPalette::ColorGroup group :
-         {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        QCOMPARE(rig.canvas.palette().brush(group, QPalette::Window),
-                 QBrush(Qt::cyan, Qt::SolidPattern));
+    for (const QPalette::ColorGroup group : groups)
+        QCOMPARE(rig.canvas.palette().brush(group, QPalette::Window), QBrush(Qt::cyan));
     QCOMPARE(rig.canvas.palette().color(QPalette::Button), QColor(Qt::magenta));
-}
 
-void TestScrGridBackground::loadBgPicture_startsFromAFreshPalette()
-{
-    ScrGridRig rig;
-    QPalette palette = rig.canvas.palette();
-    palette.setColor(QPalette::Button, Qt::magenta);
-    rig.canvas.setPalette(palette);
     rig.drawer.setBackgroundImage(m_red);
     rig.drawer.loadBgPicture();
-    for (const QPalette::ColorGroup group :
-         {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+    for (const QPalette::ColorGroup group : groups)
         QCOMPARE(rig.canvas.palette().brush(group, QPalette::Window).texture().cacheKey(),
                  rig.drawer.m_bgPixmap.cacheKey());
     QVERIFY(rig.canvas.palette().color(QPalette::Button) != QColor(Qt::magenta));

@@ -87,28 +87,6 @@ private:
     std::mt19937 m_engine{seed};
 };
 
-QString description(const ScrGrid &d)
-{
-    const QSize size = d.targetWidget->size();
-    return QStringLiteral("%1 x %2, modules %3 x %4, board %5 x %6, ")
-               .arg(size.width())
-               .arg(size.height())
-               .arg(d.m_moduleWidth)
-               .arg(d.m_moduleHeight)
-               .arg(d.m_moduleColumnCount)
-               .arg(d.m_moduleRowCount)
-           + QStringLiteral("lines %1 and %2 wide from %3, font %4 shape %5, begin %6 and %7, %8")
-                 .arg(d.m_moduleLineWidth)
-                 .arg(d.m_scanLineWidth)
-                 .arg(d.m_lineStart)
-                 .arg(d.m_fontSize)
-                 .arg(d.m_fontShape)
-                 .arg(d.m_beginRow)
-                 .arg(d.m_beginColumn)
-                 .arg(d.m_leftToRight ? QStringLiteral("left to right")
-                                      : QStringLiteral("right to left"));
-}
-
 // A window on a screen of another resolution than the first one's.
 class FineCanvas : public Canvas
 {
@@ -162,10 +140,8 @@ void TestScrGridExact::layoutsByLot_matchCallByCall()
         rig.canvas.resize(lot.size());
         lot.fill(rig.drawer);
         const QImage expected = DirectLayout::image(rig.drawer, scale);
-        if (rig.painted(scale) != expected)
-            QFAIL(qPrintable(QStringLiteral("%1: ").arg(i) + description(rig.drawer)));
-        if (rig.painted(scale) != expected)
-            QFAIL(qPrintable(QStringLiteral("again, %1: ").arg(i) + description(rig.drawer)));
+        QVERIFY2(rig.painted(scale) == expected, qPrintable(QString::number(i)));
+        QVERIFY2(rig.painted(scale) == expected, qPrintable(QStringLiteral("again, %1").arg(i)));
     }
 }
 
@@ -197,8 +173,7 @@ void TestScrGridExact::layersByLot_matchCallByCall()
         rig.drawer.drawText(painter);
         QCOMPARE(painter.pen(), direct.pen());
         QCOMPARE(painter.font(), direct.font());
-        if (image != expected)
-            QFAIL(qPrintable(description(rig.drawer)));
+        QVERIFY2(image == expected, qPrintable(QString::number(i)));
     }
 }
 

@@ -91,7 +91,7 @@ void TestScrGridPicture::translucentPicture_liesOverBlack()
 void TestScrGridPicture::fileThatIsNoPicture_leavesBlack_data()
 {
     QTest::addColumn<QByteArray>("content");
-    const QByteArray whole = PictureFolder::png(PictureFolder::filled({300, 200}, Qt::red));
+    const QByteArray whole = PictureFolder::file(Qt::red, {300, 200});
     QTest::newRow("nothing") << QByteArray();
     QTest::newRow("text") << QByteArray("no picture");
     QTest::newRow("cut off") << whole.left(whole.size() / 2);
@@ -141,6 +141,9 @@ void TestScrGridPicture::whatCannotBeRead_leavesThePictureBefore()
     rig.painted();
     QCOMPARE(rig.drawer.m_bgPicturePath, path);
     QCOMPARE(rig.drawer.m_bgPixmap.cacheKey(), before);
+    rig.drawer.updateBackgroundImage();
+    QCOMPARE(rig.drawer.m_bgPicturePath, path);
+    QCOMPARE(rig.painted().pixel(5, 5), LayoutColor::red);
 }
 
 QTEST_MAIN(TestScrGridPicture)

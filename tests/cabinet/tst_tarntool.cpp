@@ -1,12 +1,35 @@
 #include "advancedsetup.h"
 #include "cabinetrig.h"
-#include "colordialog.h"
+#include "dictionary.h"
+#include "paneltest.h"
+#include "picturefolder.h"
 
 #include <QtTest>
 
-class TestTarnTool : public QObject
+namespace {
+
+// After a press of the layout button.
+class UnlockedRig : public CabinetRig
+{
+public:
+    explicit UnlockedRig(const QByteArray &contents)
+        : CabinetRig(contents)
+    {
+        layOut();
+    }
+};
+
+} // namespace
+
+class TestTarnTool : public PanelTest<UnlockedRig>
 {
     Q_OBJECT
+
+protected:
+    QVariantMap defaults() const override;
+    QByteArray stored() const override;
+    QString texts() const override;
+    void addEdits() const override;
 
 private slots:
     void form_hasItsSizeAndItsControlsAsDirectChildren();
@@ -16,23 +39,50 @@ private slots:
     void lockedPanel_leavesItsDialogUsable();
     void getDrawer_makesTheDrawerInactive();
     void getData_copiesTheWholePanel();
-    void box_setsItsFieldAtOnce_data();
     void box_setsItsFieldAtOnce();
     void order_reachesTheDrawerAtOnce();
-    void colour_isChosenStoredAndShown_data();
-    void colour_isChosenStoredAndShown();
-    void cancelledColour_changesNothing_data();
-    void cancelledColour_changesNothing();
-    void clickOnTheColourLabelWhilePictureIsSelected_doesNothing();
-    void spaceKey_opensTheColourOfTheLabel();
-    void change_asksForARepaint();
-    void operatorsChange_raisesTheFlag_data();
-    void operatorsChange_raisesTheFlag();
+    void operatorsChange_showsAndRaisesTheFlag_data();
+    void operatorsChange_showsAndRaisesTheFlag();
     void setupButton_opensOneWindowModalDialogThatDeletesItself();
+    void openDialog_followsTheLanguage();
     void withoutSettings_thePanelWorks();
-    void withoutSettings_thePanelShowsItsDefaults();
     void escape_doesNotCloseThePage();
 };
+
+QVariantMap TestTarnTool::defaults() const
+{
+    return {{QStringLiteral("tarnBoxWidth"), 32},
+            {QStringLiteral("tarnBoxHeight"), 16},
+            {QStringLiteral("tarnModelColumnCount"), 2},
+            {QStringLiteral("tarnModelRowCount"), 2},
+            {QStringLiteral("tarnLeftToRight"), false},
+            {QStringLiteral("tarnBackgroundSelect"), true}};
+}
+
+QByteArray TestTarnTool::stored() const
+{
+    return "tarnBoxWidth = 5\ntarnBoxHeight = 20\ntarnModelColumnCount = 3\n"
+           "tarnModelRowCount = 4\ntarnLeftToRight = true\ntarnBackgroundSelect = false\n";
+}
+
+QString TestTarnTool::texts() const
+{
+    return QStringLiteral("模块宽度 模块宽度 模块高度 模块高度 从左到右 模块行数 模块行数 模块列数 "
+                          "模块列数 从右到左 字体颜色 字体颜色 模块线颜色 模块线颜色 扫描板颜色 "
+                          "扫描板颜色 纯色背景 纯色背景 背景图 背景图 高级设置 定位");
+}
+
+void TestTarnTool::addEdits() const
+{
+    edit("width", "", "boxWidth", 60, "", "tarnBoxWidth", "60");
+    edit("height", "", "boxHight", 60, "", "tarnBoxHeight", "60");
+    edit("columns", "", "boxColumn", 60, "", "tarnModelColumnCount", "60");
+    edit("rows", "", "boxRow", 60, "", "tarnModelRowCount", "60");
+    edit("from the left", "", "radioBeginLeft", {}, "", "tarnLeftToRight", "false");
+    edit("from the right", "tarnLeftToRight = false\n", "radioBeginRight", {}, "",
+         "tarnLeftToRight", "true");
+    edit("solid", "", "radioBackground", {}, "", "tarnBackgroundSelect", "true");
+}
 
 void TestTarnTool::form_hasItsSizeAndItsControlsAsDirectChildren()
 {
@@ -49,17 +99,7 @@ void TestTarnTool::form_hasItsSizeAndItsControlsAsDirectChildren()
         QVERIFY2(rig.panel->findChild<QWidget *>(name, Qt::FindDirectChildrenOnly),
                  qPrintable(name));
     for (const char *name : {"label", "label_2"})
-        QCOMPARE(rig.widget(name)->height(), 2);
-    const QRect page = rig.panel->rect();
-    const auto children = rig.panel->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QWidget *child : children) {
-        QVERIFY2(page.contains(child->geometry()), qPrintable(child->objectName()));
-        for (const QWidget *other : children) {
-            if (other != child)
-                QVERIFY2(!other->geometry().intersects(child->geometry()),
-                         qPrintable(child->objectName()));
-        }
-    }
+        QCOMPARE(rig.control(name)->height(), 2);
 }
 
 void TestTarnTool::construction_leavesOnlyTheLayoutButtonEnabled()
@@ -150,179 +190,65 @@ void TestTarnTool::getData_copiesTheWholePanel()
     QVERIFY(drawer->active);
 }
 
-void TestTarnTool::box_setsItsFieldAtOnce_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QSize>("counts"); // columns and rows
-    QTest::newRow("width") << QByteArray("boxWidth") << QSize(50, 16) << QSize(2, 2);
-    QTest::newRow("height") << QByteArray("boxHight") << QSize(32, 50) << QSize(2, 2);
-    QTest::newRow("columns") << QByteArray("boxColumn") << QSize(32, 16) << QSize(50, 2);
-    QTest::newRow("rows") << QByteArray("boxRow") << QSize(32, 16) << QSize(2, 50);
-}
-
 void TestTarnTool::box_setsItsFieldAtOnce()
 {
-    QFETCH(const QByteArray, name);
     const CabinetRig rig;
     rig.layOut();
-    rig.panel->getDrawer();
-    rig.box(name.constData())->setValue(50);
-    QTEST(QSize(rig.drawer->m_moduleWidth, rig.drawer->m_moduleHeight), "size");
-    QTEST(QSize(rig.drawer->m_moduleColumnCount, rig.drawer->m_moduleRowCount), "counts");
-    QVERIFY(rig.drawer->active);
-    QCOMPARE(rig.box(name.constData())->contextMenuPolicy(), Qt::NoContextMenu);
+    const std::pair<const char *, int ScrGrid::*> fields[] = {
+        {"boxWidth", &ScrGrid::m_moduleWidth},
+        {"boxHight", &ScrGrid::m_moduleHeight},
+        {"boxColumn", &ScrGrid::m_moduleColumnCount},
+        {"boxRow", &ScrGrid::m_moduleRowCount},
+    };
+    int value = 50;
+    for (const auto &[name, field] : fields) {
+        rig.box(name)->setValue(++value);
+        QCOMPARE(rig.drawer->*field, value);
+        QCOMPARE(rig.box(name)->contextMenuPolicy(), Qt::NoContextMenu);
+    }
+    QCOMPARE(rig.drawer->m_moduleWidth, 51); // not by the others
 }
 
 void TestTarnTool::order_reachesTheDrawerAtOnce()
 {
     const CabinetRig rig;
     rig.layOut();
-    rig.panel->getDrawer();
     rig.click("radioBeginRight");
     QVERIFY(!rig.drawer->m_leftToRight);
-    QVERIFY(rig.drawer->active);
     QVERIFY(rig.radio("radioBackground")->isChecked()); // the other group is left alone
-    rig.panel->getDrawer();
     rig.click("radioBeginLeft");
     QVERIFY(rig.drawer->m_leftToRight);
-    QVERIFY(rig.drawer->active);
 }
 
-void TestTarnTool::colour_isChosenStoredAndShown_data()
-{
-    QTest::addColumn<QByteArray>("swatch");
-    QTest::addColumn<QByteArray>("colorKey");
-    QTest::addColumn<QByteArray>("styleKey");
-    QTest::addColumn<int>("field");
-    QTest::newRow("numbers") << QByteArray("buttonFont") << QByteArray("tarnFontFontColor")
-                             << QByteArray("tarnFontColor") << 0;
-    QTest::newRow("module lines") << QByteArray("buttonModeLine")
-                                  << QByteArray("tarnModuleLineColor")
-                                  << QByteArray("tarnBoxLineColor") << 1;
-    QTest::newRow("scan-board lines") << QByteArray("buttonScan") << QByteArray("tarnScanLineColor")
-                                      << QByteArray("tarnModelColor") << 2;
-    QTest::newRow("background") << QByteArray("labelColor") << QByteArray("tarnBackColor")
-                                << QByteArray("tarnBackgroundColor") << 3;
-}
-
-void TestTarnTool::colour_isChosenStoredAndShown()
-{
-    QFETCH(const QByteArray, swatch);
-    QFETCH(const QByteArray, colorKey);
-    QFETCH(const QByteArray, styleKey);
-    QFETCH(const int, field);
-    const DialogAnswers answers;
-    const CabinetRig rig;
-    rig.layOut();
-    rig.panel->getDrawer();
-    QColor initial;
-    ColorDialog::setAnswer([&initial](const QColor &color) {
-        initial = color;
-        return QColor(1, 20, 255);
-    });
-    rig.click(swatch.constData());
-
-    QCOMPARE(initial, QColor(Qt::green));
-    QCOMPARE(rig.style(swatch.constData()), QStringLiteral("background-color: rgb(1,20,255)"));
-    QCOMPARE(rig.stored(styleKey.constData()).toString(),
-             QStringLiteral("background-color: rgb(1,20,255)"));
-    QCOMPARE(rig.stored(colorKey.constData()).value<QColor>(), QColor(1, 20, 255));
-    const QColor fields[] = {rig.drawer->m_fontColor, rig.drawer->m_moduleLineColor,
-                             rig.drawer->m_scanColor, rig.drawer->m_bgColor};
-    for (int each = 0; each < 4; ++each)
-        QCOMPARE(fields[each] == QColor(1, 20, 255), each == field);
-    QVERIFY(rig.drawer->active);
-}
-
-void TestTarnTool::cancelledColour_changesNothing_data()
-{
-    colour_isChosenStoredAndShown_data();
-}
-
-void TestTarnTool::cancelledColour_changesNothing()
-{
-    QFETCH(const QByteArray, swatch);
-    const DialogAnswers answers;
-    const CabinetRig rig;
-    rig.layOut();
-    rig.panel->getDrawer();
-    const QString style = rig.style(swatch.constData());
-    QVariantMap before = rig.settings.stored();
-    DialogAnswers::color(QColor());
-    rig.click(swatch.constData());
-
-    QCOMPARE(rig.style(swatch.constData()), style);
-    QCOMPARE(rig.settings.stored(), before);
-    QVERIFY(!rig.drawer->active);
-    QVERIFY(!rig.isSaveDue());
-}
-
-void TestTarnTool::clickOnTheColourLabelWhilePictureIsSelected_doesNothing()
-{
-    const DialogAnswers answers;
-    const CabinetRig rig({}, pictureFile(Qt::cyan));
-    rig.layOut();
-    QVERIFY(rig.radio("radioPicture")->isChecked());
-    ColorDialog::setAnswer([](const QColor &) -> QColor { qFatal("nothing is to be asked"); });
-    rig.panel->getDrawer();
-    rig.click("labelColor");
-    QVERIFY(!rig.drawer->active);
-    QCOMPARE(rig.drawer->m_bgPicturePath, KeptPicture::path());
-}
-
-void TestTarnTool::spaceKey_opensTheColourOfTheLabel()
-{
-    const DialogAnswers answers;
-    DialogAnswers::color(Qt::magenta);
-    const CabinetRig rig;
-    rig.panel->show();
-    QVERIFY(QTest::qWaitForWindowActive(rig.panel.get()));
-    rig.layOut();
-    rig.widget("labelColor")->setFocus();
-    QTest::keyClick(rig.widget("labelColor"), Qt::Key_Space);
-    QCOMPARE(rig.drawer->m_bgColor, QColor(Qt::magenta));
-}
-
-void TestTarnTool::change_asksForARepaint()
-{
-    CabinetRig rig;
-    rig.canvas.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&rig.canvas));
-    const auto isRepainted = [&rig](const std::function<void()> &change) {
-        QCoreApplication::processEvents();
-        const int before = rig.canvas.paintCount();
-        change();
-        return QTest::qWaitFor([&] { return rig.canvas.paintCount() > before; });
-    };
-    QVERIFY(isRepainted([&] { rig.layOut(); }));
-    QVERIFY(isRepainted([&] { rig.box("boxWidth")->setValue(20); }));
-    QVERIFY(isRepainted([&] { rig.click("radioBeginRight"); }));
-}
-
-void TestTarnTool::operatorsChange_raisesTheFlag_data()
+void TestTarnTool::operatorsChange_showsAndRaisesTheFlag_data()
 {
     QTest::addColumn<QByteArray>("control");
     for (const char *name : {"layout", "boxWidth", "boxHight", "boxRow", "boxColumn",
                              "radioBeginLeft", "radioBeginRight", "radioBackground", "radioPicture",
-                             "buttonFont", "buttonModeLine", "buttonScan", "labelColor"})
+                             "buttonFont", "buttonModeLine", "buttonScan"})
         QTest::newRow(name) << QByteArray(name);
 }
 
-void TestTarnTool::operatorsChange_raisesTheFlag()
+void TestTarnTool::operatorsChange_showsAndRaisesTheFlag()
 {
     QFETCH(const QByteArray, control);
     const DialogAnswers answers;
     DialogAnswers::color(Qt::white);
-    DialogAnswers::file(QString());
-    const CabinetRig rig;
+    CabinetRig rig({}, PictureFolder::file(Qt::cyan));
     rig.layOut();
+    rig.canvas.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&rig.canvas));
+    QCoreApplication::processEvents();
+    const int paints = rig.canvas.paintCount();
+    rig.panel->getDrawer();
     rig.panel->m_userChanged = false;
-    if (auto *box = qobject_cast<QSpinBox *>(rig.widget(control.constData())))
+    if (auto *box = qobject_cast<QSpinBox *>(rig.control(control.constData())))
         box->setValue(60);
     else
-        rig.click(control == "layout" ? rig.layoutButton() : rig.widget(control.constData()));
+        rig.click(control == "layout" ? rig.layoutButton() : rig.control(control.constData()));
     QVERIFY(rig.panel->m_userChanged);
+    QVERIFY(rig.drawer->active);
+    QTRY_VERIFY(rig.canvas.paintCount() > paints);
 }
 
 void TestTarnTool::setupButton_opensOneWindowModalDialogThatDeletesItself()
@@ -342,6 +268,16 @@ void TestTarnTool::setupButton_opensOneWindowModalDialogThatDeletesItself()
     QCOMPARE(rig.panel->findChildren<AdvancedSetup *>().size(), 1);
 }
 
+void TestTarnTool::openDialog_followsTheLanguage()
+{
+    CabinetRig rig;
+    rig.layOut();
+    rig.click(rig.setupButton());
+    const Dictionary dictionary(QStringLiteral("!"));
+    rig.updateLanguage();
+    QCOMPARE(rig.child<AdvancedSetup>("AdvancedSetup")->windowTitle(), QStringLiteral("高级设置!"));
+}
+
 void TestTarnTool::withoutSettings_thePanelWorks()
 {
     const DialogAnswers answers;
@@ -350,28 +286,20 @@ void TestTarnTool::withoutSettings_thePanelWorks()
     Canvas canvas;
     TarnTool panel(&canvas, nullptr, nullptr);
     auto *drawer = qobject_cast<ScrGrid *>(panel.getDrawer());
+    for (const char *name : {"radioBackground", "radioBeginLeft"})
+        QVERIFY(panel.findChild<QRadioButton *>(QLatin1String(name))->isChecked());
     const auto buttons = panel.findChildren<QPushButton *>();
     for (QPushButton *button : buttons) // the last is the layout button
         button->click();
+    QVERIFY(drawer->m_layoutOn);
+    QCOMPARE(QSize(drawer->m_moduleWidth, drawer->m_moduleHeight), QSize(32, 16));
+    QCOMPARE(QSize(drawer->m_moduleColumnCount, drawer->m_moduleRowCount), QSize(2, 2));
+    QCOMPARE(drawer->m_scanColor, QColor(Qt::blue));
     panel.findChild<QPushButton *>(QStringLiteral("buttonFont"))->click();
     panel.findChild<QSpinBox *>(QStringLiteral("boxRow"))->setValue(3);
     panel.saveTarnBaseInfo();
-    QVERIFY(drawer->m_layoutOn);
     QCOMPARE(drawer->m_moduleRowCount, 3);
     QCOMPARE(drawer->m_fontColor, QColor(Qt::white));
-    QCOMPARE(drawer->m_scanColor, QColor(Qt::blue));
-}
-
-void TestTarnTool::withoutSettings_thePanelShowsItsDefaults()
-{
-    Canvas canvas;
-    const TarnTool panel(&canvas, nullptr, nullptr);
-    const std::pair<const char *, int> counts[] = {
-        {"boxHight", 16}, {"boxWidth", 32}, {"boxColumn", 2}, {"boxRow", 2}};
-    for (const auto &[name, value] : counts)
-        QCOMPARE(panel.findChild<QSpinBox *>(QLatin1String(name))->value(), value);
-    for (const char *name : {"radioBackground", "radioBeginLeft"})
-        QVERIFY(panel.findChild<QRadioButton *>(QLatin1String(name))->isChecked());
 }
 
 void TestTarnTool::escape_doesNotCloseThePage()

@@ -1,5 +1,4 @@
 #include "cabinetrig.h"
-#include "filedialog.h"
 #include "picturefolder.h"
 #include "pictureonpanel.h"
 
@@ -20,7 +19,6 @@ private slots:
     void keptPictureThatIsNotSeen_isNotDecoded();
     void damagedKeptPicture_countsAsNoneOnceItIsSeen();
     void damagedKeptPicture_isAskedForAnew();
-    void storedChoice_countsWithAKeptPicture();
     void whatIsKeptAndIsNoPicture_countsAsNone_data();
     void whatIsKeptAndIsNoPicture_countsAsNone();
     void keptPipe_countsAsNone();
@@ -29,7 +27,7 @@ private slots:
 
 void TestTarnToolKeptPicture::keptPicture_isShownAtTheStart()
 {
-    CabinetRig rig({}, pictureFile(Qt::cyan, QSize(50, 10)));
+    CabinetRig rig({}, PictureFolder::file(Qt::cyan, QSize(50, 10)));
     QVERIFY(isPictureSelected(rig)); // nothing stored means the picture
     showPanel(rig);
     QTRY_VERIFY(thumbnailOf(rig) != 0);
@@ -48,7 +46,7 @@ void TestTarnToolKeptPicture::keptPicture_isShownAtTheStart()
 void TestTarnToolKeptPicture::keptPicture_isDecodedOnceWhenItIsFirstSeen()
 {
     const int decoded = decodedDuring([] {
-        CabinetRig rig({}, pictureFile(Qt::cyan));
+        CabinetRig rig({}, PictureFolder::file(Qt::cyan));
         showPanel(rig);
         QTRY_COMPARE(thumbnailOf(rig), qRgb(0, 255, 255));
         rig.layOut();
@@ -67,7 +65,8 @@ void TestTarnToolKeptPicture::keptPicture_isDecodedOnceWhenItIsFirstSeen()
 void TestTarnToolKeptPicture::keptPictureThatIsNotSeen_isNotDecoded()
 {
     const int decoded = decodedDuring([] {
-        CabinetRig rig({{QStringLiteral("tarnBackgroundSelect"), true}}, pictureFile(Qt::cyan));
+        CabinetRig rig({{QStringLiteral("tarnBackgroundSelect"), true}},
+                       PictureFolder::file(Qt::cyan));
         rig.layOut();
         rig.canvas.resize(200, 150);
         rig.panel->slot_drawerSizeChanged(200, 150);
@@ -112,14 +111,6 @@ void TestTarnToolKeptPicture::damagedKeptPicture_isAskedForAnew()
     QCOMPARE(cornerOf(rig), qRgb(0, 0, 255));
 }
 
-void TestTarnToolKeptPicture::storedChoice_countsWithAKeptPicture()
-{
-    const CabinetRig rig({{QStringLiteral("tarnBackgroundSelect"), true}}, pictureFile(Qt::cyan));
-    QVERIFY(!isPictureSelected(rig));
-    rig.layOut();
-    QCOMPARE(rig.drawer->m_bgPicturePath, QString());
-}
-
 void TestTarnToolKeptPicture::whatIsKeptAndIsNoPicture_countsAsNone_data()
 {
     addWhatIsNoPicture();
@@ -155,9 +146,11 @@ void TestTarnToolKeptPicture::keptPipe_countsAsNone()
 void TestTarnToolKeptPicture::pictureButton_takesTheKeptPicture()
 {
     const DialogAnswers answers;
-    CabinetRig rig({{QStringLiteral("tarnBackgroundSelect"), true}}, pictureFile(Qt::cyan));
-    FileDialog::setAnswer([](const QString &) -> QString { qFatal("nothing is to be asked"); });
+    CabinetRig rig({{QStringLiteral("tarnBackgroundSelect"), true}}, PictureFolder::file(Qt::cyan));
+    DialogAnswers::none();
+    QVERIFY(!isPictureSelected(rig)); // as stored
     rig.layOut();
+    QCOMPARE(rig.drawer->m_bgPicturePath, QString());
     rig.panel->getDrawer();
     rig.click("radioPicture");
     QCOMPARE(rig.drawer->m_bgPicturePath, KeptPicture::path());
