@@ -6,7 +6,6 @@
 #include "form.h"
 #include "savesoon.h"
 #include "settingsrules.h"
-#include "sliderspinboxpair.h"
 #include "swatchrow.h"
 #include "testcolor.h"
 
@@ -40,8 +39,10 @@ ScrGridCtrlDialog::ScrGridCtrlDialog(QWidget *testWindow, QSettings *settings_, 
     , mixColors(oldColors)
     , settings(settings_)
     , m_families(makeFamilies())
+    , m_grey(ui->hScrollBarGrayLevel, ui->labelGrayLevel)
+    , m_speed(ui->hScrollBarSpeed, ui->labelSpeed)
     , m_lamps(ui->signalGreenButton, ui->signalGreyButton)
-    , m_swatches(makeSwatches())
+    , m_swatches(new SwatchRow(*ui, this))
     , m_saveSoon(new SaveSoon([this] { saveWhileRunning(); }, this))
 {
     for (QPushButton *button : {ui->pushButtonPause, ui->pushButtonSettings})
@@ -58,14 +59,6 @@ ScrGridCtrlDialog::~ScrGridCtrlDialog()
     saveGridBaseInfo();
 }
 
-SwatchRow *ScrGridCtrlDialog::makeSwatches()
-{
-    return new SwatchRow({ui->radioButtonRed, ui->radioButtonGreen, ui->radioButtonBlue,
-                          ui->radioButtonWhite, ui->radioButtonYellow, ui->radioButtonCyan,
-                          ui->radioButtonPurple},
-                         this);
-}
-
 void ScrGridCtrlDialog::initSlots()
 {
     connect(this, &ScrGridCtrlDialog::signal_colorChanged, &drawer, &GridDrawer::slot_colorChanged);
@@ -74,8 +67,6 @@ void ScrGridCtrlDialog::initSlots()
     initLinesSlots();
     initSpeedCtrlSlots();
     initOldTestSlots();
-    SliderSpinBoxPair::link(ui->hScrollBarGrayLevel, ui->labelGrayLevel);
-    SliderSpinBoxPair::link(ui->hScrollBarSpeed, ui->labelSpeed);
 }
 
 void ScrGridCtrlDialog::initGrayScaleSlots()
@@ -120,14 +111,11 @@ void ScrGridCtrlDialog::initOldTestSlots()
             &ScrGridCtrlDialog::enableAdvanceSettings);
 }
 
-// The speed comes first: a slider without a range would start the timer for speed 0.
 void ScrGridCtrlDialog::initCtrls()
 {
     const auto hold = m_saveSoon->hold();
-    SliderSpinBoxPair::setRange(ui->hScrollBarSpeed, ui->labelSpeed, minimumSpeed, maximumSpeed);
-    SliderSpinBoxPair::setRange(ui->hScrollBarGrayLevel, ui->labelGrayLevel, 0, maximumGrey);
-    for (QSpinBox *spinBox : {ui->labelSpeed, ui->labelGrayLevel})
-        SliderSpinBoxPair::prepare(spinBox);
+    m_speed.setRange(minimumSpeed, maximumSpeed);
+    m_grey.setRange(0, maximumGrey);
     ui->radioButtonRed->setChecked(true);
     ui->hScrollBarGrayLevel->setValue(firstGrey);
 }
@@ -233,8 +221,8 @@ void ScrGridCtrlDialog::updateLanguage()
     CommonHelper::setQPushButtonText(ui->pushButtonSettings, tr("高级设置"));
     CommonHelper::setQPushButtonText(ui->pushButtonPause, tr("开始"));
     m_runningShown = false; // up to the next step
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarSpeed, ui->labelSpeed, tr("速度"));
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarGrayLevel, ui->labelGrayLevel, tr("灰度"));
+    m_speed.setAccessibleName(tr("速度"));
+    m_grey.setAccessibleName(tr("灰度"));
 }
 
 // A page of the tabs, not a window: Escape does not close it, and Enter does not press the

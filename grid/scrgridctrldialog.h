@@ -3,6 +3,7 @@
 #include "controlbase.h"
 #include "griddrawer.h"
 #include "runindicator.h"
+#include "sliderspinboxpair.h"
 
 #include <QColor>
 #include <QDialog>
@@ -140,7 +141,6 @@ private:
     using Families = std::array<Family, familyCount>;
 
     Families makeFamilies();
-    SwatchRow *makeSwatches();
     void initSlots();
     void initGrayScaleSlots();
     void initColorRadioSlots();
@@ -200,6 +200,8 @@ private:
     bool isSlantLeftPress = false;
     bool isSlantRightPress = false;
     const Families m_families; // in the order of lineIndex
+    SliderSpinBoxPair m_grey;
+    SliderSpinBoxPair m_speed;
     RunIndicator m_lamps;
     SwatchRow *m_swatches;
     SaveSoon *m_saveSoon;

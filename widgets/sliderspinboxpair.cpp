@@ -45,18 +45,6 @@ void SliderSpinBoxPair::setAccessibleName(const QString &name)
     m_spinBox->setAccessibleName(name);
 }
 
-void SliderSpinBoxPair::setRange(QSlider *slider, QSpinBox *spinBox, int minimum, int maximum)
-{
-    slider->setRange(minimum, maximum);
-    spinBox->setRange(minimum, maximum);
-}
-
-void SliderSpinBoxPair::setAccessibleName(QSlider *slider, QSpinBox *spinBox, const QString &name)
-{
-    slider->setAccessibleName(name);
-    spinBox->setAccessibleName(name);
-}
-
 void SliderSpinBoxPair::prepare(QSpinBox *spinBox)
 {
     spinBox->setAttribute(Qt::WA_MacShowFocusRect, false);

@@ -24,11 +24,6 @@ public:
     // the platform, no context menu.
     static void prepare(QSpinBox *spinBox);
 
-    // For a slider and a spin box that are no pair yet.
-    static void link(QSlider *slider, QSpinBox *spinBox) { SliderSpinBoxPair{slider, spinBox}; }
-    static void setRange(QSlider *slider, QSpinBox *spinBox, int minimum, int maximum);
-    static void setAccessibleName(QSlider *slider, QSpinBox *spinBox, const QString &name);
-
 private:
     QSlider *m_slider;
     QSpinBox *m_spinBox;
