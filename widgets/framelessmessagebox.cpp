@@ -74,20 +74,14 @@ QPushButton *FramelessMessageBox::button(QMessageBox::StandardButton which) cons
     return m_buttonBox->button(QDialogButtonBox::StandardButton(which));
 }
 
+// A size that fits a short text must not cut off its longer translation.
 void FramelessMessageBox::setVisible(bool visible)
 {
-    if (visible && !isVisible() && testAttribute(Qt::WA_Resized))
-        growToText();
+    if (visible && !isVisible() && testAttribute(Qt::WA_Resized)) {
+        ensurePolished();
+        resize(width(), qMax(height(), heightForWidth(width())));
+    }
     FramelessDialog::setVisible(visible);
-}
-
-// A size that fits a short text must not cut off its longer translation.
-void FramelessMessageBox::growToText()
-{
-    ensurePolished();
-    const int neededHeight = heightForWidth(width());
-    if (height() < neededHeight)
-        resize(width(), neededHeight);
 }
 
 } // namespace UX::Widgets

@@ -28,7 +28,6 @@ public:
     void setVisible(bool visible) override;
 
 private:
-    void growToText();
     void buildContent(QMessageBox::Icon icon, const QString &text);
     void createButtons(QMessageBox::StandardButtons buttons);
 

@@ -28,8 +28,7 @@ private:
     bool startSystemMove();
 
     QWidget *m_window;
-    // Of the mouse, from the window's top left corner.
-    QPoint m_offset;
+    QPoint m_offset; // of the mouse from the window's top left corner
     bool m_isDragging = false;
 };
 

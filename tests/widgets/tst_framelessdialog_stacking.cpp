@@ -22,7 +22,7 @@ private slots:
     void owner_dependsOnTheModality();
     void ownerOfAWindowModalDialog_isOnTopForItsTime_data();
     void ownerOfAWindowModalDialog_isOnTopForItsTime();
-    void laterShow_findsItsOwnerAnew();
+    void laterShow_findsItsOwnerAgain();
 };
 
 void TestFramelessDialogStacking::dialog_staysAboveAnOnTopWindow_data()
@@ -120,7 +120,7 @@ void TestFramelessDialogStacking::ownerOfAWindowModalDialog_isOnTopForItsTime()
     QVERIFY(main.isVisible());
 }
 
-void TestFramelessDialogStacking::laterShow_findsItsOwnerAnew()
+void TestFramelessDialogStacking::laterShow_findsItsOwnerAgain()
 {
     QWidget main;
     main.show();

@@ -49,8 +49,6 @@ private slots:
     void wholeArea_answersTheMouse_data();
     void wholeArea_answersTheMouse();
     void outside_doesNotAnswer();
-    void disabledButton_doesNotAnswer();
-    void click_onTheCheckedButtonKeepsItChecked();
 
     void styleSheet_fillsTheWholeArea();
     void fieldOfTheStyleSheet_leavesItsGap();
@@ -93,27 +91,6 @@ void TestSwatchButton::outside_doesNotAnswer()
     QTest::mousePress(&button, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
     QTest::mouseRelease(&button, Qt::LeftButton, Qt::NoModifier, QPoint(60, 5));
     QVERIFY(!button.isChecked());
-}
-
-void TestSwatchButton::disabledButton_doesNotAnswer()
-{
-    SwatchButton button;
-    prepare(button, QStringLiteral("R"));
-    button.setEnabled(false);
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QVERIFY(!button.isChecked());
-}
-
-void TestSwatchButton::click_onTheCheckedButtonKeepsItChecked()
-{
-    SwatchButton button;
-    prepare(button, QStringLiteral("R"));
-    QSignalSpy toggled(&button, &QAbstractButton::toggled);
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QTest::mouseClick(&button, Qt::LeftButton);
-
-    QVERIFY(button.isChecked());
-    QCOMPARE(toggled.count(), 1);
 }
 
 void TestSwatchButton::styleSheet_fillsTheWholeArea()

@@ -60,19 +60,16 @@ private slots:
     void otherColour_hasNoButton_data();
     void otherColour_hasNoButton();
 
-    void newRow_hasNothingSelected();
     void checking_saysItOnce_data();
     void checking_saysItOnce();
     void click_onAnUncheckedButtonSaysItTwice_data();
     void click_onAnUncheckedButtonSaysItTwice();
     void click_onTheCheckedButtonSaysItOnce();
-    void uncheckedButton_saysNothing();
     void row_isExclusive();
     void row_leavesOtherButtonsOfThePanelAlone();
 
     void names_areThoseOfTheInterfaceLanguage();
     void nameThatDoesNotFit_isToldByToolTipAndAccessibleName();
-    void nameThatDoesNotFit_isNotShownWhole();
 };
 
 void TestSwatchRow::button_isFoundByItsColour_data()
@@ -108,13 +105,6 @@ void TestSwatchRow::otherColour_hasNoButton()
     QFETCH(const QColor, color);
     const Row row;
     QVERIFY(!row.row->button(color));
-}
-
-void TestSwatchRow::newRow_hasNothingSelected()
-{
-    const Row row;
-    for (const QAbstractButton *button : row.all)
-        QVERIFY(!button->isChecked());
 }
 
 void TestSwatchRow::checking_saysItOnce_data()
@@ -162,17 +152,6 @@ void TestSwatchRow::click_onTheCheckedButtonSaysItOnce()
     QCOMPARE(selected.first().first().toInt(), 4);
 }
 
-void TestSwatchRow::uncheckedButton_saysNothing()
-{
-    const Row row;
-    row.all.at(4)->setChecked(true);
-    QSignalSpy selected(row.row.get(), &SwatchRow::selected);
-    row.all.at(5)->setChecked(true);
-
-    QCOMPARE(selected.count(), 1);
-    QVERIFY(!row.all.at(4)->isChecked());
-}
-
 void TestSwatchRow::row_isExclusive()
 {
     const Row row;
@@ -217,28 +196,18 @@ void TestSwatchRow::names_areThoseOfTheInterfaceLanguage()
 
 void TestSwatchRow::nameThatDoesNotFit_isToldByToolTipAndAccessibleName()
 {
-    const Row row;
-    const QString rest = QStringLiteral(" wide").repeated(8);
-    const Dictionary marked(rest);
-    row.row->retranslate();
-
-    for (int index = 0; index < count; ++index) {
-        QCOMPARE(row.all.at(index)->toolTip(), sourceNames().at(index) + rest);
-        QCOMPARE(row.all.at(index)->accessibleName(), sourceNames().at(index) + rest);
-    }
-}
-
-void TestSwatchRow::nameThatDoesNotFit_isNotShownWhole()
-{
     const Row narrow(42);
     const Row wide(400);
-    const Dictionary marked(QStringLiteral(" wide").repeated(4));
+    const QString rest = QStringLiteral(" wide").repeated(4);
+    const Dictionary marked(rest);
     narrow.row->retranslate();
     wide.row->retranslate();
 
     for (int index = 0; index < count; ++index) {
         const QAbstractButton *button = narrow.all.at(index);
         QVERIFY(button->fontMetrics().boundingRect(button->text()).width() <= button->width());
+        QCOMPARE(button->toolTip(), sourceNames().at(index) + rest);
+        QCOMPARE(button->accessibleName(), sourceNames().at(index) + rest);
         QCOMPARE(wide.all.at(index)->text(), wide.all.at(index)->accessibleName());
     }
 }
