@@ -125,11 +125,6 @@ void CabinetLayout::drawStrokes(QPainter &painter, Layer layer, qint64 from, qin
     painter.setPen(oldPen);
 }
 
-QSize CabinetLayout::moduleSize() const
-{
-    return {length(m_moduleWidth, 1), length(m_moduleHeight, 1)};
-}
-
 QSize CabinetLayout::cellSize() const
 {
     return {length(m_moduleWidth, m_moduleColumnCount), length(m_moduleHeight, m_moduleRowCount)};
@@ -140,7 +135,8 @@ LineFamily CabinetLayout::family(Layer layer) const
     const int start = qMax(0, m_lineStart);
     if (isGeneral(layer))
         return {LineFamily::Direction(layer), size, start, m_lineStep};
-    const QSize step = isOfModules(layer) ? moduleSize() : cellSize();
+    const QSize moduleSize(length(m_moduleWidth, 1), length(m_moduleHeight, 1));
+    const QSize step = isOfModules(layer) ? moduleSize : cellSize();
     if (layer == ModuleRows || layer == ScanRows)
         return {LineFamily::Horizontal, size, start, step.height()};
     int first = start;

@@ -103,7 +103,6 @@ struct CabinetLayout : LayoutParameters
 private:
     static qint64 cellCount(int windowLength, int cellLength);
     static QString numberText(qint64 number);
-    QSize moduleSize() const;
     QSize cellSize() const;
     bool isOn(Layer layer) const;
     qint64 fullCount(Layer layer) const;

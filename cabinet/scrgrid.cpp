@@ -5,10 +5,6 @@
 
 #include <utility>
 
-ScrGrid::ScrGrid(QWidget *parent)
-    : DrawerBase(parent)
-{ }
-
 // The background is the window's, painted before this is called; the picture that is shown has
 // it once more, so that a background set here is seen at once and the rest fits it to the pixel.
 void ScrGrid::draw(bool enabled)

@@ -4,8 +4,6 @@
 #include "layoutpicture.h"
 #include "pictureloader.h"
 
-class QPainter;
-
 // Paints the layout of an LED screen: a line at every module edge, another at every scan-board
 // edge, and the row and column of every scan board in its middle, over a colour or a picture.
 //
@@ -18,8 +16,7 @@ class ScrGrid
     Q_OBJECT
 
 public:
-    // `parent` is the test window.
-    explicit ScrGrid(QWidget *parent);
+    using DrawerBase::DrawerBase;
 
     void draw(bool enabled) override;
     bool coversWindow() const override { return m_layoutOn; }
@@ -53,11 +50,8 @@ public:
     // One family of lines each, enabled or not, with the painter's pen.
     void drawHoriLines(QPainter &painter) const { drawLayer(painter, Layer::HoriLines); }
     void drawVertLines(QPainter &painter) const { drawLayer(painter, Layer::VertLines); }
-    void drawSlantLeftLines(QPainter &painter) const { drawLayer(painter, Layer::SlantLeftLines); }
-    void drawSlantRightLines(QPainter &painter) const
-    {
-        drawLayer(painter, Layer::SlantRightLines);
-    }
+    void drawSlantLeftLines(QPainter &p) const { drawLayer(p, Layer::SlantLeftLines); }
+    void drawSlantRightLines(QPainter &p) const { drawLayer(p, Layer::SlantRightLines); }
     void drawOldTest(QPainter & /*painter*/) { setBgColor(m_oldTestColor); }
 
     // False while the layout takes some more paints to be complete.

@@ -48,19 +48,6 @@ void paintNumber(QPainter &painter, const QRect &cell, int row, int column)
                          .arg(column, 2, 10, QLatin1Char('0')));
 }
 
-} // namespace
-
-void paintModuleLines(QPainter &painter, const ScrGrid &drawer)
-{
-    paintLines(painter, drawer, {drawer.m_moduleWidth, drawer.m_moduleHeight},
-               drawer.m_moduleLineColor, drawer.m_moduleLineWidth);
-}
-
-void paintScanLines(QPainter &painter, const ScrGrid &drawer)
-{
-    paintLines(painter, drawer, cellSize(drawer), drawer.m_scanColor, drawer.m_scanLineWidth);
-}
-
 void paintText(QPainter &painter, const ScrGrid &drawer)
 {
     const QPen oldPen = painter.pen();
@@ -109,6 +96,17 @@ void paintGeneralLines(QPainter &painter, const ScrGrid &drawer)
         painter.drawLine(0, m - d, d, m);
 }
 
+} // namespace
+
+void paintLayers(QPainter &painter, const ScrGrid &drawer)
+{
+    paintGeneralLines(painter, drawer);
+    paintLines(painter, drawer, {drawer.m_moduleWidth, drawer.m_moduleHeight},
+               drawer.m_moduleLineColor, drawer.m_moduleLineWidth);
+    paintLines(painter, drawer, cellSize(drawer), drawer.m_scanColor, drawer.m_scanLineWidth);
+    paintText(painter, drawer);
+}
+
 void setResolution(QImage &image, int dotsPerInch)
 {
     constexpr double inch = 0.0254; // metres
@@ -137,10 +135,7 @@ void paint(QPainter &painter, const ScrGrid &drawer)
         painter.drawTiledPixmap(window, drawer.m_bgPixmap);
     painter.setPen(drawer.m_pen);
     painter.setBrush(drawer.m_brush);
-    paintGeneralLines(painter, drawer);
-    paintModuleLines(painter, drawer);
-    paintScanLines(painter, drawer);
-    paintText(painter, drawer);
+    paintLayers(painter, drawer);
 }
 
 QImage image(const ScrGrid &drawer, qreal scale)

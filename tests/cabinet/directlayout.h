@@ -8,10 +8,7 @@
 // For steps of 1 and more.
 namespace DirectLayout {
 
-void paintModuleLines(QPainter &painter, const ScrGrid &drawer);
-void paintScanLines(QPainter &painter, const ScrGrid &drawer);
-void paintText(QPainter &painter, const ScrGrid &drawer);
-void paintGeneralLines(QPainter &painter, const ScrGrid &drawer);
+void paintLayers(QPainter &painter, const ScrGrid &drawer);
 
 // All of it, background included.
 void paint(QPainter &painter, const ScrGrid &drawer);

@@ -46,8 +46,6 @@ public:
     QString add(const QImage &image) { return add(encoded(image)); }
     QString add(const QColor &color) { return add(file(color)); }
 
-    void remove() { m_folder.remove(); }
-
 private:
     QTemporaryDir m_folder;
     int m_count = 0;

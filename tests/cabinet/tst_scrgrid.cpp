@@ -100,8 +100,7 @@ class TestScrGrid : public QObject
     Q_OBJECT
 
 private slots:
-    void newDrawer_isInactiveAndPaintsNothing();
-    void draw_withoutBeingEnabledPaintsNothing();
+    void newOrDisabledDrawer_paintsNothing();
     void firstStart_showsModulesBoardsAndNumbers_data();
     void firstStart_showsModulesBoardsAndNumbers();
     void update_repaintsTheWindow();
@@ -109,32 +108,21 @@ private slots:
     void windowOfWholeCells_numbersOneMoreColumnBeyond();
     void numbers_growInTheOrderOfTheColumns_data();
     void numbers_growInTheOrderOfTheColumns();
-    void fontShape_isNormalBoldItalicOrAsItWas_data();
     void fontShape_isNormalBoldItalicOrAsItWas();
     void bothSlants_endDifferently();
 };
 
-void TestScrGrid::newDrawer_isInactiveAndPaintsNothing()
-{
-    Canvas canvas;
-    ScrGrid drawer(&canvas);
-    canvas.setDrawer(&drawer);
-
-    QVERIFY(!drawer.active);
-    QVERIFY(!drawer.m_bgColor.isValid());
-    QVERIFY(drawer.m_bgPicturePath.isEmpty());
-    const QImage image = canvas.painted(Qt::green);
-    QImage untouched = image;
-    untouched.fill(Qt::green);
-    QCOMPARE(image, untouched);
-}
-
-void TestScrGrid::draw_withoutBeingEnabledPaintsNothing()
+void TestScrGrid::newOrDisabledDrawer_paintsNothing()
 {
     ScrGridRig rig;
     rig.canvas.setDrawer(&rig.drawer, false);
     QCOMPARE(rig.paintedOnce(), DirectLayout::blank(rig.canvas.size()));
     QVERIFY(!rig.canvas.testAttribute(Qt::WA_SetPalette));
+
+    ScrGrid drawer(&rig.canvas);
+    QVERIFY(!drawer.active);
+    rig.canvas.setDrawer(&drawer);
+    QCOMPARE(rig.paintedOnce(), DirectLayout::blank(rig.canvas.size()));
 }
 
 void TestScrGrid::firstStart_showsModulesBoardsAndNumbers_data()
@@ -244,35 +232,31 @@ void TestScrGrid::numbers_growInTheOrderOfTheColumns()
     QCOMPARE(image.copy(cell), textInCell(image.size(), cell, font, text).copy(cell));
 }
 
-void TestScrGrid::fontShape_isNormalBoldItalicOrAsItWas_data()
-{
-    QTest::addColumn<int>("shape");
-    QTest::addColumn<int>("weight");
-    QTest::addColumn<int>("style");
-    QTest::newRow("0, normal") << 0 << 50 << int(QFont::StyleNormal);
-    QTest::newRow("1, bold") << 1 << 75 << int(QFont::StyleNormal);
-    QTest::newRow("2, italic") << 2 << 50 << int(QFont::StyleItalic);
-    QTest::newRow("3, as it was") << 3 << 75 << int(QFont::StyleItalic);
-    QTest::newRow("-1, as it was") << -1 << 75 << int(QFont::StyleItalic);
-}
-
 void TestScrGrid::fontShape_isNormalBoldItalicOrAsItWas()
 {
-    QFETCH(const int, shape);
-    QFETCH(const int, weight);
-    QFETCH(const int, style);
+    const struct
+    {
+        int shape;
+        int weight;
+        QFont::Style style;
+    } rows[] = {{0, 50, QFont::StyleNormal},
+                {1, 75, QFont::StyleNormal},
+                {2, 50, QFont::StyleItalic},
+                {3, 75, QFont::StyleItalic}, // as it was
+                {-1, 75, QFont::StyleItalic}};
     ScrGridRig rig(QSize(60, 30));
     rig.drawer.m_fontSize = 9;
-    rig.drawer.m_fontShape = shape;
-    QFont font;
-    font.setWeight(75);
-    font.setStyle(QFont::StyleItalic);
-    const QImage image = paintedBeyond(rig, &ScrGrid::drawText, font);
-    font.setPointSize(9);
-    font.setWeight(weight);
-    font.setStyle(QFont::Style(style));
-    const QRect cell(0, 0, 64, 32);
-    QCOMPARE(image, textInCell(image.size(), cell, font, QStringLiteral("0101")));
+    for (const auto &row : rows) {
+        rig.drawer.m_fontShape = row.shape;
+        QFont font;
+        font.setWeight(75);
+        font.setStyle(QFont::StyleItalic);
+        const QImage image = paintedBeyond(rig, &ScrGrid::drawText, font);
+        font.setPointSize(9);
+        font.setWeight(row.weight);
+        font.setStyle(row.style);
+        QCOMPARE(image, textInCell(image.size(), {0, 0, 64, 32}, font, QStringLiteral("0101")));
+    }
 }
 
 void TestScrGrid::bothSlants_endDifferently()

@@ -159,10 +159,7 @@ void TestScrGridExact::layersByLot_matchCallByCall()
         image.fill(Qt::white);
         QImage expected = image;
         QPainter direct(&expected);
-        DirectLayout::paintGeneralLines(direct, rig.drawer);
-        DirectLayout::paintModuleLines(direct, rig.drawer);
-        DirectLayout::paintScanLines(direct, rig.drawer);
-        DirectLayout::paintText(direct, rig.drawer);
+        DirectLayout::paintLayers(direct, rig.drawer);
         QPainter painter(&image);
         rig.drawer.drawHoriLines(painter);
         rig.drawer.drawVertLines(painter);

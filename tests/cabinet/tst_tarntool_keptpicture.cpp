@@ -2,12 +2,7 @@
 #include "picturefolder.h"
 #include "pictureonpanel.h"
 
-#include <QDir>
 #include <QtTest>
-
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#endif
 
 class TestTarnToolKeptPicture : public QObject
 {
@@ -18,10 +13,9 @@ private slots:
     void keptPicture_isDecodedOnceWhenItIsFirstSeen();
     void keptPictureThatIsNotSeen_isNotDecoded();
     void damagedKeptPicture_countsAsNoneOnceItIsSeen();
-    void damagedKeptPicture_isAskedForAnew();
+    void damagedKeptPicture_isAskedForAgain();
     void whatIsKeptAndIsNoPicture_countsAsNone_data();
     void whatIsKeptAndIsNoPicture_countsAsNone();
-    void keptPipe_countsAsNone();
     void pictureButton_takesTheKeptPicture();
 };
 
@@ -97,7 +91,7 @@ void TestTarnToolKeptPicture::damagedKeptPicture_countsAsNoneOnceItIsSeen()
     QCOMPARE(decoded, 0); // no second attempt
 }
 
-void TestTarnToolKeptPicture::damagedKeptPicture_isAskedForAnew()
+void TestTarnToolKeptPicture::damagedKeptPicture_isAskedForAgain()
 {
     const DialogAnswers answers;
     CabinetRig rig({{QStringLiteral("tarnBackgroundSelect"), true}}, damagedPicture());
@@ -125,22 +119,6 @@ void TestTarnToolKeptPicture::whatIsKeptAndIsNoPicture_countsAsNone()
     rig.layOut();
     QCOMPARE(rig.drawer->m_bgPicturePath, QString());
     QVERIFY(rig.drawer->m_bgPixmap.isNull());
-}
-
-void TestTarnToolKeptPicture::keptPipe_countsAsNone()
-{
-#ifdef Q_OS_UNIX
-    CabinetRig rig;
-    QCOMPARE(mkfifo(QFile::encodeName(KeptPicture::path()).constData(), 0600), 0);
-    rig.restart();
-    QVERIFY(!isPictureSelected(rig));
-    QVERIFY(QFile::remove(KeptPicture::path()));
-    QVERIFY(QDir().mkdir(KeptPicture::path()));
-    rig.restart();
-    QVERIFY(!isPictureSelected(rig));
-#else
-    QSKIP("There are no pipes in the file system");
-#endif
 }
 
 void TestTarnToolKeptPicture::pictureButton_takesTheKeptPicture()
