@@ -1,3 +1,4 @@
+#include "dictionary.h"
 #include "runindicator.h"
 
 #include <QWidget>
@@ -8,11 +9,7 @@ namespace {
 // An indicator on a panel that is shown or not, as the panels of hidden tabs are not.
 struct Lamps
 {
-    explicit Lamps(bool panelShown)
-    {
-        if (panelShown)
-            panel.show();
-    }
+    explicit Lamps(bool panelShown) { panel.setVisible(panelShown); }
 
     bool showsGreen() const { return !green.isHidden() && grey.isHidden(); }
     bool showsGrey() const { return green.isHidden() && !grey.isHidden(); }
@@ -30,74 +27,54 @@ class TestRunIndicator : public QObject
     Q_OBJECT
 
 private slots:
-    void newIndicator_showsGrey_data();
-    void newIndicator_showsGrey();
-    void setting_showsThatLampAlone_data();
-    void setting_showsThatLampAlone();
-    void blinking_showsTheOtherLamp_data();
-    void blinking_showsTheOtherLamp();
-    void indicatorOnAShownPanel_isVisible();
+    void exactlyOneLamp_isShown_data();
+    void exactlyOneLamp_isShown();
+    void lampOnAShownPanel_isVisible();
+    void lamps_areNamedInTheInterfaceLanguage();
 };
 
-void TestRunIndicator::newIndicator_showsGrey_data()
+void TestRunIndicator::exactlyOneLamp_isShown_data()
 {
     QTest::addColumn<bool>("panelShown");
     QTest::newRow("hidden panel") << false;
     QTest::newRow("shown panel") << true;
 }
 
-void TestRunIndicator::newIndicator_showsGrey()
-{
-    QFETCH(const bool, panelShown);
-    const Lamps lamps(panelShown);
-    QVERIFY(lamps.showsGrey());
-}
-
-void TestRunIndicator::setting_showsThatLampAlone_data()
-{
-    newIndicator_showsGrey_data();
-}
-
-void TestRunIndicator::setting_showsThatLampAlone()
+void TestRunIndicator::exactlyOneLamp_isShown()
 {
     QFETCH(const bool, panelShown);
     Lamps lamps(panelShown);
-    lamps.indicator.showGreen();
-    QVERIFY(lamps.showsGreen());
-    lamps.indicator.showGreen();
-    QVERIFY(lamps.showsGreen());
-    lamps.indicator.showGrey();
     QVERIFY(lamps.showsGrey());
-    lamps.indicator.showGrey();
-    QVERIFY(lamps.showsGrey());
-}
-
-void TestRunIndicator::blinking_showsTheOtherLamp_data()
-{
-    newIndicator_showsGrey_data();
-}
-
-void TestRunIndicator::blinking_showsTheOtherLamp()
-{
-    QFETCH(const bool, panelShown);
-    Lamps lamps(panelShown);
+    for (int time = 0; time < 2; ++time) {
+        lamps.indicator.showGreen();
+        QVERIFY(lamps.showsGreen());
+    }
+    for (int time = 0; time < 2; ++time) {
+        lamps.indicator.showGrey();
+        QVERIFY(lamps.showsGrey());
+    }
     lamps.indicator.blink();
     QVERIFY(lamps.showsGreen());
     lamps.indicator.blink();
     QVERIFY(lamps.showsGrey());
-    lamps.indicator.showGreen();
-    lamps.indicator.blink();
-    QVERIFY(lamps.showsGrey());
 }
 
-void TestRunIndicator::indicatorOnAShownPanel_isVisible()
+void TestRunIndicator::lampOnAShownPanel_isVisible()
 {
     Lamps lamps(true);
     QVERIFY(lamps.grey.isVisible());
-    QVERIFY(!lamps.green.isVisible());
     lamps.indicator.blink();
     QVERIFY(lamps.green.isVisible());
     QVERIFY(!lamps.grey.isVisible());
+}
+
+void TestRunIndicator::lamps_areNamedInTheInterfaceLanguage()
+{
+    Lamps lamps(false);
+    const Dictionary dictionary(QStringLiteral("!"));
+    lamps.indicator.retranslate();
+    for (const QWidget *lamp : {&lamps.green, &lamps.grey})
+        QCOMPARE(lamp->accessibleName(), QStringLiteral("运行指示灯!"));
 }
 
 QTEST_MAIN(TestRunIndicator)
