@@ -8,35 +8,31 @@
 
 #include <algorithm>
 
-const std::array<MixSelection::Entry, MixSelection::itemCount> &MixSelection::entries()
-{
-    static const std::array<Entry, itemCount> table{{
-        {Blue, QLatin1String("/setting/checkBoxBlue"), QT_TRANSLATE_NOOP("MixSetting", "蓝色")},
-        {Cyan, QLatin1String("/setting/checkBoxCyan"), QT_TRANSLATE_NOOP("MixSetting", "青色")},
-        {Green, QLatin1String("/setting/checkBoxGreen"), QT_TRANSLATE_NOOP("MixSetting", "绿色")},
-        {Horizontal, QLatin1String("/setting/checkBoxH"), QT_TRANSLATE_NOOP("MixSetting", "横线")},
-        {Purple, QLatin1String("/setting/checkBoxPurple"), QT_TRANSLATE_NOOP("MixSetting", "紫色")},
-        {Red, QLatin1String("/setting/checkBoxRed"), QT_TRANSLATE_NOOP("MixSetting", "红色")},
-        {SlantLeft, QLatin1String("/setting/checkBoxSL"), QT_TRANSLATE_NOOP("MixSetting", "左斜")},
-        {SlantRight, QLatin1String("/setting/checkBoxSR"), QT_TRANSLATE_NOOP("MixSetting", "右斜")},
-        {Vertical, QLatin1String("/setting/checkBoxV"), QT_TRANSLATE_NOOP("MixSetting", "竖线")},
-        {White, QLatin1String("/setting/checkBoxWhite"), QT_TRANSLATE_NOOP("MixSetting", "白色")},
-        {Yellow, QLatin1String("/setting/checkBoxYellow"), QT_TRANSLATE_NOOP("MixSetting", "黄色")},
-    }};
-    return table;
-}
+const std::array<MixSelection::Entry, MixSelection::itemCount> MixSelection::entries{{
+    {Blue, latin1("/setting/checkBoxBlue"), QT_TRANSLATE_NOOP("MixSetting", "蓝色")},
+    {Cyan, latin1("/setting/checkBoxCyan"), QT_TRANSLATE_NOOP("MixSetting", "青色")},
+    {Green, latin1("/setting/checkBoxGreen"), QT_TRANSLATE_NOOP("MixSetting", "绿色")},
+    {Horizontal, latin1("/setting/checkBoxH"), QT_TRANSLATE_NOOP("MixSetting", "横线")},
+    {Purple, latin1("/setting/checkBoxPurple"), QT_TRANSLATE_NOOP("MixSetting", "紫色")},
+    {Red, latin1("/setting/checkBoxRed"), QT_TRANSLATE_NOOP("MixSetting", "红色")},
+    {SlantLeft, latin1("/setting/checkBoxSL"), QT_TRANSLATE_NOOP("MixSetting", "左斜")},
+    {SlantRight, latin1("/setting/checkBoxSR"), QT_TRANSLATE_NOOP("MixSetting", "右斜")},
+    {Vertical, latin1("/setting/checkBoxV"), QT_TRANSLATE_NOOP("MixSetting", "竖线")},
+    {White, latin1("/setting/checkBoxWhite"), QT_TRANSLATE_NOOP("MixSetting", "白色")},
+    {Yellow, latin1("/setting/checkBoxYellow"), QT_TRANSLATE_NOOP("MixSetting", "黄色")},
+}};
 
 MixSelection MixSelection::stored(const QSettings *settings)
 {
     MixSelection selection;
-    for (const Entry &entry : entries())
+    for (const Entry &entry : entries)
         selection.set(entry.item, !settings || !settings->value(entry.key).toBool());
     return selection;
 }
 
 void MixSelection::store(QSettings &settings) const
 {
-    for (const Entry &entry : entries())
+    for (const Entry &entry : entries)
         SettingsRules::store(settings, entry.key, !contains(entry.item));
 }
 

@@ -36,7 +36,7 @@ public:
     };
 
     // Every item once, in the order in which the settings are read and written.
-    static const std::array<Entry, itemCount> &entries();
+    static const std::array<Entry, itemCount> entries;
 
     // The selection that is stored. Whatever is not, is selected; so everything is, where there
     // are no settings.

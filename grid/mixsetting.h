@@ -1,20 +1,21 @@
 #pragma once
 
+#include "griddrawer.h"
 #include "mixselection.h"
 #include "settingsdialog.h"
 
 #include <QPointer>
 
 #include <array>
+#include <utility>
+#include <vector>
 
 class CustomerQlabel;
-class GridDrawer;
 class QCheckBox;
 class QGridLayout;
 class QLabel;
 class QLayout;
 class QSettings;
-class QSpinBox;
 
 namespace UX::Widgets {
 class FramelessMessageBox;
@@ -30,61 +31,51 @@ public:
     // Drawer and settings are borrowed. Without settings everything is selected and nothing
     // is stored.
     MixSetting(GridDrawer *drawer, QSettings *settings, QWidget *parent);
-    ~MixSetting() override;
 
     // As the boxes stand, stored or not.
     MixSelection selection() const;
     bool isSelectedCheckBox() const { return !selection().isEmpty(); }
-    bool getRedChecked() const { return isChecked(MixSelection::Red); }
-    bool getGreenChecked() const { return isChecked(MixSelection::Green); }
-    bool getBlueChecked() const { return isChecked(MixSelection::Blue); }
-    bool getYellowChecked() const { return isChecked(MixSelection::Yellow); }
-    bool getWhiteChecked() const { return isChecked(MixSelection::White); }
-    bool getCyanChecked() const { return isChecked(MixSelection::Cyan); }
-    bool getPurpleChecked() const { return isChecked(MixSelection::Purple); }
-    bool getHChecked() const { return isChecked(MixSelection::Horizontal); }
-    bool getVChecked() const { return isChecked(MixSelection::Vertical); }
-    bool getSLChecked() const { return isChecked(MixSelection::SlantLeft); }
-    bool getSRChecked() const { return isChecked(MixSelection::SlantRight); }
+    bool getRedChecked() const { return selection().contains(MixSelection::Red); }
+    bool getGreenChecked() const { return selection().contains(MixSelection::Green); }
+    bool getBlueChecked() const { return selection().contains(MixSelection::Blue); }
+    bool getYellowChecked() const { return selection().contains(MixSelection::Yellow); }
+    bool getWhiteChecked() const { return selection().contains(MixSelection::White); }
+    bool getCyanChecked() const { return selection().contains(MixSelection::Cyan); }
+    bool getPurpleChecked() const { return selection().contains(MixSelection::Purple); }
+    bool getHChecked() const { return selection().contains(MixSelection::Horizontal); }
+    bool getVChecked() const { return selection().contains(MixSelection::Vertical); }
+    bool getSLChecked() const { return selection().contains(MixSelection::SlantLeft); }
+    bool getSRChecked() const { return selection().contains(MixSelection::SlantRight); }
 
-    void initSelected();
+    void initSelected() { check(MixSelection::stored(settings)); }
     void saveMixStatus();
     void updateLanguage();
 
 public slots:
-    void slot_pushButtonAll();
-    void slot_pushButtonClear();
+    void slot_pushButtonAll() { check(MixSelection::stored(nullptr)); }
+    void slot_pushButtonClear() { check({}); }
     // Stores the selection and closes the dialog, or asks for a selection if there is none.
     void slot_pushButtonOK();
-    void slot_spinBoxPixValueChanged(int width);
-    void slot_spinBoxDistanceValueChanged(int distance);
+    void slot_spinBoxPixValueChanged(int width) { drawer->slot_changePix(width); }
+    void slot_spinBoxDistanceValueChanged(int distance) { drawer->slot_changeDistance(distance); }
 
 private:
     void initLayout();
-    void initSlots();
-    void createGridControls();
-    void createMixControls();
-    QLayout *layOutGridControls();
-    QLayout *layOutMixControls();
-    QPushButton *createButton();
-    bool isChecked(MixSelection::Item item) const;
-    void checkAll(bool checked);
+    QLayout *createGridRows();
+    void addRow(QGridLayout *grid, int row, const char *text, QWidget *control);
+    QLayout *createBoxes();
+    QLabel *createLabel(const char *text);
+    QPushButton *createButton(const char *text, void (MixSetting::*slot)());
+    void check(const MixSelection &selected);
     void pickColor();
     void warnOfEmptySelection();
 
     GridDrawer *drawer;
     QSettings *settings;
     CustomerQlabel *toolButtonColorPick = nullptr;
-    QSpinBox *spinBoxPix = nullptr;
-    QSpinBox *spinBoxDistance = nullptr;
     std::array<QCheckBox *, MixSelection::itemCount> m_boxes{};
-    QPushButton *m_allButton = nullptr;
-    QPushButton *m_clearButton = nullptr;
-    QPushButton *m_confirmButton = nullptr;
-    QLabel *m_gridHeader = nullptr;
-    QLabel *m_colorLabel = nullptr;
-    QLabel *m_pixLabel = nullptr;
-    QLabel *m_distanceLabel = nullptr;
-    QLabel *m_mixHeader = nullptr;
+    // With their texts in the source language.
+    std::vector<std::pair<QLabel *, const char *>> m_labels;
+    std::vector<std::pair<QPushButton *, const char *>> m_buttons;
     QPointer<UX::Widgets::FramelessMessageBox> m_warning;
 };

@@ -2,14 +2,20 @@
 
 #include "canvas.h"
 #include "customerqlabel.h"
-#include "framelessmessagebox.h"
 #include "griddrawer.h"
 #include "mixsetting.h"
 #include "testsettings.h"
+#include "titlebar.h"
 
 #include <QCheckBox>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QtTest>
+
+// Texts of the buttons.
+const QString all = QStringLiteral("全选");
+const QString clear = QStringLiteral("清空");
+const QString confirm = QStringLiteral("确定");
 
 // In the order in which they stand.
 inline const QStringList &boxNames()
@@ -28,29 +34,32 @@ struct MixRig
         : settings(values)
     { }
 
-    QCheckBox *box(const QString &name) { return dialog.findChild<QCheckBox *>(name); }
-    QSpinBox *spinBox(const char *name)
+    template<typename Widget>
+    Widget *child(const QString &name)
     {
-        return dialog.findChild<QSpinBox *>(QLatin1String(name));
+        return dialog.findChild<Widget *>(name);
     }
-    CustomerQlabel *colorLabel()
+    QCheckBox *box(const QString &name) { return child<QCheckBox>(name); }
+    QSpinBox *pix() { return child<QSpinBox>(QStringLiteral("spinBoxPix")); }
+    QSpinBox *distance() { return child<QSpinBox>(QStringLiteral("spinBoxDistance")); }
+    CustomerQlabel *color() { return child<CustomerQlabel>(QStringLiteral("toolButtonColorPick")); }
+    // With this text, among all that are not hidden.
+    template<typename Widget>
+    Widget *withText(const QString &text)
     {
-        return dialog.findChild<CustomerQlabel *>(QStringLiteral("toolButtonColorPick"));
-    }
-    QPushButton *button(const QString &text)
-    {
-        const auto buttons = dialog.findChildren<QPushButton *>(QStringLiteral("DialogPushBtn"));
-        for (QPushButton *each : buttons) {
+        const auto widgets = dialog.findChildren<Widget *>();
+        for (Widget *each : widgets) {
             if (each->text() == text && !each->isHidden())
                 return each;
         }
-        qFatal("no such button");
+        qFatal("there is no such text");
         return nullptr;
     }
-    void click(const QString &text) { button(text)->click(); }
-    QList<UX::Widgets::FramelessMessageBox *> warnings()
+    QPushButton *button(const QString &text) { return withText<QPushButton>(text); }
+    QAbstractButton *closeButton()
     {
-        return dialog.findChildren<UX::Widgets::FramelessMessageBox *>();
+        auto *bar = dialog.findChild<UX::Widgets::TitleBar *>();
+        return qobject_cast<QAbstractButton *>(bar->titleButton(4));
     }
 
     QStringList checked()
@@ -63,11 +72,14 @@ struct MixRig
         return names;
     }
 
-    // What the test window shows between its lines.
-    QRgb background()
+    void show()
     {
-        testWindow.setDrawer(&drawer);
-        return testWindow.painted().pixel(0, 0);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    }
+    QRect place(const QWidget *widget)
+    {
+        return {widget->mapTo(&dialog, QPoint()), widget->size()};
     }
 
     TestSettings settings;

@@ -36,7 +36,7 @@ void TestMixSelection::entries_holdEveryItemOnceInTheOrderOfTheirKeys()
 {
     QSet<int> items;
     QStringList keys;
-    for (const MixSelection::Entry &entry : MixSelection::entries()) {
+    for (const MixSelection::Entry &entry : MixSelection::entries) {
         items.insert(entry.item);
         keys << entry.key;
     }

@@ -1,161 +1,60 @@
-#include "dictionary.h"
+#include "colordialog.h"
+#include "framelessmessagebox.h"
 #include "mixrig.h"
-#include "titlebar.h"
 
 #include <QLabel>
-#include <QToolButton>
-#include <QtTest>
 
 namespace {
 
 using UX::Widgets::FramelessMessageBox;
 
-QString all()
+QList<FramelessMessageBox *> warnings(const MixRig &rig)
 {
-    return QStringLiteral("全选");
+    return rig.dialog.findChildren<FramelessMessageBox *>();
 }
 
-QString clear()
+// Notes whether a window has been raised.
+struct RaiseWatch : public QObject
 {
-    return QStringLiteral("清空");
-}
-
-QString confirm()
-{
-    return QStringLiteral("确定");
-}
+    explicit RaiseWatch(QWidget *window) { window->installEventFilter(this); }
+    bool eventFilter(QObject * /*window*/, QEvent *event) override
+    {
+        raised = raised || event->type() == QEvent::ZOrderChange;
+        return false;
+    }
+    bool raised = false;
+};
 
 } // namespace
 
+// What the dialog sets and stores.
 class TestMixSetting : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void dialog_hasItsSizeTitleAndButtons();
-    void controls_areOfTheirSizes();
-    void dialog_fitsItsContents();
-    void controls_followOneAnotherAsTheyStand();
-    void emptySettings_checkAllElevenBoxes();
-    void storedSelection_isShownInverted();
+    void cleanup() { ColorDialog::setAnswer({}); }
+
+    void boxes_showTheStoredSelectionInverted();
     void getters_areTheBoxes_data();
     void getters_areTheBoxes();
     void allAndClear_setEveryBox();
-
     void confirm_storesTheElevenKeysAndAccepts();
     void confirm_ofAnEmptySelectionWarnsAndStoresNothing();
     void warning_isOneBoxThatDoesNotBlock();
+    void warning_comesForwardAgain();
     void closeButton_storesNothing();
     void withoutSettings_theDialogWorks();
-
-    void language_isAppliedToEveryText();
-    void controls_haveAccessibleNames();
+    void lines_changeAtOnceWithinTheirLimits();
+    void spinBoxes_startWithTheDrawersValues();
+    void distanceAbove99_isShownAs99AndKept();
+    void pickedColour_isTheBackgroundAndTheOldColour_data();
+    void pickedColour_isTheBackgroundAndTheOldColour();
 };
 
-void TestMixSetting::dialog_hasItsSizeTitleAndButtons()
+void TestMixSetting::boxes_showTheStoredSelectionInverted()
 {
-    MixRig rig;
-    QCOMPARE(rig.dialog.minimumSize(), QSize(360, 424));
-    QCOMPARE(rig.dialog.maximumSize(), QSize(360, 424));
-    QCOMPARE(rig.dialog.windowTitle(), QStringLiteral("高级设置"));
-    QVERIFY(rig.dialog.styleSheet().contains(QStringLiteral("DialogPushBtn")));
-    QCOMPARE(MixSetting::m_defaultBackgroundColor, QColor(48, 50, 56));
-
-    const auto *bar = rig.dialog.findChild<UX::Widgets::TitleBar *>();
-    QVERIFY(bar);
-    QVERIFY(bar->titleButton(0)->isHidden());
-    QVERIFY(!bar->titleButton(4)->isHidden());
-    QCOMPARE(bar->titleButton(4)->toolTip(), QStringLiteral("关闭"));
-    QVERIFY(!qobject_cast<QToolButton *>(bar->titleButton(4))->icon().isNull());
-
-    int shown = 0;
-    const auto buttons = rig.dialog.findChildren<QPushButton *>();
-    for (const QPushButton *button : buttons)
-        shown += button->isHidden() ? 0 : 1;
-    QCOMPARE(shown, 3);
-    QCOMPARE(rig.dialog.findChildren<QLabel *>(QStringLiteral("ContentSplitLabel")).size(), 1);
-}
-
-void TestMixSetting::controls_areOfTheirSizes()
-{
-    MixRig rig;
-    QCOMPARE(rig.dialog.objectName(), QStringLiteral("MixSetting"));
-    const QSize controlSize(62, 20);
-    QCOMPARE(rig.colorLabel()->size(), controlSize);
-    for (const char *name : {"spinBoxPix", "spinBoxDistance"}) {
-        const QSpinBox *spinBox = rig.spinBox(name);
-        QCOMPARE(spinBox->minimumSize(), controlSize);
-        QCOMPARE(spinBox->maximumSize(), controlSize);
-        QCOMPARE(spinBox->contextMenuPolicy(), Qt::NoContextMenu);
-    }
-    for (const QString &name : boxNames())
-        QCOMPARE(rig.box(name)->maximumWidth(), 78);
-    for (const char *text : {"全选", "清空", "确定"}) {
-        QCOMPARE(rig.button(QString::fromUtf8(text))->maximumWidth(), 90);
-        QVERIFY(!rig.button(QString::fromUtf8(text))->autoDefault());
-    }
-    QVERIFY(rig.button(QStringLiteral("确定"))->isDefault());
-    int captions = 0;
-    const auto labels = rig.dialog.findChildren<QLabel *>();
-    for (const QLabel *label : labels) {
-        if (label->buddy()) {
-            QCOMPARE(label->maximumWidth(), 140);
-            ++captions;
-        }
-    }
-    QCOMPARE(captions, 3);
-}
-
-void TestMixSetting::dialog_fitsItsContents()
-{
-    MixRig rig;
-    rig.dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&rig.dialog));
-    QCOMPARE(rig.dialog.size(), QSize(360, 424));
-    const auto widgets = rig.dialog.findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
-        if (!widget->isVisible() || widget->parentWidget()->inherits("QAbstractSpinBox"))
-            continue;
-        const QByteArray name =
-            widget->metaObject()->className() + QByteArray(" ") + widget->objectName().toUtf8();
-        const QRect place(widget->mapTo(&rig.dialog, QPoint()), widget->size());
-        QVERIFY2(rig.dialog.rect().contains(place), name.constData());
-        if (widget->inherits("QAbstractButton") || widget->inherits("QAbstractSpinBox"))
-            QVERIFY2(widget->width() >= widget->minimumSizeHint().width() - 20, name.constData());
-    }
-    for (const QString &name : boxNames())
-        QCOMPARE(rig.box(name)->toolTip(), QString()); // the text is shown whole
-}
-
-void TestMixSetting::controls_followOneAnotherAsTheyStand()
-{
-    MixRig rig;
-    QStringList order;
-    QWidget *widget = rig.colorLabel();
-    do {
-        if (widget->focusPolicy() & Qt::TabFocus && !widget->focusProxy() && !widget->isHidden()
-            && !widget->parentWidget()->isHidden())
-            order << (widget->objectName() == QStringLiteral("DialogPushBtn")
-                          ? static_cast<QPushButton *>(widget)->text()
-                          : widget->objectName());
-        widget = widget->nextInFocusChain();
-    } while (widget != rig.colorLabel());
-
-    QCOMPARE(order, QStringList({QStringLiteral("toolButtonColorPick"),
-                                 QStringLiteral("spinBoxPix"), QStringLiteral("spinBoxDistance")})
-                        + boxNames() + QStringList({all(), clear(), confirm()}));
-}
-
-void TestMixSetting::emptySettings_checkAllElevenBoxes()
-{
-    MixRig rig;
-    QCOMPARE(rig.checked(), boxNames());
-    QVERIFY(rig.dialog.isSelectedCheckBox());
-    QVERIFY(rig.settings.stored().isEmpty());
-}
-
-void TestMixSetting::storedSelection_isShownInverted()
-{
+    QCOMPARE(MixRig().checked(), boxNames());
     MixRig rig({{QStringLiteral("checkBoxRed"), true},
                 {QStringLiteral("checkBoxSL"), true},
                 {QStringLiteral("checkBoxV"), false}});
@@ -164,7 +63,7 @@ void TestMixSetting::storedSelection_isShownInverted()
     expected.removeOne(QStringLiteral("checkBoxSL"));
     QCOMPARE(rig.checked(), expected);
 
-    rig.click(all());
+    rig.button(all)->click();
     rig.dialog.initSelected();
     QCOMPARE(rig.checked(), expected);
 }
@@ -194,7 +93,8 @@ void TestMixSetting::getters_areTheBoxes()
         return names;
     };
     QCOMPARE(got(), boxNames());
-    rig.click(clear());
+    QVERIFY(d.isSelectedCheckBox());
+    rig.button(clear)->click();
     QCOMPARE(got(), QStringList());
     QVERIFY(!d.isSelectedCheckBox());
     rig.box(name)->click();
@@ -205,12 +105,10 @@ void TestMixSetting::getters_areTheBoxes()
 void TestMixSetting::allAndClear_setEveryBox()
 {
     MixRig rig({{QStringLiteral("checkBoxGreen"), true}});
-    rig.click(all());
+    rig.button(all)->click();
     QCOMPARE(rig.checked(), boxNames());
-    rig.click(clear());
+    rig.button(clear)->click();
     QCOMPARE(rig.checked(), QStringList());
-    rig.click(all());
-    QCOMPARE(rig.checked(), boxNames());
     QVERIFY(rig.settings.stored().value(QStringLiteral("checkBoxGreen")).toBool());
 }
 
@@ -218,9 +116,9 @@ void TestMixSetting::confirm_storesTheElevenKeysAndAccepts()
 {
     MixRig rig;
     rig.dialog.show();
-    rig.click(clear());
+    rig.button(clear)->click();
     rig.box(QStringLiteral("checkBoxH"))->click();
-    rig.click(confirm());
+    rig.button(confirm)->click();
 
     QCOMPARE(rig.dialog.result(), int(QDialog::Accepted));
     QVERIFY(!rig.dialog.isVisible());
@@ -236,13 +134,13 @@ void TestMixSetting::confirm_ofAnEmptySelectionWarnsAndStoresNothing()
 {
     MixRig rig;
     rig.dialog.show();
-    rig.click(clear());
-    rig.click(confirm());
+    rig.button(clear)->click();
+    rig.button(confirm)->click();
 
     QVERIFY(rig.dialog.isVisible());
     QVERIFY(rig.settings.stored().isEmpty());
-    QCOMPARE(rig.warnings().size(), 1);
-    const FramelessMessageBox *box = rig.warnings().constFirst();
+    QCOMPARE(warnings(rig).size(), 1);
+    const FramelessMessageBox *box = warnings(rig).constFirst();
     QVERIFY(box->isVisible());
     QCOMPARE(box->width(), 206);
     QVERIFY(box->height() >= 131);
@@ -252,10 +150,11 @@ void TestMixSetting::confirm_ofAnEmptySelectionWarnsAndStoresNothing()
     const QLabel *icon = box->findChild<QLabel *>(QStringLiteral("messageIcon"));
     QVERIFY(icon->pixmap() && !icon->pixmap()->isNull());
     const QPushButton *ok = box->button(QMessageBox::Ok);
-    QCOMPARE(ok->text(), confirm());
+    QCOMPARE(ok->text(), confirm);
     QCOMPARE(ok->objectName(), QStringLiteral("DialogPushBtn"));
     QVERIFY(ok->minimumWidth() >= 70);
     QCOMPARE(ok->styleSheet(), rig.dialog.styleSheet());
+    QCOMPARE(ok->sizeHint().height(), rig.button(clear)->sizeHint().height());
 }
 
 void TestMixSetting::warning_isOneBoxThatDoesNotBlock()
@@ -263,20 +162,38 @@ void TestMixSetting::warning_isOneBoxThatDoesNotBlock()
     MixRig rig;
     rig.dialog.setModal(true);
     rig.dialog.show();
-    rig.click(clear());
-    rig.click(confirm());
-    rig.click(confirm());
-    QCOMPARE(rig.warnings().size(), 1);
-    QVERIFY(!rig.warnings().constFirst()->isModal());
+    rig.button(clear)->click();
+    rig.button(confirm)->click();
+    rig.dialog.slot_pushButtonOK();
+    QCOMPARE(warnings(rig).size(), 1);
+    QVERIFY(!warnings(rig).constFirst()->isModal());
 
-    rig.warnings().constFirst()->button(QMessageBox::Ok)->click();
-    QTRY_VERIFY(rig.warnings().isEmpty());
+    warnings(rig).constFirst()->button(QMessageBox::Ok)->click();
+    QTRY_VERIFY(warnings(rig).isEmpty());
     QVERIFY(rig.dialog.isVisible());
-    rig.click(confirm());
-    QCOMPARE(rig.warnings().size(), 1);
-    rig.click(all());
-    rig.click(confirm());
+    rig.dialog.slot_pushButtonOK();
+    QCOMPARE(warnings(rig).size(), 1);
+    rig.button(all)->click();
+    rig.dialog.slot_pushButtonOK();
     QVERIFY(!rig.dialog.isVisible());
+}
+
+void TestMixSetting::warning_comesForwardAgain()
+{
+    MixRig rig;
+    rig.show();
+    rig.button(clear)->click();
+    rig.dialog.slot_pushButtonOK();
+    FramelessMessageBox *box = warnings(rig).constFirst();
+    QTRY_VERIFY(box->isActiveWindow());
+    const RaiseWatch watch(box);
+    rig.dialog.activateWindow();
+    QTRY_VERIFY(rig.dialog.isActiveWindow());
+    QVERIFY(!watch.raised);
+
+    rig.dialog.slot_pushButtonOK();
+    QVERIFY(watch.raised);
+    QTRY_VERIFY(box->isActiveWindow());
 }
 
 void TestMixSetting::closeButton_storesNothing()
@@ -284,13 +201,11 @@ void TestMixSetting::closeButton_storesNothing()
     MixRig rig;
     rig.dialog.show();
     rig.box(QStringLiteral("checkBoxRed"))->click();
-    auto *bar = rig.dialog.findChild<UX::Widgets::TitleBar *>();
-    qobject_cast<QToolButton *>(bar->titleButton(4))->click();
+    rig.closeButton()->click();
 
     QVERIFY(!rig.dialog.isVisible());
     QCOMPARE(rig.dialog.result(), int(QDialog::Rejected));
     QVERIFY(rig.settings.stored().isEmpty());
-    QVERIFY(!rig.dialog.getRedChecked());
     QVERIFY(!rig.dialog.selection().contains(MixSelection::Red));
 }
 
@@ -304,57 +219,85 @@ void TestMixSetting::withoutSettings_theDialogWorks()
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
-void TestMixSetting::language_isAppliedToEveryText()
+void TestMixSetting::lines_changeAtOnceWithinTheirLimits()
 {
     MixRig rig;
-    const auto texts = [&rig] {
-        QStringList found{rig.dialog.windowTitle()};
-        const auto labels = rig.dialog.findChildren<QLabel *>();
-        for (const QLabel *label : labels) {
-            if (!label->text().isEmpty())
-                found << label->text();
-        }
-        for (const QString &name : boxNames())
-            found << rig.box(name)->text();
-        const auto buttons =
-            rig.dialog.findChildren<QPushButton *>(QStringLiteral("DialogPushBtn"));
-        for (const QPushButton *button : buttons) {
-            if (!button->isHidden())
-                found << button->text();
-        }
-        found.removeDuplicates();
-        found.sort();
-        return found;
-    };
-    QStringList chinese =
-        QStringLiteral(
-            "高级设置 网格设置 背景色 线条宽度 线条间距 混测设置 红色 绿色 蓝色 白色 黄色 "
-            "青色 紫色 竖线 横线 左斜 右斜 全选 清空 确定")
-            .split(QLatin1Char(' '));
-    chinese.sort();
-    QCOMPARE(texts(), chinese);
-    QHash<QString, QString> words;
-    QStringList translated;
-    for (int i = 0; i < chinese.size(); ++i) {
-        words[chinese.at(i)] = QStringLiteral("w%1").arg(i);
-        translated << words[chinese.at(i)];
+    const QList<std::pair<int, int>> widths = {{5, 5}, {6, 5}, {0, 1}};
+    for (const auto &[entered, expected] : widths) {
+        rig.drawer.active = false;
+        rig.pix()->setValue(entered);
+        QCOMPARE(rig.drawer.getPix(), expected);
+        QCOMPARE(rig.drawer.active, entered != 6); // which is no change
     }
-    words[QStringLiteral("关闭")] = QStringLiteral("Close");
-    translated.sort();
-    const Dictionary dictionary(words);
-    rig.dialog.updateLanguage();
-    QCoreApplication::sendPostedEvents(); // the frame hears of the language by itself
-    QCOMPARE(texts(), translated);
-    QCOMPARE(rig.dialog.findChild<UX::Widgets::TitleBar *>()->titleButton(4)->toolTip(),
-             QStringLiteral("Close"));
+    const QList<std::pair<int, int>> distances = {{33, 33}, {2, 3}, {701, 700}};
+    for (const auto &[entered, expected] : distances) {
+        rig.drawer.active = false;
+        rig.distance()->setValue(entered);
+        QCOMPARE(rig.drawer.getLineDistance(), expected);
+        QVERIFY(rig.drawer.active);
+    }
+    QVERIFY(rig.settings.stored().isEmpty());
 }
 
-void TestMixSetting::controls_haveAccessibleNames()
+void TestMixSetting::spinBoxes_startWithTheDrawersValues()
 {
     MixRig rig;
-    QCOMPARE(rig.colorLabel()->accessibleName(), QStringLiteral("背景色"));
-    QCOMPARE(rig.spinBox("spinBoxPix")->accessibleName(), QStringLiteral("线条宽度"));
-    QCOMPARE(rig.spinBox("spinBoxDistance")->accessibleName(), QStringLiteral("线条间距"));
+    rig.drawer.slot_changePix(4);
+    rig.drawer.slot_changeDistance(99);
+    rig.drawer.active = false;
+    MixSetting again(&rig.drawer, rig.settings.get(), nullptr);
+
+    QCOMPARE(again.findChild<QSpinBox *>(QStringLiteral("spinBoxPix"))->value(), 4);
+    QCOMPARE(again.findChild<QSpinBox *>(QStringLiteral("spinBoxDistance"))->value(), 99);
+    QVERIFY(!rig.drawer.active);
+}
+
+void TestMixSetting::distanceAbove99_isShownAs99AndKept()
+{
+    MixRig rig;
+    rig.distance()->setValue(300);
+    MixSetting again(&rig.drawer, rig.settings.get(), nullptr);
+    auto *distance = again.findChild<QSpinBox *>(QStringLiteral("spinBoxDistance"));
+    QCOMPARE(distance->value(), 99);
+    QCOMPARE(rig.drawer.getLineDistance(), 300);
+
+    distance->stepUp();
+    QCOMPARE(rig.drawer.getLineDistance(), 100);
+}
+
+void TestMixSetting::pickedColour_isTheBackgroundAndTheOldColour_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QRgb>("shown");
+    QTest::addColumn<QString>("style");
+    QTest::newRow("a colour") << QColor(1, 2, 0xab) << qRgb(1, 2, 0xab) << "background:#0102ab";
+    // A cancelled dialog's, and what the painter makes of it.
+    QTest::newRow("none") << QColor() << qRgb(0, 0, 0) << "background:#000000";
+}
+
+void TestMixSetting::pickedColour_isTheBackgroundAndTheOldColour()
+{
+    QFETCH(const QColor, color);
+    MixRig rig;
+    QCOMPARE(rig.color()->styleSheet(), QStringLiteral("background-color:rgb(0,0,0)"));
+    rig.drawer.slot_changeBgColor(Qt::red);
+    rig.drawer.active = false;
+    QList<QColor> asked;
+    ColorDialog::setAnswer([&](const QColor &initial) {
+        asked << initial;
+        return color;
+    });
+    rig.show();
+    QTest::mouseClick(rig.color(), Qt::LeftButton);
+    QTest::keyClick(rig.color(), Qt::Key_Space);
+
+    QCOMPARE(asked, (QList<QColor>{Qt::green, Qt::green}));
+    QCOMPARE(rig.drawer.getOldColor(), color);
+    QVERIFY(rig.drawer.active);
+    rig.testWindow.setDrawer(&rig.drawer);
+    QTEST(rig.testWindow.painted().pixel(0, 0), "shown");
+    QTEST(rig.color()->styleSheet(), "style");
+    QVERIFY(rig.settings.stored().isEmpty());
 }
 
 QTEST_MAIN(TestMixSetting)
