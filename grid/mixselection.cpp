@@ -51,7 +51,13 @@ QVector<QColor> MixSelection::colors() const
     return selected;
 }
 
-std::array<bool, 4> MixSelection::lines() const
+QVector<LineFamily::Direction> MixSelection::families() const
 {
-    return {contains(Horizontal), contains(Vertical), contains(SlantLeft), contains(SlantRight)};
+    constexpr Item items[] = {Horizontal, Vertical, SlantLeft, SlantRight}; // by direction
+    QVector<LineFamily::Direction> selected;
+    for (int direction = LineFamily::Horizontal; direction <= LineFamily::SlantRight; ++direction) {
+        if (contains(items[direction]))
+            selected.append(LineFamily::Direction(direction));
+    }
+    return selected;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "linefamily.h"
+
 #include <QColor>
 #include <QLatin1String>
 #include <QVector>
@@ -49,8 +51,8 @@ public:
 
     // The selected colours, in the order of the colour table.
     QVector<QColor> colors() const;
-    // Horizontal, vertical, slant left and slant right.
-    std::array<bool, 4> lines() const;
+    // The selected families, in the order horizontal, vertical, slant left, slant right.
+    QVector<LineFamily::Direction> families() const;
 
 private:
     std::array<bool, itemCount> m_selected{};

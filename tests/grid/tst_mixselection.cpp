@@ -16,7 +16,7 @@ private slots:
     void storedSelection_ofNothingIsEverything();
     void storedSelection_ofWrongValuesIsStillASelection();
     void store_writesTheElevenKeysInverted();
-    void colorsAndLines_areInTheirOrder();
+    void coloursAndFamilies_areInTheirOrder();
 };
 
 void TestMixSelection::newSelection_isEmpty()
@@ -77,7 +77,7 @@ void TestMixSelection::storedSelection_ofNothingIsEverything()
     for (const QSettings *source : {settings.get(), static_cast<QSettings *>(nullptr)}) {
         const MixSelection selection = MixSelection::stored(source);
         QCOMPARE(selection.colors().size(), 7);
-        QCOMPARE(selection.lines(), (std::array<bool, 4>{true, true, true, true}));
+        QCOMPARE(selection.families().size(), 4);
     }
 }
 
@@ -114,7 +114,7 @@ void TestMixSelection::store_writesTheElevenKeysInverted()
     }
 }
 
-void TestMixSelection::colorsAndLines_areInTheirOrder()
+void TestMixSelection::coloursAndFamilies_areInTheirOrder()
 {
     MixSelection selection;
     using M = MixSelection;
@@ -122,7 +122,8 @@ void TestMixSelection::colorsAndLines_areInTheirOrder()
         selection.set(item, true);
 
     QCOMPARE(selection.colors(), (QVector<QColor>{Qt::red, Qt::white, Qt::yellow, Qt::magenta}));
-    QCOMPARE(selection.lines(), (std::array<bool, 4>{false, true, false, true}));
+    QCOMPARE(selection.families(),
+             (QVector<LineFamily::Direction>{LineFamily::Vertical, LineFamily::SlantRight}));
 }
 
 QTEST_MAIN(TestMixSelection)
