@@ -43,7 +43,7 @@ int tileWidth(const Stretch &columns)
 bool GridTiles::prepare(const GridPattern &pattern, int scale)
 {
     if (scale == m_scale && pattern == m_pattern)
-        return !m_pieces.isEmpty();
+        return !m_areas.isEmpty();
     m_pattern = pattern;
     m_scale = scale;
     const auto allColumns = stretches(pattern.size.width(), pattern);
@@ -55,30 +55,30 @@ bool GridTiles::prepare(const GridPattern &pattern, int scale)
     for (const Stretch &rows : allRows)
         height += rows.period;
     if (qint64(width) * height >= qint64(pattern.size.width()) * pattern.size.height()) {
-        m_pieces.clear();
+        m_areas.clear();
         return false;
     }
-    m_pieces.resize(int(allColumns.size() * allRows.size()));
-    Piece *piece = m_pieces.data();
+    m_areas.resize(int(allColumns.size() * allRows.size()));
+    TiledArea *tiled = m_areas.data();
     for (const Stretch &columns : allColumns) {
         for (const Stretch &rows : allRows) {
-            piece->area = {columns.from, rows.from, columns.length, rows.length};
-            fillTile(*piece++, {columns.period, rows.period}, {tileWidth(columns), rows.period});
+            tiled->area = {columns.from, rows.from, columns.length, rows.length};
+            fillTile(*tiled++, {columns.period, rows.period}, {tileWidth(columns), rows.period});
         }
     }
     return true;
 }
 
-void GridTiles::fillTile(Piece &piece, const QSize &cell, const QSize &size)
+void GridTiles::fillTile(TiledArea &tiled, const QSize &cell, const QSize &size)
 {
-    if (piece.area.isEmpty())
+    if (tiled.area.isEmpty())
         return;
     // A tile of the same size as before is painted over, which is faster than a new one.
-    QPixmap &tile = piece.tile;
+    QPixmap &tile = tiled.tile;
     if (tile.size() != size * m_scale)
         tile = QPixmap(size * m_scale);
     tile.setDevicePixelRatio(1);
-    const QRect part(piece.area.topLeft(), cell);
+    const QRect part(tiled.area.topLeft(), cell);
     if (cell == size) {
         paintPart(tile, part);
     } else {
@@ -120,8 +120,8 @@ void GridTiles::fillLines(QPainter &painter, const LineFamily &lines)
 
 void GridTiles::paint(QPainter &painter) const
 {
-    for (const Piece &piece : m_pieces) {
-        if (!piece.area.isEmpty())
-            painter.drawTiledPixmap(piece.area, piece.tile);
+    for (const TiledArea &tiled : m_areas) {
+        if (!tiled.area.isEmpty())
+            painter.drawTiledPixmap(tiled.area, tiled.tile);
     }
 }

@@ -21,18 +21,18 @@ public:
     void paint(QPainter &painter) const;
 
 private:
-    struct Piece
+    struct TiledArea
     {
         QRect area; // of the window
         QPixmap tile; // to fill the area with
     };
 
-    void fillTile(Piece &piece, const QSize &cell, const QSize &size);
+    void fillTile(TiledArea &tiled, const QSize &cell, const QSize &size);
     void paintPart(QPixmap &pixmap, const QRect &part);
     void fillLines(QPainter &painter, const LineFamily &lines);
 
     GridPattern m_pattern;
     int m_scale = 0;
-    QVector<Piece> m_pieces;
+    QVector<TiledArea> m_areas;
     std::array<LineTrace, 2> m_traces; // of horizontal and of vertical lines
 };

@@ -20,6 +20,26 @@ bool isOnLine(const QPoint &pixel, const QSize &size, int families, int distance
            || ((families & SlantRight) && rightward < 2 * side && isLine(rightward));
 }
 
+// Whether these families are what the image shows away from its border, in two colours.
+bool isPicture(const QImage &image, int families, int offset, Picture *found)
+{
+    constexpr int distance = 10;
+    QVector<QRgb> colors[2]; // without and with a line
+    for (int y = distance; y < image.height() - distance; ++y) {
+        for (int x = distance; x < image.width() - distance; ++x) {
+            QVector<QRgb> &same =
+                colors[isOnLine({x, y}, image.size(), families, distance, offset)];
+            if (same.isEmpty())
+                same << image.pixel(x, y);
+            if (image.pixel(x, y) != same.constFirst())
+                return false;
+        }
+    }
+    *found = {
+        {}, families == 0 ? 0 : offset, colors[0].value(0), colors[1].value(0, colors[0].value(0))};
+    return families == 0 || found->line != found->background;
+}
+
 } // namespace
 
 QImage rendered(QWidget &widget, const GridDrawer &drawer, QImage image)
@@ -93,4 +113,30 @@ bool everyPixelIs(const QImage &image, QRgb expected)
         }
     }
     return !image.isNull();
+}
+
+Picture picture(const QImage &image)
+{
+    Picture found;
+    for (int families = 0; families <= EveryFamily; ++families) {
+        for (int offset = 0; offset < 10; ++offset) {
+            if (!isPicture(image, families, offset, &found))
+                continue;
+            for (const auto &[family, letter] :
+                 {std::pair(Horizontal, 'H'), std::pair(Vertical, 'V'), std::pair(SlantLeft, 'L'),
+                  std::pair(SlantRight, 'R')}) {
+                if (families & family)
+                    found.families += QLatin1Char(letter);
+            }
+            return found;
+        }
+    }
+    found.families = QStringLiteral("?");
+    return found;
+}
+
+QString summary(const QImage &image)
+{
+    const Picture shown = picture(image);
+    return shown.families.isEmpty() ? QColor(shown.background).name() : shown.families;
 }

@@ -48,3 +48,17 @@ struct GridCanvas
 QString difference(const QImage &image, int families, int distance, int offset);
 
 bool everyPixelIs(const QImage &image, QRgb expected);
+
+// What a drawer with the lines ten pixels apart shows. Families are letters: H horizontal,
+// V vertical, L slant left, R slant right; "?" for a picture that is none of theirs.
+struct Picture
+{
+    QString families;
+    int offset = 0; // of the lines
+    QRgb background = 0;
+    QRgb line = 0; // the background if there are no lines
+};
+Picture picture(const QImage &image);
+
+// The background's name, or the letters of the families.
+QString summary(const QImage &image);

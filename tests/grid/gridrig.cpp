@@ -1,68 +1,38 @@
 #include "gridrig.h"
 
+#include "savesoon.h"
+
 #include <QFile>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
 
-constexpr int distance = 10; // between the lines, as the drawer starts
-
-struct NamedFamily
+struct FamilyControl
 {
     char letter;
     const char *button;
     const char *pressedKey;
 };
 
-constexpr NamedFamily families[] = {
+constexpr FamilyControl families[] = {
     {'H', "radioButtonHorizontal", "isHorizontalPress"},
     {'V', "radioButtonVertical", "isVerticalPress"},
     {'L', "radioButtonSlantLeft", "isSlantLeftPress"},
     {'R', "radioButtonSlantRight", "isSlantRightPress"},
 };
 
-// Whether a line of the families runs through a pixel that lies away from the border.
-bool isLit(int set, int offset, const QPoint &pixel, int side)
-{
-    const int positions[] = {pixel.y(), pixel.x(), pixel.x() + pixel.y(),
-                             side + pixel.x() - pixel.y()};
-    for (int family = 0; family < 4; ++family) {
-        if ((set & (1 << family)) != 0 && (positions[family] - offset) % distance == 0)
-            return true;
-    }
-    return false;
-}
-
-bool isPicture(const QImage &image, int set, int offset, Shown *shown)
-{
-    bool hasBackground = false;
-    bool hasLine = false;
-    const QRect inner = image.rect().adjusted(distance, distance, -distance, -distance);
-    for (int y = inner.top(); y <= inner.bottom(); ++y) {
-        for (int x = inner.left(); x <= inner.right(); ++x) {
-            const bool lit = isLit(set, offset, QPoint(x, y), image.width());
-            QRgb &expected = lit ? shown->line : shown->background;
-            bool &known = lit ? hasLine : hasBackground;
-            if (!known)
-                expected = image.pixel(x, y);
-            known = true;
-            if (image.pixel(x, y) != expected)
-                return false;
-        }
-    }
-    if (!hasLine)
-        shown->line = shown->background;
-    return set == 0 || shown->line != shown->background;
-}
-
 } // namespace
 
-GridRig::GridRig(const QByteArray &fileContents)
+GridRig::GridRig(const QVariantMap &values)
+    : settings(values)
+{
+    build();
+}
+
+GridRig::GridRig(const QByteArray &contents)
 {
     QFile file(settings.path());
-    if (!file.open(QIODevice::WriteOnly) || file.write(fileContents) != fileContents.size())
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
         qFatal("cannot write the settings file");
     file.close();
     settings->sync();
@@ -76,11 +46,16 @@ void GridRig::build()
     canvas.setDrawer(drawer);
 }
 
-void GridRig::restart()
+void GridRig::close()
 {
     canvas.setDrawer(nullptr);
     panel.reset();
     settings->sync();
+}
+
+void GridRig::restart()
+{
+    close();
     settings.reopen();
     build();
 }
@@ -93,17 +68,17 @@ QAbstractButton *GridRig::colorButton(int index) const
     return child<QAbstractButton>(names[index]);
 }
 
-QPushButton *GridRig::familyButton(QChar family) const
+QPushButton *GridRig::familyButton(char letter) const
 {
-    for (const NamedFamily &each : families) {
-        if (family == QLatin1Char(each.letter))
+    for (const FamilyControl &each : families) {
+        if (letter == each.letter)
             return child<QPushButton>(each.button);
     }
     qFatal("no family");
     return nullptr;
 }
 
-QPushButton *GridRig::begin(int index) const
+QPushButton *GridRig::beginButton(int index) const
 {
     const auto buttons = panel->findChildren<QPushButton *>(QStringLiteral("beginPushBtn"));
     if (buttons.size() != 2)
@@ -120,7 +95,7 @@ void GridRig::click(QAbstractButton *button) const
 void GridRig::clickFamilies(const char *letters) const
 {
     for (; *letters; ++letters)
-        click(familyButton(QLatin1Char(*letters)));
+        click(familyButton(*letters));
 }
 
 QTimer *GridRig::timer() const
@@ -140,8 +115,8 @@ void GridRig::tick(int times) const
 QString GridRig::checked() const
 {
     QString letters;
-    for (const NamedFamily &family : families) {
-        if (child<QPushButton>(family.button)->isChecked())
+    for (const FamilyControl &family : families) {
+        if (familyButton(family.letter)->isChecked())
             letters += QLatin1Char(family.letter);
     }
     return letters;
@@ -150,8 +125,8 @@ QString GridRig::checked() const
 QString GridRig::pressed() const
 {
     QString letters;
-    for (const NamedFamily &family : families) {
-        if (saved(family.pressedKey).toBool())
+    for (const FamilyControl &family : families) {
+        if (saved(QLatin1String(family.pressedKey)).toBool())
             letters += QLatin1Char(family.letter);
     }
     return letters;
@@ -160,70 +135,50 @@ QString GridRig::pressed() const
 QString GridRig::mode() const
 {
     QStringList modes;
-    if (saved("gridIsOldTest").toBool())
+    if (saved(QStringLiteral("gridIsOldTest")).toBool())
         modes << QStringLiteral("aging");
-    if (saved("gridIsMix").toBool())
+    if (saved(QStringLiteral("gridIsMix")).toBool())
         modes << QStringLiteral("merged");
     return modes.isEmpty() ? QStringLiteral("scrolling") : modes.join(QLatin1Char(' '));
-}
-
-QVariant GridRig::saved(const char *key) const
-{
-    panel->saveGridBaseInfo();
-    return settings->value(QStringLiteral("/setting/") + QLatin1String(key));
 }
 
 int GridRig::runControls() const
 {
     int enabled = 0;
-    const QWidget *controls[] = {greySlider(), greySpinBox(), speedSlider(), speedSpinBox(),
-                                 pause()};
-    for (const QWidget *control : controls)
+    for (const QWidget *control :
+         QWidgetList{greySlider(), greySpinBox(), speedSlider(), speedSpinBox(), pause()})
         enabled += control->isEnabled() ? 1 : 0;
-    if (enabled == 0)
-        return 0;
-    return enabled == 5 ? 1 : -1;
+    return enabled == 0 ? 0 : enabled == 5 ? 1 : -1;
 }
 
-Shown GridRig::shown()
+QString GridRig::nextShown()
 {
-    const QImage image = canvas.painted();
-    Shown found{QStringLiteral("?"), 0, 0, 0};
-    for (int set = 0; set < 16; ++set) {
-        for (int offset = 0; offset < distance; ++offset) {
-            Shown shown{QString(), set == 0 ? 0 : offset, 0, 0};
-            if (!isPicture(image, set, offset, &shown))
-                continue;
-            for (int family = 0; family < 4; ++family) {
-                if ((set & (1 << family)) != 0)
-                    shown.families += QLatin1Char(families[family].letter);
-            }
-            return shown;
-        }
-    }
-    return found;
+    tick();
+    return summary(canvas.painted());
 }
 
-bool GridRig::fileExists() const
+QString GridRig::nextShown(int count)
 {
-    return QFile::exists(settings.path());
+    QStringList all;
+    for (int i = 0; i < count; ++i)
+        all << nextShown();
+    return all.join(QLatin1Char(' '));
 }
 
-QByteArray GridRig::fileBytes() const
+bool GridRig::isSaveDue() const
 {
+    return panel->findChild<SaveSoon *>()->isDue();
+}
+
+QVariant GridRig::saved(const QString &key) const
+{
+    panel->saveWhileRunning();
+    return settings->value(QStringLiteral("/setting/") + key);
+}
+
+QByteArray GridRig::fileBytes()
+{
+    settings->sync();
     QFile file(settings.path());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QVariant GridRig::inFile(const QString &key) const
-{
-    // A copy, because Qt shares what is pending among all settings objects of one file.
-    const QTemporaryDir folder;
-    QFile copy(folder.filePath(QStringLiteral("copy.ini")));
-    if (!copy.open(QIODevice::WriteOnly))
-        return {};
-    copy.write(fileBytes());
-    copy.close();
-    const QSettings file(copy.fileName(), QSettings::IniFormat);
-    return file.value(QStringLiteral("setting/") + key);
 }

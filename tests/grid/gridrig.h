@@ -1,7 +1,6 @@
 #pragma once
 
-#include "canvas.h"
-#include "griddrawer.h"
+#include "gridcanvas.h"
 #include "scrgridctrldialog.h"
 #include "testsettings.h"
 
@@ -14,32 +13,18 @@
 
 #include <memory>
 
-// What the test window shows. Families are letters: H horizontal, V vertical, L slant left,
-// R slant right; "?" for a picture that is none of theirs.
-struct Shown
-{
-    QString families;
-    int offset; // of the lines; 0 if there are none
-    QRgb background;
-    QRgb line; // the background if there are no lines
-};
-
 // The grid panel over a canvas and a settings file of its own, with its controls at hand. As in
 // the program, its drawer has been taken once.
 class GridRig
 {
 public:
-    // `values` stand in the file before the panel is built.
-    explicit GridRig(const QVariantMap &values = {})
-        : settings(values)
-    {
-        build();
-    }
+    // The settings file holds these values, or exactly these bytes, before the panel is built.
+    explicit GridRig(const QVariantMap &values = {});
+    explicit GridRig(const QByteArray &contents);
 
-    // The file holds exactly these bytes before the panel is built.
-    explicit GridRig(const QByteArray &fileContents);
-
-    // Builds the panel anew, as after a restart of the program.
+    // Closes the panel, and what it leaves is in the file.
+    void close();
+    // Builds the panel again, as after a restart of the program.
     void restart();
 
     template<typename Widget>
@@ -50,8 +35,8 @@ public:
 
     // Red, green, blue, white, yellow, cyan, purple.
     QAbstractButton *colorButton(int index) const;
-    // The button of a family's letter.
-    QPushButton *familyButton(QChar family) const;
+    // The button of a family's letter, as in Picture.
+    QPushButton *familyButton(char letter) const;
     QSlider *greySlider() const { return child<QSlider>("hScrollBarGrayLevel"); }
     QSpinBox *greySpinBox() const { return child<QSpinBox>("labelGrayLevel"); }
     QSlider *speedSlider() const { return child<QSlider>("hScrollBarSpeed"); }
@@ -59,9 +44,10 @@ public:
     QCheckBox *overlay() const { return child<QCheckBox>("netGridCheckBox"); }
     QPushButton *merged() const { return child<QPushButton>("pushButtonMerged"); }
     QPushButton *aging() const { return child<QPushButton>("pushButtonOld"); }
+    QPushButton *test(bool isAging) const { return isAging ? aging() : merged(); }
     // The two share a name for the style sheet.
-    QPushButton *pause() const { return begin(0); }
-    QPushButton *mixSettings() const { return begin(1); }
+    QPushButton *pause() const { return beginButton(0); }
+    QPushButton *mixSettings() const { return beginButton(1); }
     QWidget *greenLamp() const { return child<QWidget>("signalGreenButton"); }
     QWidget *greyLamp() const { return child<QWidget>("signalGreyButton"); }
 
@@ -71,7 +57,6 @@ public:
 
     // The only timer of the panel.
     QTimer *timer() const;
-    int interval() const { return timer()->interval(); }
     void tick(int times = 1) const;
 
     // Letters of the buttons that are checked, and of those that are remembered as pressed.
@@ -83,12 +68,15 @@ public:
     // -1 some of each.
     int runControls() const;
 
-    Shown shown();
+    Picture shown() { return picture(canvas.painted()); }
+    // The next tick's, and one after the other.
+    QString nextShown();
+    QString nextShown(int count);
 
-    bool fileExists() const;
-    QByteArray fileBytes() const;
-    // What stands in the file at this moment, nothing pending included.
-    QVariant inFile(const QString &key) const;
+    bool isSaveDue() const;
+    // As the panel would save it now.
+    QVariant saved(const QString &key) const;
+    QByteArray fileBytes();
 
     mutable TestSettings settings;
     Canvas canvas{QSize(41, 41)};
@@ -97,6 +85,5 @@ public:
 
 private:
     void build();
-    QPushButton *begin(int index) const;
-    QVariant saved(const char *key) const;
+    QPushButton *beginButton(int index) const;
 };

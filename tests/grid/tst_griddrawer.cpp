@@ -2,13 +2,11 @@
 
 #include <QtTest>
 
-#include <functional>
-
 using namespace GridColor;
 
 namespace {
 
-using Operation = std::function<void(GridDrawer &)>;
+using Operation = void (*)(GridDrawer &);
 
 } // namespace
 
@@ -21,23 +19,15 @@ class TestGridDrawer : public QObject
 private slots:
     void drawFalse_paintsNothingNotEvenTheBackground();
     void window_isCoveredByAnOpaqueBackground();
-    void noFamilies_showTheInvalidBackgroundAtStart();
-    void noFamilies_showTheOldColourAfterAToggle();
-    void togglingAnyFamily_resetsTheBackground_data();
+    void noFamilies_showTheBackground();
     void togglingAnyFamily_resetsTheBackground();
-    void greyZero_blackensTestColoursOnly();
+    void grey_dimsTestColoursOnly();
     void mergedTest_showsEachFamilyThenNothingThenTheFirst();
-    void tenScrollSteps_bringTheOffsetBack();
+    void scrolling_movesEveryFamilyAndBringsTheOffsetBack();
     void distanceZero_doesNotHang();
     void newDrawer_hasTheInitialValues();
     void operations_activateAndRepaint_data();
     void operations_activateAndRepaint();
-    void colourChanged_takesTheCurrentGrey();
-    void greyOutOfOrder_usesTheBaseColour();
-    void setBgColor_waitsForTheNextToggle();
-    void setEnabled_leavesTheBackground();
-    void disableAll_clearsEveryFamily();
-    void disableAll_leavesTheMergedCycle();
 };
 
 void TestGridDrawer::drawFalse_paintsNothingNotEvenTheBackground()
@@ -65,90 +55,88 @@ void TestGridDrawer::window_isCoveredByAnOpaqueBackground()
     QVERIFY(!canvas.isCovered());
 }
 
-void TestGridDrawer::noFamilies_showTheInvalidBackgroundAtStart()
+void TestGridDrawer::noFamilies_showTheBackground()
 {
     GridCanvas grid;
     QVERIFY(everyPixelIs(grid.painted(), QColor().rgba()));
-}
-
-void TestGridDrawer::noFamilies_showTheOldColourAfterAToggle()
-{
-    GridCanvas grid;
     grid.drawer.slot_changeBgColor(Qt::blue);
+    QVERIFY(everyPixelIs(grid.painted(), blue));
     grid.drawer.slot_horiToggled(false);
     QVERIFY(everyPixelIs(grid.painted(), black));
 
     grid.drawer.slot_setBgColor(Qt::red);
-    grid.drawer.slot_vertLineToggled(false);
+    QCOMPARE(grid.drawer.getOldColor(), QColor(Qt::red));
+    QVERIFY(everyPixelIs(grid.painted(), black)); // up to the next toggle
+    grid.drawer.slot_slantRightToggled(false);
     QVERIFY(everyPixelIs(grid.painted(), red));
-}
-
-void TestGridDrawer::togglingAnyFamily_resetsTheBackground_data()
-{
-    QTest::addColumn<Operation>("toggle");
-    QTest::addColumn<int>("shown");
-
-    using Slot = void (GridDrawer::*)(bool);
-    const auto addRows = [](const char *name, Slot slot, int family) {
-        QTest::addRow("%s on", name)
-            << Operation([slot](GridDrawer &drawer) { (drawer.*slot)(true); }) << family;
-        QTest::addRow("%s off", name)
-            << Operation([slot](GridDrawer &drawer) { (drawer.*slot)(false); }) << 0;
-    };
-    addRows("horizontal", &GridDrawer::slot_horiToggled, Horizontal);
-    addRows("vertical", &GridDrawer::slot_vertLineToggled, Vertical);
-    addRows("slant left", &GridDrawer::slot_slantLeftToggled, SlantLeft);
-    addRows("slant right", &GridDrawer::slot_slantRightToggled, SlantRight);
 }
 
 void TestGridDrawer::togglingAnyFamily_resetsTheBackground()
 {
-    QFETCH(const Operation, toggle);
-    QFETCH(const int, shown);
+    const std::pair<void (GridDrawer::*)(bool), int> toggles[] = {
+        {&GridDrawer::slot_horiToggled, Horizontal},
+        {&GridDrawer::slot_vertLineToggled, Vertical},
+        {&GridDrawer::slot_slantLeftToggled, SlantLeft},
+        {&GridDrawer::slot_slantRightToggled, SlantRight}};
     GridCanvas grid;
     grid.drawer.slot_colorChanged(Qt::red);
     grid.drawer.slot_setBgColor(Qt::blue);
-    grid.drawer.slot_changeBgColor(Qt::green);
-    QVERIFY(everyPixelIs(grid.painted(), 0xff00ff00));
-
-    toggle(grid.drawer);
-    QCOMPARE(difference(grid.painted(), shown, 10, 0), QString());
+    for (const auto &[toggle, family] : toggles) {
+        for (const bool on : {true, false}) {
+            grid.drawer.slot_changeBgColor(Qt::green);
+            (grid.drawer.*toggle)(on);
+            QCOMPARE(difference(grid.painted(), on ? family : 0, 10, 0), QString());
+        }
+    }
 }
 
-void TestGridDrawer::greyZero_blackensTestColoursOnly()
+void TestGridDrawer::grey_dimsTestColoursOnly()
 {
     GridCanvas grid;
     grid.showRedOnBlue(Horizontal);
+    const auto line = [&grid] { return grid.painted().pixel(3, 10); };
     grid.drawer.slot_changeGrayScale(0);
-    QCOMPARE(grid.painted().pixel(3, 10), black);
+    QCOMPARE(line(), black);
+    grid.drawer.slot_changeGrayScale(200);
+    QCOMPARE(line(), qRgb(200, 0, 0));
+    QCOMPARE(grid.drawer.dimmed(Qt::white), QColor(200, 200, 200));
+    grid.drawer.slot_colorChanged(Qt::yellow);
+    QCOMPARE(line(), qRgb(200, 200, 0));
 
     grid.drawer.slot_colorChanged(QColor(200, 100, 50));
-    QCOMPARE(grid.painted().pixel(3, 10), qRgb(200, 100, 50));
+    QCOMPARE(line(), qRgb(200, 100, 50));
     grid.drawer.slot_changeGrayScale(0);
-    QCOMPARE(grid.painted().pixel(3, 10), qRgb(200, 100, 50));
+    QCOMPARE(line(), qRgb(200, 100, 50));
 }
 
 void TestGridDrawer::mergedTest_showsEachFamilyThenNothingThenTheFirst()
 {
     GridCanvas grid;
     grid.showRedOnBlue(EveryFamily);
+    QCOMPARE(difference(grid.painted(), EveryFamily, 10, 0), QString());
     const int shown[] = {Horizontal, Vertical, SlantLeft, SlantRight, 0, Horizontal};
     for (int step = 0; step < 6; ++step) {
         const QByteArray line = "MergedTest index=[" + QByteArray::number(step % 5) + "]";
         QTest::ignoreMessage(QtDebugMsg, line.constData());
         grid.drawer.mergedTest();
         QCOMPARE(difference(grid.painted(), shown[step], 10, 0), QString());
+        grid.drawer.disableAll(); // which leaves the cycle
+        QVERIFY(everyPixelIs(grid.painted(), blue));
     }
 }
 
-void TestGridDrawer::tenScrollSteps_bringTheOffsetBack()
+void TestGridDrawer::scrolling_movesEveryFamilyAndBringsTheOffsetBack()
 {
-    const int families = Horizontal | Vertical;
-    GridCanvas grid;
-    grid.showRedOnBlue(families);
-    for (int step = 0; step <= 10; ++step) {
-        QCOMPARE(difference(grid.painted(), families, 10, step % 10), QString());
-        grid.drawer.scrollLines();
+    GridCanvas grid(QSize(80, 70));
+    for (const int families : {Horizontal, Vertical, SlantLeft, SlantRight, EveryFamily}) {
+        grid.showRedOnBlue(families);
+        for (int step = 0; step < 10; ++step) {
+            QCOMPARE(difference(grid.painted(), families, 10, step), QString());
+            if (step % 2 == 0)
+                grid.drawer.scrollLines();
+            else
+                grid.drawer.slot_ScrollLines();
+        }
     }
 }
 
@@ -186,51 +174,31 @@ void TestGridDrawer::operations_activateAndRepaint_data()
     QTest::addColumn<Operation>("operation");
     QTest::addColumn<bool>("activates");
     QTest::addColumn<bool>("repaints");
-
-    const auto addRow = [](const char *name, const Operation &operation, bool activates,
-                           bool repaints) {
-        QTest::newRow(name) << operation << activates << repaints;
-    };
     using Drawer = GridDrawer;
-    const QColor color(Qt::cyan);
-    addRow(
-        "slot_colorChanged", [=](Drawer &d) { d.slot_colorChanged(color); }, false, true);
-    addRow(
-        "slot_changeGrayScale", [](Drawer &d) { d.slot_changeGrayScale(9); }, true, true);
-    addRow(
-        "slot_horiToggled", [](Drawer &d) { d.slot_horiToggled(true); }, false, true);
-    addRow(
-        "slot_vertLineToggled", [](Drawer &d) { d.slot_vertLineToggled(true); }, false, true);
-    addRow(
-        "slot_slantLeftToggled", [](Drawer &d) { d.slot_slantLeftToggled(true); }, false, true);
-    addRow(
-        "slot_slantRightToggled", [](Drawer &d) { d.slot_slantRightToggled(true); }, false, true);
-    addRow(
-        "setHoriLinesEnabled", [](Drawer &d) { d.setHoriLinesEnabled(true); }, false, false);
-    addRow(
-        "setVertLinesEnabled", [](Drawer &d) { d.setVertLinesEnabled(true); }, false, false);
-    addRow(
-        "setSlantLeftLinesEnabled", [](Drawer &d) { d.setSlantLeftLinesEnabled(true); }, false,
-        false);
-    addRow(
-        "setSlantRightLinesEnabled", [](Drawer &d) { d.setSlantRightLinesEnabled(true); }, false,
-        false);
-    addRow(
-        "disableAll", [](Drawer &d) { d.disableAll(); }, false, false);
-    addRow(
-        "slot_changeBgColor", [=](Drawer &d) { d.slot_changeBgColor(color); }, true, true);
-    addRow(
-        "slot_setBgColor", [=](Drawer &d) { d.slot_setBgColor(color); }, false, false);
-    addRow(
-        "slot_changePix", [](Drawer &d) { d.slot_changePix(4); }, true, true);
-    addRow(
-        "slot_changeDistance", [](Drawer &d) { d.slot_changeDistance(4); }, true, true);
-    addRow(
-        "scrollLines", [](Drawer &d) { d.scrollLines(); }, true, true);
-    addRow(
-        "slot_ScrollLines", [](Drawer &d) { d.slot_ScrollLines(); }, false, true);
-    addRow(
-        "mergedTest", [](Drawer &d) { d.mergedTest(); }, true, true);
+    const std::tuple<const char *, Operation, bool, bool> rows[] = {
+        {"slot_colorChanged", [](Drawer &d) { d.slot_colorChanged(Qt::cyan); }, false, true},
+        {"slot_changeGrayScale", [](Drawer &d) { d.slot_changeGrayScale(9); }, true, true},
+        {"slot_horiToggled", [](Drawer &d) { d.slot_horiToggled(true); }, false, true},
+        {"slot_vertLineToggled", [](Drawer &d) { d.slot_vertLineToggled(true); }, false, true},
+        {"slot_slantLeftToggled", [](Drawer &d) { d.slot_slantLeftToggled(true); }, false, true},
+        {"slot_slantRightToggled", [](Drawer &d) { d.slot_slantRightToggled(true); }, false, true},
+        {"setHoriLinesEnabled", [](Drawer &d) { d.setHoriLinesEnabled(true); }, false, false},
+        {"setVertLinesEnabled", [](Drawer &d) { d.setVertLinesEnabled(true); }, false, false},
+        {"setSlantLeftLinesEnabled", [](Drawer &d) { d.setSlantLeftLinesEnabled(true); }, false,
+         false},
+        {"setSlantRightLinesEnabled", [](Drawer &d) { d.setSlantRightLinesEnabled(true); }, false,
+         false},
+        {"disableAll", [](Drawer &d) { d.disableAll(); }, false, false},
+        {"slot_changeBgColor", [](Drawer &d) { d.slot_changeBgColor(Qt::cyan); }, true, true},
+        {"slot_setBgColor", [](Drawer &d) { d.slot_setBgColor(Qt::cyan); }, false, false},
+        {"slot_changePix", [](Drawer &d) { d.slot_changePix(4); }, true, true},
+        {"slot_changeDistance", [](Drawer &d) { d.slot_changeDistance(4); }, true, true},
+        {"scrollLines", [](Drawer &d) { d.scrollLines(); }, true, true},
+        {"slot_ScrollLines", [](Drawer &d) { d.slot_ScrollLines(); }, false, true},
+        {"mergedTest", [](Drawer &d) { d.mergedTest(); }, true, true},
+    };
+    for (const auto &[name, operation, activates, repaints] : rows)
+        QTest::newRow(name) << operation << activates << repaints;
 }
 
 void TestGridDrawer::operations_activateAndRepaint()
@@ -262,65 +230,6 @@ void TestGridDrawer::operations_activateAndRepaint()
     grid.drawer.active = true;
     operation(grid.drawer);
     QVERIFY(grid.drawer.active);
-}
-
-void TestGridDrawer::colourChanged_takesTheCurrentGrey()
-{
-    GridCanvas grid;
-    grid.showRedOnBlue(Horizontal);
-    grid.drawer.slot_changeGrayScale(77);
-    grid.drawer.slot_colorChanged(Qt::yellow);
-    QCOMPARE(grid.painted().pixel(3, 10), qRgb(77, 77, 0));
-}
-
-void TestGridDrawer::greyOutOfOrder_usesTheBaseColour()
-{
-    GridCanvas grid;
-    grid.showRedOnBlue(Horizontal);
-    grid.drawer.slot_changeGrayScale(0);
-    grid.drawer.slot_changeGrayScale(200);
-    QCOMPARE(grid.painted().pixel(3, 10), qRgb(200, 0, 0));
-}
-
-void TestGridDrawer::setBgColor_waitsForTheNextToggle()
-{
-    GridCanvas grid;
-    grid.drawer.slot_changeBgColor(Qt::red);
-    grid.drawer.slot_setBgColor(Qt::blue);
-    QCOMPARE(grid.drawer.getOldColor(), QColor(Qt::blue));
-    QVERIFY(everyPixelIs(grid.painted(), red));
-    grid.drawer.slot_slantRightToggled(false);
-    QVERIFY(everyPixelIs(grid.painted(), blue));
-}
-
-void TestGridDrawer::setEnabled_leavesTheBackground()
-{
-    GridCanvas grid(QSize(80, 70));
-    for (const int family : {Horizontal, Vertical, SlantLeft, SlantRight}) {
-        grid.showRedOnBlue(family);
-        QCOMPARE(difference(grid.painted(), family, 10, 0), QString());
-    }
-}
-
-void TestGridDrawer::disableAll_clearsEveryFamily()
-{
-    GridCanvas grid;
-    grid.showRedOnBlue(EveryFamily);
-    QCOMPARE(difference(grid.painted(), EveryFamily, 10, 0), QString());
-    grid.drawer.disableAll();
-    QVERIFY(everyPixelIs(grid.painted(), blue));
-}
-
-void TestGridDrawer::disableAll_leavesTheMergedCycle()
-{
-    GridCanvas grid;
-    grid.showRedOnBlue(0);
-    QTest::ignoreMessage(QtDebugMsg, "MergedTest index=[0]");
-    grid.drawer.mergedTest();
-    grid.drawer.disableAll();
-    QTest::ignoreMessage(QtDebugMsg, "MergedTest index=[1]");
-    grid.drawer.mergedTest();
-    QCOMPARE(difference(grid.painted(), Vertical, 10, 0), QString());
 }
 
 QTEST_MAIN(TestGridDrawer)

@@ -117,8 +117,8 @@ class TestGridDrawerPixels : public QObject
     Q_OBJECT
 
 private slots:
-    void horizontalLine_isDrawnAtTheBottomEdge();
-    void verticalLine_isDrawnAtTheRightEdge();
+    void lastStraightLine_isDrawnAtTheEdge_data();
+    void lastStraightLine_isDrawnAtTheEdge();
     void lastSlantLine_isDrawnToTheLeftOnly();
     void fullGrey_leavesTheBrushDimmed();
     void families_areExact_data();
@@ -127,49 +127,43 @@ private slots:
     void lineFunctions_ignoreTheFlagsAndKeepThePen();
     void families_arePaintedOverOneAnotherInOrder();
     void screens_areCopiedNotDrawnLineByLine();
-    void scrolling_movesEveryFamilyByOnePixel();
     void smallerDistance_keepsTheOffsetUpToTheNextStep();
     void changePix_setsTheWidthOfTheLines();
 };
 
-void TestGridDrawerPixels::horizontalLine_isDrawnAtTheBottomEdge()
+void TestGridDrawerPixels::lastStraightLine_isDrawnAtTheEdge_data()
 {
-    // The line itself is below the last row; a painter on a larger image shows it.
-    GridCanvas grid(QSize(20, 33));
-    grid.scroll(3);
-    QImage image(40, 60, QImage::Format_RGB32);
-    image.fill(blue);
-    QPainter painter(&image);
-    grid.drawer.drawHoriLines(painter);
-    painter.end();
-    QCOMPARE(image.pixel(5, 33), black);
-    QCOMPARE(image.pixel(5, 43), blue);
-
-    // With three pixels of width it reaches into the window.
-    grid.showRedOnBlue(Horizontal);
-    grid.drawer.slot_changePix(3);
-    QCOMPARE(grid.painted().pixel(5, 32), red);
-    grid.canvas.resize(20, 32);
-    QCOMPARE(grid.painted().pixel(5, 31), blue);
+    QTest::addColumn<bool>("horizontal");
+    QTest::newRow("horizontal at the bottom") << true;
+    QTest::newRow("vertical at the right") << false;
 }
 
-void TestGridDrawerPixels::verticalLine_isDrawnAtTheRightEdge()
+void TestGridDrawerPixels::lastStraightLine_isDrawnAtTheEdge()
 {
-    GridCanvas grid(QSize(33, 20));
+    QFETCH(const bool, horizontal);
+    const auto across = [horizontal](int position) {
+        return horizontal ? QPoint(5, position) : QPoint(position, 5);
+    };
+    // The line itself is beyond the last pixel; a painter on a larger image shows it.
+    GridCanvas grid(QSize(33, 33));
     grid.scroll(3);
-    QImage image(60, 40, QImage::Format_RGB32);
+    QImage image(60, 60, QImage::Format_RGB32);
     image.fill(blue);
     QPainter painter(&image);
-    grid.drawer.drawVertLines(painter);
+    if (horizontal)
+        grid.drawer.drawHoriLines(painter);
+    else
+        grid.drawer.drawVertLines(painter);
     painter.end();
-    QCOMPARE(image.pixel(33, 5), black);
-    QCOMPARE(image.pixel(43, 5), blue);
+    QCOMPARE(image.pixel(across(33)), black);
+    QCOMPARE(image.pixel(across(43)), blue);
 
-    grid.showRedOnBlue(Vertical);
+    // With three pixels of width it reaches into the window.
+    grid.showRedOnBlue(horizontal ? Horizontal : Vertical);
     grid.drawer.slot_changePix(3);
-    QCOMPARE(grid.painted().pixel(32, 5), red);
-    grid.canvas.resize(32, 20);
-    QCOMPARE(grid.painted().pixel(31, 5), blue);
+    QCOMPARE(grid.painted().pixel(across(32)), red);
+    grid.canvas.resize(32, 32);
+    QCOMPARE(grid.painted().pixel(across(31)), blue);
 }
 
 void TestGridDrawerPixels::lastSlantLine_isDrawnToTheLeftOnly()
@@ -299,21 +293,6 @@ void TestGridDrawerPixels::screens_areCopiedNotDrawnLineByLine()
             QCOMPARE(recorded(grid.canvas).lineCalls, 0);
         }
         grid.scroll(7);
-    }
-}
-
-void TestGridDrawerPixels::scrolling_movesEveryFamilyByOnePixel()
-{
-    GridCanvas grid(QSize(300, 200));
-    for (const int family : {Horizontal, Vertical, SlantLeft, SlantRight}) {
-        grid.showRedOnBlue(family);
-        for (int step = 0; step < 10; ++step) {
-            QCOMPARE(difference(grid.painted(), family, 10, step), QString());
-            if (step % 2 == 0)
-                grid.drawer.scrollLines();
-            else
-                grid.drawer.slot_ScrollLines();
-        }
     }
 }
 

@@ -1,3 +1,4 @@
+#include "dictionary.h"
 #include "gridrig.h"
 
 #include <QLabel>
@@ -7,128 +8,110 @@
 
 namespace {
 
-using Key = void (ScrGridCtrlDialog::*)();
+using Panel = ScrGridCtrlDialog;
+using Key = void (Panel::*)();
+
+// Every text of the panel, the colours first and the start/pause button last.
+QString texts(const GridRig &rig)
+{
+    QStringList all;
+    for (int index = 0; index < 7; ++index)
+        all << rig.colorButton(index)->text();
+    for (const char letter : {'H', 'V', 'R', 'L'})
+        all << rig.familyButton(letter)->text();
+    all << rig.overlay()->text() << rig.merged()->text() << rig.aging()->text();
+    all << rig.child<QLabel>("label_4")->text() << rig.child<QLabel>("label_2")->text();
+    all << rig.mixSettings()->text() << rig.pause()->text();
+    return all.join(QLatin1Char(' '));
+}
+
+const QString chinese = QStringLiteral(
+    "红 绿 蓝 白 黄 青 紫 横 竖 右斜 左斜 网格叠加 混测 老化 速度 灰度 高级设置 开始");
+
+// A word for each Chinese one, with more words behind it.
+QHash<QString, QString> translation(const QString &more = {})
+{
+    const QStringList words =
+        QStringLiteral("R G B W Y C P Hor Ver SR SL All Mix Age Speed Grey More Go")
+            .split(QLatin1Char(' '));
+    QHash<QString, QString> dictionary{
+        {QStringLiteral("暂停"), QStringLiteral("Stop")},
+        {QStringLiteral("显示屏测试工具-网格"), QStringLiteral("Grid")},
+        {QStringLiteral("运行指示灯"), QStringLiteral("Lamp")}};
+    for (int i = 0; i < words.size(); ++i)
+        dictionary[chinese.split(QLatin1Char(' ')).at(i)] = words.at(i) + more;
+    return dictionary;
+}
 
 } // namespace
 
 Q_DECLARE_METATYPE(Key)
 
-// The controls and the keys.
+// The controls, the keys and the texts.
 class TestScrGridCtrlDialog : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void panel_hasItsSizeAndTitle();
-    void ranges_areThoseOfTheValues_data();
-    void ranges_areThoseOfTheValues();
-    void widths_areLimited();
-    void spinBoxes_lookAndBehaveAlike_data();
-    void spinBoxes_lookAndBehaveAlike();
-    void runButtons_areNamedForTheStyleSheet();
-    void rules_haveTheirColour();
+    void form_isAsItsControlsNeedIt();
+    void slidersAndSpinBoxes_areAlike();
     void newPanel_showsTheGreyLampAndRed();
     void pageOfTabs_staysInItsPlaceAndOpen();
-    void lineState_runsItsSlotTwice();
     void enterInASpinBox_pressesNoButton();
+    void language_isAppliedToEveryText();
+    void language_thatDoesNotFitIsElided();
+    void withoutSettings_thePanelWorks();
 
     void getDrawer_disablesSpeedAndGreyAndTheDrawer();
     void advanceSettings_areSwitchedTogether();
     void scrollEnabled_isTheRunAndItsButton();
-    void scroll_isTheRunAlone();
-
     void greyKeys_stepAndWrap_data();
     void greyKeys_stepAndWrap();
-    void greyKeys_doNothingWhileTheSliderIsDisabled_data();
-    void greyKeys_doNothingWhileTheSliderIsDisabled();
-    void oneGreyEdit_isToldOnceAndShown_data();
     void oneGreyEdit_isToldOnceAndShown();
-    void sliderAndSpinBox_showTheSameValue();
-
-    void withoutSettings_thePanelWorks();
 };
 
-void TestScrGridCtrlDialog::panel_hasItsSizeAndTitle()
-{
-    const GridRig rig;
-    QCOMPARE(rig.panel->minimumSize(), QSize(585, 192));
-    QCOMPARE(rig.panel->maximumSize(), QSize(585, 192));
-    QCOMPARE(rig.panel->windowTitle(), QStringLiteral("显示屏测试工具-网格"));
-}
-
-void TestScrGridCtrlDialog::ranges_areThoseOfTheValues_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::newRow("grey slider") << QStringLiteral("hScrollBarGrayLevel") << 0 << 255;
-    QTest::newRow("grey spin box") << QStringLiteral("labelGrayLevel") << 0 << 255;
-    QTest::newRow("speed slider") << QStringLiteral("hScrollBarSpeed") << 1 << 100;
-    QTest::newRow("speed spin box") << QStringLiteral("labelSpeed") << 1 << 100;
-}
-
-void TestScrGridCtrlDialog::ranges_areThoseOfTheValues()
-{
-    QFETCH(const QString, name);
-    const GridRig rig;
-    const auto *widget = rig.panel->findChild<QWidget *>(name);
-    QVERIFY(widget);
-
-    QTEST(widget->property("minimum").toInt(), "minimum");
-    QTEST(widget->property("maximum").toInt(), "maximum");
-}
-
-void TestScrGridCtrlDialog::widths_areLimited()
+void TestScrGridCtrlDialog::form_isAsItsControlsNeedIt()
 {
     const GridRig rig;
     rig.panel->updateLanguage();
+    QCOMPARE(rig.panel->minimumSize(), QSize(585, 192));
+    QCOMPARE(rig.panel->maximumSize(), QSize(585, 192));
+    QCOMPARE(rig.panel->windowTitle(), QStringLiteral("显示屏测试工具-网格"));
     for (const char letter : {'H', 'V', 'L', 'R'})
-        QCOMPARE(rig.familyButton(QLatin1Char(letter))->maximumWidth(), 60);
+        QCOMPARE(rig.familyButton(letter)->maximumWidth(), 60);
     for (const char *name : {"label_2", "label_4"})
         QCOMPARE(rig.child<QLabel>(name)->maximumWidth(), 60);
-    QCOMPARE(rig.greySlider()->width(), 230);
-    QCOMPARE(rig.speedSlider()->width(), 230);
+    for (const char *name : {"label", "label_3", "label_5"}) {
+        const auto *rule = rig.child<QLabel>(name);
+        QCOMPARE(rule->styleSheet(), QStringLiteral("background:rgb(75,80,87);"));
+        QCOMPARE(qMin(rule->width(), rule->height()), 2);
+    }
     QCOMPARE(rig.overlay()->minimumWidth(), 80);
     for (int index = 0; index < 7; ++index)
         QCOMPARE(rig.colorButton(index)->geometry(), QRect(30 + 54 * index, 10, 42, 42));
 }
 
-void TestScrGridCtrlDialog::spinBoxes_lookAndBehaveAlike_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name : {"labelGrayLevel", "labelSpeed"})
-        QTest::newRow(name) << QString::fromLatin1(name);
-}
-
-void TestScrGridCtrlDialog::spinBoxes_lookAndBehaveAlike()
-{
-    QFETCH(const QString, name);
-    const GridRig rig;
-    const auto *spinBox = rig.panel->findChild<QSpinBox *>(name);
-    QVERIFY(spinBox);
-
-    QCOMPARE(spinBox->contextMenuPolicy(), Qt::NoContextMenu);
-    QVERIFY(!spinBox->testAttribute(Qt::WA_MacShowFocusRect));
-}
-
-void TestScrGridCtrlDialog::runButtons_areNamedForTheStyleSheet()
+void TestScrGridCtrlDialog::slidersAndSpinBoxes_areAlike()
 {
     const GridRig rig;
-    QCOMPARE(rig.pause()->text(), QStringLiteral("开始"));
-    QCOMPARE(rig.mixSettings()->text(), QStringLiteral("高级设置"));
-    QVERIFY(!rig.child<QPushButton>("pushButtonPause"));
-    QVERIFY(!rig.child<QPushButton>("pushButtonSettings"));
-}
-
-void TestScrGridCtrlDialog::rules_haveTheirColour()
-{
-    const GridRig rig;
-    for (const char *name : {"label", "label_3", "label_5"}) {
-        const auto *rule = rig.child<QLabel>(name);
-        QVERIFY(rule);
-        QCOMPARE(rule->styleSheet(), QStringLiteral("background:rgb(75,80,87);"));
-        QCOMPARE(qMin(rule->width(), rule->height()), 2);
+    const std::tuple<QSlider *, QSpinBox *, int, int> pairs[] = {
+        {rig.greySlider(), rig.greySpinBox(), 0, 255},
+        {rig.speedSlider(), rig.speedSpinBox(), 1, 100},
+    };
+    for (const auto &[slider, spinBox, minimum, maximum] : pairs) {
+        QCOMPARE(slider->width(), 230);
+        QCOMPARE(spinBox->contextMenuPolicy(), Qt::NoContextMenu);
+        QVERIFY(!spinBox->testAttribute(Qt::WA_MacShowFocusRect));
+        QCOMPARE(slider->minimum(), minimum);
+        QCOMPARE(slider->maximum(), maximum);
+        QCOMPARE(spinBox->minimum(), minimum);
+        QCOMPARE(spinBox->maximum(), maximum);
+        slider->setValue(11);
+        QCOMPARE(spinBox->value(), 11);
+        spinBox->setValue(22);
+        QCOMPARE(slider->value(), 22);
     }
+    QCOMPARE(rig.greySlider()->value(), 22);
 }
 
 void TestScrGridCtrlDialog::newPanel_showsTheGreyLampAndRed()
@@ -140,12 +123,7 @@ void TestScrGridCtrlDialog::newPanel_showsTheGreyLampAndRed()
         QVERIFY(rig.colorButton(index)->isCheckable());
         QCOMPARE(rig.colorButton(index)->isChecked(), index == 0);
     }
-    QCOMPARE(rig.checked(), QString());
-    QVERIFY(rig.overlay()->isChecked());
-    QCOMPARE(int(rig.panel->colorIndex), 0);
-    QCOMPARE(int(rig.panel->lineIndex), 0);
     QVERIFY(!rig.panel->scrollLocked);
-    QVERIFY(!rig.panel->pushButtonPauseChecked);
 }
 
 void TestScrGridCtrlDialog::pageOfTabs_staysInItsPlaceAndOpen()
@@ -166,20 +144,6 @@ void TestScrGridCtrlDialog::pageOfTabs_staysInItsPlaceAndOpen()
     QVERIFY(!escape.isAccepted()); // so that it goes on to the main window
 }
 
-// In single mode the second run of the slot leaves what the first one has shown.
-void TestScrGridCtrlDialog::lineState_runsItsSlotTwice()
-{
-    const GridRig rig;
-    rig.clickFamilies("V");
-    QVERIFY(rig.overlay()->isChecked());
-    rig.panel->lineIndex = 0;
-    rig.panel->slot_changeLineState();
-    QCOMPARE(rig.checked(), QStringLiteral("V"));
-    rig.overlay()->setChecked(false);
-    rig.panel->slot_changeLineState();
-    QCOMPARE(rig.checked(), QStringLiteral("H"));
-}
-
 void TestScrGridCtrlDialog::enterInASpinBox_pressesNoButton()
 {
     const GridRig rig;
@@ -195,6 +159,64 @@ void TestScrGridCtrlDialog::enterInASpinBox_pressesNoButton()
 
     QCOMPARE(aging.count(), 1);
     QVERIFY(rig.panel->isVisible());
+}
+
+void TestScrGridCtrlDialog::language_isAppliedToEveryText()
+{
+    const GridRig rig;
+    rig.panel->setStyleSheet(QStringLiteral("QWidget { font-size: 12px; }"));
+    QCOMPARE(texts(rig), chinese);
+    {
+        const Dictionary dictionary(translation());
+        rig.clickFamilies("H");
+        rig.tick();
+        QCOMPARE(rig.pause()->text(), QStringLiteral("Stop"));
+        rig.panel->updateLanguage(); // the start text even while running
+        QCOMPARE(texts(rig),
+                 QStringLiteral("R G B W Y C P Hor Ver SR SL All Mix Age Speed Grey More Go"));
+        QCOMPARE(rig.panel->windowTitle(), QStringLiteral("Grid"));
+        rig.tick();
+        QCOMPARE(rig.pause()->text(), QStringLiteral("Stop"));
+        const std::pair<const char *, const char *> names[] = {
+            {"hScrollBarGrayLevel", "Grey"}, {"labelGrayLevel", "Grey"},
+            {"hScrollBarSpeed", "Speed"},    {"labelSpeed", "Speed"},
+            {"signalGreenButton", "Lamp"},   {"signalGreyButton", "Lamp"},
+            {"radioButtonRed", "R"},         {"radioButtonPurple", "P"}};
+        for (const auto &[name, expected] : names)
+            QCOMPARE(rig.child<QWidget>(name)->accessibleName(), QLatin1String(expected));
+    }
+    rig.panel->updateLanguage();
+    QCOMPARE(texts(rig), chinese);
+}
+
+void TestScrGridCtrlDialog::language_thatDoesNotFitIsElided()
+{
+    const GridRig rig;
+    const Dictionary dictionary(translation(QStringLiteral(" and on").repeated(9)));
+    rig.panel->updateLanguage();
+    for (const QWidget *widget : QWidgetList{
+             rig.familyButton('H'), rig.overlay(), rig.merged(), rig.aging(), rig.pause(),
+             rig.mixSettings(), rig.child<QLabel>("label_2"), rig.child<QLabel>("label_4")}) {
+        QVERIFY(widget->toolTip().endsWith(QStringLiteral(" and on")));
+        QVERIFY(widget->property("text").toString().endsWith(QChar(0x2026)));
+    }
+}
+
+void TestScrGridCtrlDialog::withoutSettings_thePanelWorks()
+{
+    Canvas canvas(QSize(41, 41));
+    ScrGridCtrlDialog panel(&canvas, nullptr, nullptr);
+    canvas.setDrawer(panel.getDrawer());
+    panel.slot_changeSelectedGridColor(Qt::blue);
+    panel.findChild<QPushButton *>(QStringLiteral("radioButtonHorizontal"))->click();
+    QCOMPARE(canvas.painted().pixel(5, 0), qRgb(0, 0, 128));
+    panel.slot_TimerOut();
+    QCOMPARE(canvas.painted().pixel(5, 1), qRgb(0, 0, 128));
+    panel.findChild<QPushButton *>(QStringLiteral("pushButtonMerged"))->click();
+    panel.slot_TimerOut();
+    QCOMPARE(canvas.painted().pixel(5, 5), qRgb(128, 0, 0));
+    panel.updateLanguage();
+    panel.saveGridBaseInfo();
 }
 
 // A freshly shown tab paints nothing new until a control is used.
@@ -223,6 +245,12 @@ void TestScrGridCtrlDialog::getDrawer_disablesSpeedAndGreyAndTheDrawer()
 void TestScrGridCtrlDialog::advanceSettings_areSwitchedTogether()
 {
     const GridRig rig;
+    for (const bool on : {true, false}) { // the run alone
+        rig.panel->setScroll(on);
+        QCOMPARE(rig.panel->getScroll(), on);
+        QCOMPARE(rig.panel->getScrollEnabled(), on);
+        QCOMPARE(rig.runControls(), 0);
+    }
     rig.mixSettings()->setEnabled(false);
     rig.panel->enableAdvanceSettings();
     QCOMPARE(rig.runControls(), 1);
@@ -258,32 +286,23 @@ void TestScrGridCtrlDialog::scrollEnabled_isTheRunAndItsButton()
     QVERIFY(!rig.drawer->active);
 }
 
-void TestScrGridCtrlDialog::scroll_isTheRunAlone()
-{
-    const GridRig rig;
-    for (const bool on : {true, false}) {
-        rig.panel->setScroll(on);
-        QCOMPARE(rig.panel->getScroll(), on);
-        QCOMPARE(rig.panel->getScrollEnabled(), on);
-        QCOMPARE(rig.runControls(), 0);
-    }
-}
-
 void TestScrGridCtrlDialog::greyKeys_stepAndWrap_data()
 {
-    QTest::addColumn<int>("start");
     QTest::addColumn<Key>("key");
+    QTest::addColumn<int>("start");
     QTest::addColumn<int>("expected");
-    using Panel = ScrGridCtrlDialog;
-    QTest::newRow("Up") << 100 << Key(&Panel::slot_keyUpPressed) << 101;
-    QTest::newRow("Right") << 100 << Key(&Panel::slot_keyRightPressed) << 101;
-    QTest::newRow("Down") << 100 << Key(&Panel::slot_keyDownPressed) << 99;
-    QTest::newRow("Left") << 100 << Key(&Panel::slot_keyLeftPressed) << 99;
-    QTest::newRow("at grey 255 the Up key gives 0") << 255 << Key(&Panel::slot_keyUpPressed) << 0;
-    QTest::newRow("Right at 255") << 255 << Key(&Panel::slot_keyRightPressed) << 0;
-    QTest::newRow("at grey 0 the Down key gives 255")
-        << 0 << Key(&Panel::slot_keyDownPressed) << 255;
-    QTest::newRow("Left at 0") << 0 << Key(&Panel::slot_keyLeftPressed) << 255;
+    const std::pair<const char *, Key> up[] = {{"Up", &Panel::slot_keyUpPressed},
+                                               {"Right", &Panel::slot_keyRightPressed}};
+    const std::pair<const char *, Key> down[] = {{"Down", &Panel::slot_keyDownPressed},
+                                                 {"Left", &Panel::slot_keyLeftPressed}};
+    for (const int start : {0, 100, 255}) {
+        for (const auto &[name, key] : up)
+            QTest::addRow("%s at %d", name, start)
+                << key << start << (start == 255 ? 0 : start + 1);
+        for (const auto &[name, key] : down)
+            QTest::addRow("%s at %d", name, start)
+                << key << start << (start == 0 ? 255 : start - 1);
+    }
 }
 
 void TestScrGridCtrlDialog::greyKeys_stepAndWrap()
@@ -292,87 +311,32 @@ void TestScrGridCtrlDialog::greyKeys_stepAndWrap()
     QFETCH(const Key, key);
     QFETCH(const int, expected);
     GridRig rig;
-    rig.clickFamilies("H");
     rig.greySlider()->setValue(start);
-    QSignalSpy grey(rig.panel.get(), &ScrGridCtrlDialog::signal_greyChanged);
-    (rig.panel.get()->*key)();
+    (rig.panel.get()->*key)(); // while the slider is disabled
+    QCOMPARE(rig.greySlider()->value(), start);
 
-    QCOMPARE(rig.greySlider()->value(), expected);
+    rig.clickFamilies("H");
+    QSignalSpy grey(rig.panel.get(), &Panel::signal_greyChanged);
+    (rig.panel.get()->*key)();
     QCOMPARE(rig.greySpinBox()->value(), expected);
     QCOMPARE(grey.count(), 1);
     QCOMPARE(grey.first().first().toString(), QString::number(expected));
     QCOMPARE(rig.shown().line, qRgb(expected, 0, 0));
 }
 
-void TestScrGridCtrlDialog::greyKeys_doNothingWhileTheSliderIsDisabled_data()
-{
-    greyKeys_stepAndWrap_data();
-}
-
-void TestScrGridCtrlDialog::greyKeys_doNothingWhileTheSliderIsDisabled()
-{
-    QFETCH(const int, start);
-    QFETCH(const Key, key);
-    const GridRig rig;
-    rig.greySlider()->setValue(start);
-    QVERIFY(!rig.greySlider()->isEnabled());
-    (rig.panel.get()->*key)();
-
-    QCOMPARE(rig.greySlider()->value(), start);
-}
-
-void TestScrGridCtrlDialog::oneGreyEdit_isToldOnceAndShown_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name : {"hScrollBarGrayLevel", "labelGrayLevel"})
-        QTest::newRow(name) << QString::fromLatin1(name);
-}
-
 void TestScrGridCtrlDialog::oneGreyEdit_isToldOnceAndShown()
 {
-    QFETCH(const QString, name);
-    GridRig rig;
-    rig.clickFamilies("V");
-    rig.panel->getDrawer();
-    QSignalSpy grey(rig.panel.get(), &ScrGridCtrlDialog::signal_greyChanged);
-    auto *control = rig.panel->findChild<QWidget *>(name);
-    QVERIFY(control && control->setProperty("value", 42));
-
-    QCOMPARE(grey.count(), 1);
-    QCOMPARE(grey.first().first().toString(), QStringLiteral("42"));
-    QCOMPARE(rig.shown().line, qRgb(42, 0, 0));
-    QVERIFY(rig.drawer->active);
-}
-
-void TestScrGridCtrlDialog::sliderAndSpinBox_showTheSameValue()
-{
-    const GridRig rig;
-    rig.greySlider()->setValue(11);
-    QCOMPARE(rig.greySpinBox()->value(), 11);
-    rig.greySpinBox()->setValue(22);
-    QCOMPARE(rig.greySlider()->value(), 22);
-    rig.speedSlider()->setValue(33);
-    QCOMPARE(rig.speedSpinBox()->value(), 33);
-    rig.speedSpinBox()->setValue(44);
-    QCOMPARE(rig.speedSlider()->value(), 44);
-    QCOMPARE(rig.greySlider()->value(), 22);
-}
-
-void TestScrGridCtrlDialog::withoutSettings_thePanelWorks()
-{
-    Canvas canvas(QSize(41, 41));
-    ScrGridCtrlDialog panel(&canvas, nullptr, nullptr);
-    canvas.setDrawer(panel.getDrawer());
-    panel.slot_changeSelectedGridColor(Qt::blue);
-    panel.findChild<QPushButton *>(QStringLiteral("radioButtonHorizontal"))->click();
-    QCOMPARE(canvas.painted().pixel(5, 0), qRgb(0, 0, 128));
-    panel.slot_TimerOut();
-    QCOMPARE(canvas.painted().pixel(5, 1), qRgb(0, 0, 128));
-    panel.findChild<QPushButton *>(QStringLiteral("pushButtonMerged"))->click();
-    panel.slot_TimerOut();
-    QCOMPARE(canvas.painted().pixel(5, 5), qRgb(128, 0, 0));
-    panel.updateLanguage();
-    panel.saveGridBaseInfo();
+    for (const char *name : {"hScrollBarGrayLevel", "labelGrayLevel"}) {
+        GridRig rig;
+        rig.clickFamilies("V");
+        rig.panel->getDrawer();
+        QSignalSpy grey(rig.panel.get(), &Panel::signal_greyChanged);
+        QVERIFY(rig.child<QWidget>(name)->setProperty("value", 42));
+        QCOMPARE(grey.count(), 1);
+        QCOMPARE(grey.first().first().toString(), QStringLiteral("42"));
+        QCOMPARE(rig.shown().line, qRgb(42, 0, 0));
+        QVERIFY(rig.drawer->active);
+    }
 }
 
 QTEST_MAIN(TestScrGridCtrlDialog)

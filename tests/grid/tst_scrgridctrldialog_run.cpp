@@ -1,4 +1,5 @@
 #include "gridrig.h"
+#include "mixsetting.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -7,93 +8,79 @@ namespace {
 
 using Panel = ScrGridCtrlDialog;
 
-QStringList colorNames(const QSignalSpy &spy)
+// What the operator does in the mix settings as soon as they are open.
+template<typename Action>
+void inMixSettings(const GridRig &rig, Action action)
 {
-    QStringList names;
-    for (const QList<QVariant> &emission : spy)
-        names << emission.first().value<QColor>().name();
-    return names;
+    int opened = 0;
+    QTimer::singleShot(0, rig.panel.get(), [&rig, &opened, action] {
+        auto *dialog = rig.panel->findChild<MixSetting *>();
+        if (!dialog)
+            return;
+        ++opened;
+        action(*dialog);
+        if (dialog->isVisible())
+            dialog->close();
+    });
+    rig.click(rig.mixSettings());
+    QCOMPARE(opened, 1);
 }
 
 } // namespace
 
-// The timer, one tick, the pause and the aging test.
+// The timer, its ticks, the tests that they run, and the dialog that says what is shown.
 class TestScrGridCtrlDialogRun : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void interval_isThatOfModeAndSpeed_data();
-    void interval_isThatOfModeAndSpeed();
-    void timer_repeatsAndTicksFromConstructionOn();
+    void timer_keepsThePaceOfModeAndSpeed();
+    void timer_ticksAsLongAsThePanelLives();
     void timer_isReplacedByEverySpeedChangeAndStart();
-    void timer_survivesTicksInEveryMode_data();
-    void timer_survivesTicksInEveryMode();
-    void timer_goesWithThePanel();
+    void timer_survivesTicks();
 
-    void tick_whileRunning_scrollsBlinksAndTells();
-    void tick_whilePaused_showsTheGreenLampAndTheStartText();
-    void tick_withoutAdvance_neitherScrollsNorTellsTheGreyButTheRun();
+    void tick_scrollsBlinksAndTellsUpToThePause();
+    void tick_withoutAdvance_tellsTheRunAlone();
+    void greyRamp_stepsEveryFifthTickAndWraps();
     void pauseButton_pausesAndResumesTheScrollingRun();
     void pauseButton_pressesTheFamiliesAgain();
-    void pauseButton_resumesATest_data();
     void pauseButton_resumesATest();
-    void stopSlots_setTheRun();
-    void testSlots_startTheRun();
+    void runSlots_setTheRun();
 
-    void agingTest_showsRedGreenBlueWhiteAndRedAgain();
-    void agingTest_isDimmedByTheGreySlider();
-    void agingTest_startReleasesTheFamilies();
-    void agingTest_goesOnWhereItStopped();
+    void testButton_releasesTheFamiliesAndStarts();
+    void lineCount_isThatOfTheSelectedFamilies();
+    void mixSettings_confirmedChangeTheTestAndTheFile();
+    void mixSettings_closedChangeTheTestButNotTheFile();
 };
 
-void TestScrGridCtrlDialogRun::interval_isThatOfModeAndSpeed_data()
+void TestScrGridCtrlDialogRun::timer_keepsThePaceOfModeAndSpeed()
 {
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<int>("speed");
-    QTest::addColumn<int>("expected");
-    const auto row = [](const char *mode, int speed, int expected) {
-        QTest::addRow("%s %d", mode, speed) << QString::fromLatin1(mode) << speed << expected;
-    };
-    row("scrolling", 1, 707);
-    row("scrolling", 50, 364);
-    row("scrolling", 100, 14);
-    row("aging", 1, 8080);
-    row("aging", 50, 4160);
-    row("aging", 100, 160);
-    row("merged", 1, 8080);
-    row("merged", 50, 4160);
-    row("merged", 100, 160);
-}
-
-void TestScrGridCtrlDialogRun::interval_isThatOfModeAndSpeed()
-{
-    QFETCH(const QString, mode);
-    QFETCH(const int, speed);
-    QFETCH(const int, expected);
     const GridRig rig;
-    if (mode == QStringLiteral("aging"))
-        rig.click(rig.aging());
-    if (mode == QStringLiteral("merged"))
-        rig.click(rig.merged());
-    QCOMPARE(rig.mode(), mode);
-    rig.speedSlider()->setValue(99); // so that each of the speeds is a change
-    rig.speedSpinBox()->setValue(speed);
-
-    QCOMPARE(rig.interval(), expected);
+    QCOMPARE(rig.timer()->interval(), 364);
+    rig.speedSlider()->setValue(100);
+    QCOMPARE(rig.timer()->interval(), 14);
+    rig.click(rig.merged());
+    QCOMPARE(rig.timer()->interval(), 160);
+    rig.speedSpinBox()->setValue(1);
+    QCOMPARE(rig.timer()->interval(), 8080);
+    rig.clickFamilies("H");
+    QCOMPARE(rig.timer()->interval(), 707);
+    rig.click(rig.aging());
+    QCOMPARE(rig.timer()->interval(), 8080);
     QVERIFY(rig.timer()->isActive());
 }
 
-void TestScrGridCtrlDialogRun::timer_repeatsAndTicksFromConstructionOn()
+void TestScrGridCtrlDialogRun::timer_ticksAsLongAsThePanelLives()
 {
-    const GridRig rig({{QStringLiteral("gridSpeed"), 100}});
-    QVERIFY(rig.timer()->isActive());
-    QVERIFY(!rig.timer()->isSingleShot());
-    QVERIFY(rig.timer()->parent() == rig.panel.get());
+    GridRig rig({{QStringLiteral("gridSpeed"), 100}});
+    const QPointer<QTimer> timer = rig.timer();
+    QVERIFY(timer->isActive());
+    QVERIFY(!timer->isSingleShot());
     rig.panel->setScroll(true);
     QSignalSpy ticks(rig.panel.get(), &Panel::signal_gridAutoChange);
-
-    QTRY_VERIFY_WITH_TIMEOUT(ticks.count() >= 3, 5000);
+    QTRY_VERIFY(ticks.count() >= 3);
+    rig.close();
+    QVERIFY(timer.isNull());
 }
 
 void TestScrGridCtrlDialogRun::timer_isReplacedByEverySpeedChangeAndStart()
@@ -115,44 +102,23 @@ void TestScrGridCtrlDialogRun::timer_isReplacedByEverySpeedChangeAndStart()
     QVERIFY(!isReplaced([&] { rig.greySlider()->setValue(3); }));
 }
 
-void TestScrGridCtrlDialogRun::timer_survivesTicksInEveryMode_data()
+void TestScrGridCtrlDialogRun::timer_survivesTicks()
 {
-    QTest::addColumn<bool>("aging");
-    QTest::addColumn<bool>("merged");
-    QTest::newRow("scrolling") << false << false;
-    QTest::newRow("aging") << true << false;
-    QTest::newRow("merged") << false << true;
-    QTest::newRow("both, as a settings file may say") << true << true;
+    for (int modes = 0; modes < 4; ++modes) {
+        const GridRig rig({{QStringLiteral("gridIsOldTest"), modes % 2 == 1},
+                           {QStringLiteral("gridIsMix"), modes / 2 == 1},
+                           {QStringLiteral("gridHorizontalChecked"), true}});
+        rig.panel->enableAdvanceSettings();
+        rig.panel->slot_keyInsertPressed();
+        const QPointer<QTimer> timer = rig.timer();
+        rig.tick(40);
+        rig.click(rig.pause());
+        rig.tick(2);
+        QVERIFY(rig.timer() == timer);
+    }
 }
 
-void TestScrGridCtrlDialogRun::timer_survivesTicksInEveryMode()
-{
-    QFETCH(const bool, aging);
-    QFETCH(const bool, merged);
-    const GridRig rig({{QStringLiteral("gridIsOldTest"), aging},
-                       {QStringLiteral("gridIsMix"), merged},
-                       {QStringLiteral("gridHorizontalChecked"), true}});
-    rig.panel->enableAdvanceSettings();
-    rig.panel->slot_keyInsertPressed();
-    const QPointer<QTimer> timer = rig.timer();
-    rig.tick(40);
-    rig.click(rig.pause());
-    rig.tick(2);
-
-    QVERIFY(rig.timer() == timer);
-}
-
-void TestScrGridCtrlDialogRun::timer_goesWithThePanel()
-{
-    GridRig rig({{QStringLiteral("gridSpeed"), 100}});
-    const QPointer<QTimer> timer = rig.timer();
-    rig.canvas.setDrawer(nullptr);
-    rig.panel.reset();
-
-    QVERIFY(timer.isNull());
-}
-
-void TestScrGridCtrlDialogRun::tick_whileRunning_scrollsBlinksAndTells()
+void TestScrGridCtrlDialogRun::tick_scrollsBlinksAndTellsUpToThePause()
 {
     GridRig rig({{QStringLiteral("gridGreyLevel"), 70}});
     rig.clickFamilies("V");
@@ -171,17 +137,8 @@ void TestScrGridCtrlDialogRun::tick_whileRunning_scrollsBlinksAndTells()
         QCOMPARE(grey.count(), step);
         QCOMPARE(grey.last().first().toString(), QStringLiteral("70"));
     }
-}
-
-void TestScrGridCtrlDialogRun::tick_whilePaused_showsTheGreenLampAndTheStartText()
-{
-    GridRig rig;
-    rig.clickFamilies("V");
-    rig.tick(2);
     rig.panel->slot_stopPauseStatus();
     QCOMPARE(rig.pause()->text(), QStringLiteral("暂停"));
-    QSignalSpy run(rig.panel.get(), &Panel::signal_gridAutoChange);
-    QSignalSpy grey(rig.panel.get(), &Panel::signal_greyChanged);
     for (int step = 0; step < 3; ++step) {
         rig.tick();
         QVERIFY(!rig.greenLamp()->isHidden());
@@ -189,11 +146,11 @@ void TestScrGridCtrlDialogRun::tick_whilePaused_showsTheGreenLampAndTheStartText
         QCOMPARE(rig.pause()->text(), QStringLiteral("开始"));
         QCOMPARE(rig.shown().offset, 2);
     }
-    QCOMPARE(run.count(), 0);
-    QCOMPARE(grey.count(), 0);
+    QCOMPARE(run.count(), 12);
+    QCOMPARE(grey.count(), 12);
 }
 
-void TestScrGridCtrlDialogRun::tick_withoutAdvance_neitherScrollsNorTellsTheGreyButTheRun()
+void TestScrGridCtrlDialogRun::tick_withoutAdvance_tellsTheRunAlone()
 {
     GridRig rig;
     rig.clickFamilies("V");
@@ -207,10 +164,27 @@ void TestScrGridCtrlDialogRun::tick_withoutAdvance_neitherScrollsNorTellsTheGrey
     QCOMPARE(grey.count(), 0);
     QCOMPARE(run.count(), 3);
     QCOMPARE(rig.pause()->text(), QStringLiteral("暂停"));
+}
 
-    rig.panel->slot_stopPauseStatus();
-    rig.tick();
-    QCOMPARE(run.count(), 3);
+void TestScrGridCtrlDialogRun::greyRamp_stepsEveryFifthTickAndWraps()
+{
+    const GridRig rig;
+    const auto levels = [&rig] { // after 4, 5, 9, 10 and 15 ticks
+        QList<int> found;
+        for (const int ticks : {4, 1, 4, 1, 5}) {
+            rig.tick(ticks);
+            found << rig.greySpinBox()->value();
+        }
+        return found;
+    };
+    rig.clickFamilies("H");
+    rig.greySlider()->setValue(254);
+    rig.panel->slot_keyInsertPressed();
+    QCOMPARE(levels(), (QList<int>{254, 255, 255, 0, 1}));
+    rig.panel->slot_keyDeletePressed();
+    QCOMPARE(levels(), (QList<int>{1, 0, 0, 255, 254}));
+    rig.click(rig.aging());
+    QCOMPARE(levels(), (QList<int>{254, 254, 254, 254, 254}));
 }
 
 void TestScrGridCtrlDialogRun::pauseButton_pausesAndResumesTheScrollingRun()
@@ -246,114 +220,97 @@ void TestScrGridCtrlDialogRun::pauseButton_pressesTheFamiliesAgain()
     QCOMPARE(rig.checked(), QStringLiteral("V"));
 }
 
-void TestScrGridCtrlDialogRun::pauseButton_resumesATest_data()
-{
-    QTest::addColumn<bool>("aging");
-    QTest::newRow("aging") << true;
-    QTest::newRow("merged") << false;
-}
-
 void TestScrGridCtrlDialogRun::pauseButton_resumesATest()
 {
-    QFETCH(const bool, aging);
-    GridRig rig;
-    rig.click(aging ? rig.aging() : rig.merged());
-    rig.tick(2);
-    QCOMPARE(rig.shown().background, qRgb(0, 255, 0));
-    rig.click(rig.pause());
-    rig.tick(3);
-    QCOMPARE(rig.shown().background, qRgb(0, 255, 0));
-    const QTimer *timer = rig.timer();
-    rig.click(rig.pause());
-    rig.tick();
-
-    QCOMPARE(rig.shown().background, qRgb(0, 0, 255));
-    QCOMPARE(rig.mode(), aging ? QStringLiteral("aging") : QStringLiteral("merged"));
-    QVERIFY(rig.timer() == timer);
+    for (const bool aging : {true, false}) {
+        GridRig rig;
+        rig.click(rig.test(aging));
+        QCOMPARE(rig.nextShown(2), QStringLiteral("#ff0000 #00ff00"));
+        rig.click(rig.pause());
+        QCOMPARE(rig.nextShown(2), QStringLiteral("#00ff00 #00ff00"));
+        const QTimer *timer = rig.timer();
+        rig.click(rig.pause());
+        QCOMPARE(rig.nextShown(), QStringLiteral("#0000ff"));
+        QVERIFY(rig.timer() == timer);
+    }
 }
 
-void TestScrGridCtrlDialogRun::stopSlots_setTheRun()
+void TestScrGridCtrlDialogRun::runSlots_setTheRun()
 {
     const GridRig rig;
-    rig.panel->slot_stopStartPauseStatus();
-    QVERIFY(rig.panel->getScroll());
-    rig.panel->slot_stopPauseStatus();
-    QVERIFY(!rig.panel->getScroll());
-    QCOMPARE(rig.runControls(), 0);
-}
-
-void TestScrGridCtrlDialogRun::testSlots_startTheRun()
-{
-    const GridRig rig;
-    for (const auto slot : {&ScrGridCtrlDialog::slot_mixTest, &ScrGridCtrlDialog::slot_OldTest}) {
-        rig.panel->slot_stopPauseStatus();
+    for (const auto slot :
+         {&Panel::slot_stopStartPauseStatus, &Panel::slot_mixTest, &Panel::slot_OldTest}) {
         (rig.panel.get()->*slot)();
         QVERIFY(rig.panel->getScroll());
+        rig.panel->slot_stopPauseStatus();
+        QVERIFY(!rig.panel->getScroll());
+        QCOMPARE(rig.runControls(), 0);
     }
 }
 
-void TestScrGridCtrlDialogRun::agingTest_showsRedGreenBlueWhiteAndRedAgain()
+void TestScrGridCtrlDialogRun::testButton_releasesTheFamiliesAndStarts()
 {
-    GridRig rig;
-    rig.clickFamilies("HV");
-    rig.click(rig.aging());
-    QSignalSpy colors(rig.panel.get(), &Panel::signal_oldMixColorChanged);
-    QList<QRgb> shown;
-    for (int step = 0; step < 9; ++step) {
-        rig.tick();
+    for (const bool aging : {true, false}) {
+        GridRig rig({{QStringLiteral("gridSpeed"), 100}, {QStringLiteral("gridGreyLevel"), 60}});
+        rig.clickFamilies("HR");
+        rig.panel->slot_stopPauseStatus();
+        rig.panel->getDrawer();
+        rig.click(rig.test(aging));
+
+        QCOMPARE(rig.checked(), QString());
+        QCOMPARE(rig.pressed(), QString());
         QCOMPARE(rig.shown().families, QString());
-        shown << rig.shown().background;
+        QCOMPARE(rig.mode(), aging ? QStringLiteral("aging") : QStringLiteral("merged"));
+        QCOMPARE(rig.pause()->text(), QStringLiteral("暂停"));
+        QCOMPARE(rig.timer()->interval(), 160);
+        QCOMPARE(rig.runControls(), 1);
+        QVERIFY(rig.panel->getScroll());
+        QSignalSpy told(rig.panel.get(), &Panel::signal_oldMixColorChanged);
+        QCOMPARE(rig.nextShown(), QStringLiteral("#3c0000"));
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.first().first().value<QColor>(), QColor(Qt::red));
     }
-    const QRgb red = qRgb(255, 0, 0);
-    const QRgb green = qRgb(0, 255, 0);
-    const QRgb blue = qRgb(0, 0, 255);
-    const QRgb white = qRgb(255, 255, 255);
-    QCOMPARE(shown, (QList<QRgb>{red, green, blue, white, red, green, blue, white, red}));
-    QCOMPARE(colorNames(colors).mid(0, 5).join(QLatin1Char(' ')),
-             QStringLiteral("#ff0000 #00ff00 #0000ff #ffffff #ff0000"));
-    QCOMPARE(colors.count(), 9);
 }
 
-void TestScrGridCtrlDialogRun::agingTest_isDimmedByTheGreySlider()
+void TestScrGridCtrlDialogRun::lineCount_isThatOfTheSelectedFamilies()
+{
+    QCOMPARE(GridRig({{QStringLiteral("checkBoxV"), true}}).panel->getSelectedHVLRCount(), 3);
+}
+
+void TestScrGridCtrlDialogRun::mixSettings_confirmedChangeTheTestAndTheFile()
 {
     GridRig rig;
-    rig.greySlider()->setValue(60);
-    rig.click(rig.aging());
-    QSignalSpy colors(rig.panel.get(), &Panel::signal_oldMixColorChanged);
-    rig.tick();
-
-    QCOMPARE(rig.shown().background, qRgb(60, 0, 0));
-    QCOMPARE(colorNames(colors).constFirst(), QStringLiteral("#ff0000"));
+    inMixSettings(rig, [](MixSetting &dialog) {
+        QVERIFY(dialog.isModal());
+        dialog.slot_pushButtonClear();
+        dialog.findChild<QCheckBox *>(QStringLiteral("checkBoxGreen"))->setChecked(true);
+        dialog.findChild<QCheckBox *>(QStringLiteral("checkBoxSR"))->setChecked(true);
+        dialog.slot_pushButtonOK();
+    });
+    QVERIFY(!rig.panel->findChild<MixSetting *>());
+    for (int start = 0; start < 2; ++start) {
+        rig.click(rig.merged());
+        QCOMPARE(rig.nextShown(3), QStringLiteral("#00ff00 R #00ff00"));
+        rig.restart();
+    }
 }
 
-void TestScrGridCtrlDialogRun::agingTest_startReleasesTheFamilies()
-{
-    GridRig rig({{QStringLiteral("gridSpeed"), 100}});
-    rig.clickFamilies("HL");
-    rig.panel->slot_stopPauseStatus();
-    rig.panel->getDrawer();
-    rig.click(rig.aging());
-
-    QCOMPARE(rig.checked(), QString());
-    QCOMPARE(rig.pressed(), QString());
-    QCOMPARE(rig.mode(), QStringLiteral("aging"));
-    QCOMPARE(rig.pause()->text(), QStringLiteral("暂停"));
-    QCOMPARE(rig.interval(), 160);
-    QCOMPARE(rig.runControls(), 1);
-    QVERIFY(rig.panel->getScroll());
-}
-
-void TestScrGridCtrlDialogRun::agingTest_goesOnWhereItStopped()
+void TestScrGridCtrlDialogRun::mixSettings_closedChangeTheTestButNotTheFile()
 {
     GridRig rig;
-    rig.click(rig.aging());
-    rig.tick(2);
-    rig.clickFamilies("H");
-    rig.tick();
-    rig.click(rig.aging());
-    rig.tick();
-
-    QCOMPARE(rig.shown().background, qRgb(0, 0, 255));
+    rig.click(rig.merged());
+    QCOMPARE(rig.nextShown(2), QStringLiteral("#ff0000 #00ff00"));
+    inMixSettings(rig, [](MixSetting &dialog) {
+        dialog.slot_pushButtonClear();
+        dialog.findChild<QCheckBox *>(QStringLiteral("checkBoxBlue"))->setChecked(true);
+        dialog.close();
+    });
+    rig.tick(); // the step that the shorter cycle ends with
+    QCOMPARE(rig.nextShown(2), QStringLiteral("#0000ff #0000ff"));
+    QVERIFY(!rig.settings->contains(QStringLiteral("/setting/checkBoxRed")));
+    rig.restart();
+    rig.click(rig.merged());
+    QCOMPARE(rig.nextShown(2), QStringLiteral("#ff0000 #00ff00"));
 }
 
 QTEST_MAIN(TestScrGridCtrlDialogRun)
