@@ -6,8 +6,8 @@
 class QPushButton;
 class QSettings;
 
-// The buttons of the four line families, and which of them are remembered as pressed. A button
-// can be checked without that: as the settings say, or after pressAlone() of another.
+// The buttons of the four line families, and which of them are remembered as pressed. That is
+// another set than the checked ones where the settings say so.
 class FamilyRow
 {
 public:

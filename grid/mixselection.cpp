@@ -6,8 +6,6 @@
 #include <QCoreApplication>
 #include <QSettings>
 
-#include <algorithm>
-
 const std::array<MixSelection::Entry, MixSelection::itemCount> MixSelection::entries{{
     {Blue, latin1("/setting/checkBoxBlue"), QT_TRANSLATE_NOOP("MixSetting", "蓝色")},
     {Cyan, latin1("/setting/checkBoxCyan"), QT_TRANSLATE_NOOP("MixSetting", "青色")},
@@ -34,11 +32,6 @@ void MixSelection::store(QSettings &settings) const
 {
     for (const Entry &entry : entries)
         SettingsRules::store(settings, entry.key, !contains(entry.item));
-}
-
-bool MixSelection::isEmpty() const
-{
-    return std::none_of(m_selected.cbegin(), m_selected.cend(), [](bool on) { return on; });
 }
 
 QVector<QColor> MixSelection::colors() const

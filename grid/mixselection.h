@@ -7,6 +7,7 @@
 #include <QVector>
 
 #include <array>
+#include <bitset>
 
 class QSettings;
 
@@ -45,9 +46,9 @@ public:
     static MixSelection stored(const QSettings *settings);
     void store(QSettings &settings) const;
 
-    bool contains(Item item) const { return m_selected.at(item); }
-    void set(Item item, bool selected) { m_selected.at(item) = selected; }
-    bool isEmpty() const;
+    bool contains(Item item) const { return m_selected.test(item); }
+    void set(Item item, bool selected) { m_selected.set(item, selected); }
+    bool isEmpty() const { return m_selected.none(); }
 
     // The selected colours, in the order of the colour table.
     QVector<QColor> colors() const;
@@ -55,5 +56,5 @@ public:
     QVector<LineFamily::Direction> families() const;
 
 private:
-    std::array<bool, itemCount> m_selected{};
+    std::bitset<itemCount> m_selected;
 };

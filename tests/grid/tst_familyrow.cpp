@@ -1,4 +1,3 @@
-#include "dictionary.h"
 #include "familyrow.h"
 #include "testsettings.h"
 
@@ -74,7 +73,6 @@ private slots:
     void pressFirstAlone_keepsTheFirstInTheirOrder();
     void clickPressed_clicksAndChecksTheRememberedOnes();
     void restore_givesTheLastCheckedFamily();
-    void language_isAppliedToTheButtons();
 };
 
 void TestFamilyRow::toggle_keepsTheLastPressedFamily_data()
@@ -162,20 +160,6 @@ void TestFamilyRow::restore_givesTheLastCheckedFamily()
         QCOMPARE(rig.row.restore(*settings.get()), last);
         QCOMPARE(rig.state(), QLatin1String(state));
     }
-}
-
-void TestFamilyRow::language_isAppliedToTheButtons()
-{
-    RowRig rig;
-    const Dictionary dictionary({{QStringLiteral("横"), QStringLiteral("Hor")},
-                                 {QStringLiteral("竖"), QStringLiteral("Ver")},
-                                 {QStringLiteral("左斜"), QStringLiteral("SL")},
-                                 {QStringLiteral("右斜"), QStringLiteral("SR")}});
-    rig.row.retranslate();
-    QStringList texts;
-    for (const QPushButton &button : rig.buttons)
-        texts << button.text();
-    QCOMPARE(texts.join(QLatin1Char(' ')), QStringLiteral("Hor Ver SL SR"));
 }
 
 QTEST_MAIN(TestFamilyRow)

@@ -35,9 +35,8 @@ private slots:
     void scrollingThroughADistance_matchesLineByLine();
     void screenSizes_matchLineByLine_data();
     void screenSizes_matchLineByLine();
-    void enlargedScreens_matchLineByLine_data();
-    void enlargedScreens_matchLineByLine();
-    void otherFormats_matchLineByLine();
+    void otherScreens_matchLineByLine_data();
+    void otherScreens_matchLineByLine();
     void offsetBeyondTheDistance_isPaintedAgainAtEveryChange();
     void gridThatTakesLong_isPaintedInParts();
     void partOfTheWindow_isRepaintedExactly();
@@ -152,42 +151,30 @@ void TestGridDrawerExact::screenSizes_matchLineByLine()
     }
 }
 
-void TestGridDrawerExact::enlargedScreens_matchLineByLine_data()
+void TestGridDrawerExact::otherScreens_matchLineByLine_data()
 {
+    QTest::addColumn<int>("format");
     QTest::addColumn<qreal>("scale");
-    QTest::newRow("twofold") << qreal(2);
-    QTest::newRow("threefold") << qreal(3);
-    QTest::newRow("one and a half") << qreal(1.5);
+    QTest::newRow("twofold") << int(QImage::Format_RGB32) << qreal(2);
+    QTest::newRow("threefold") << int(QImage::Format_RGB32) << qreal(3);
+    QTest::newRow("one and a half") << int(QImage::Format_RGB32) << qreal(1.5);
+    QTest::newRow("alpha") << int(QImage::Format_ARGB32) << qreal(1);
+    QTest::newRow("multiplied") << int(QImage::Format_ARGB32_Premultiplied) << qreal(1);
+    QTest::newRow("three bytes") << int(QImage::Format_RGB888) << qreal(1);
 }
 
-void TestGridDrawerExact::enlargedScreens_matchLineByLine()
+void TestGridDrawerExact::otherScreens_matchLineByLine()
 {
+    QFETCH(const int, format);
     QFETCH(const qreal, scale);
     Lot lot;
     GridCanvas grid;
     GridSettings current;
-    for (int i = 0; i < 150; ++i) {
-        const QSize size = lot.size();
-        const QImage empty = blank(size, QImage::Format_RGB32, scale);
-        grid.canvas.resize(size);
+    for (int i = 0; i < (scale > 1 ? 150 : 50); ++i) {
+        grid.canvas.resize(lot.size());
         apply(grid.drawer, current, lot.settings());
+        const QImage empty = blank(grid.canvas.size(), QImage::Format(format), scale);
         QCOMPARE(fault(grid, current, empty), QString());
-    }
-}
-
-void TestGridDrawerExact::otherFormats_matchLineByLine()
-{
-    for (const QImage::Format format :
-         {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB888}) {
-        Lot lot;
-        GridCanvas grid;
-        GridSettings current;
-        for (int i = 0; i < 50; ++i) {
-            const QSize size = lot.size();
-            grid.canvas.resize(size);
-            apply(grid.drawer, current, lot.settings());
-            QCOMPARE(fault(grid, current, blank(size, format)), QString());
-        }
     }
 }
 

@@ -106,24 +106,18 @@ Record recorded(Canvas &canvas)
     return device.recorder.record;
 }
 
-using DrawFamily = void (GridDrawer::*)(QPainter &);
-
 } // namespace
-
-Q_DECLARE_METATYPE(DrawFamily)
 
 class TestGridDrawerPixels : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void lastStraightLine_isDrawnAtTheEdge_data();
     void lastStraightLine_isDrawnAtTheEdge();
     void lastSlantLine_isDrawnToTheLeftOnly();
     void fullGrey_leavesTheBrushDimmed();
     void families_areExact_data();
     void families_areExact();
-    void lineFunctions_ignoreTheFlagsAndKeepThePen_data();
     void lineFunctions_ignoreTheFlagsAndKeepThePen();
     void families_arePaintedOverOneAnotherInOrder();
     void screens_areCopiedNotDrawnLineByLine();
@@ -131,39 +125,33 @@ private slots:
     void changePix_setsTheWidthOfTheLines();
 };
 
-void TestGridDrawerPixels::lastStraightLine_isDrawnAtTheEdge_data()
-{
-    QTest::addColumn<bool>("horizontal");
-    QTest::newRow("horizontal at the bottom") << true;
-    QTest::newRow("vertical at the right") << false;
-}
-
 void TestGridDrawerPixels::lastStraightLine_isDrawnAtTheEdge()
 {
-    QFETCH(const bool, horizontal);
-    const auto across = [horizontal](int position) {
-        return horizontal ? QPoint(5, position) : QPoint(position, 5);
-    };
-    // The line itself is beyond the last pixel; a painter on a larger image shows it.
-    GridCanvas grid(QSize(33, 33));
-    grid.scroll(3);
-    QImage image(60, 60, QImage::Format_RGB32);
-    image.fill(blue);
-    QPainter painter(&image);
-    if (horizontal)
-        grid.drawer.drawHoriLines(painter);
-    else
-        grid.drawer.drawVertLines(painter);
-    painter.end();
-    QCOMPARE(image.pixel(across(33)), black);
-    QCOMPARE(image.pixel(across(43)), blue);
+    for (const bool horizontal : {true, false}) {
+        const auto across = [horizontal](int position) {
+            return horizontal ? QPoint(5, position) : QPoint(position, 5);
+        };
+        // The line itself is beyond the last pixel; a painter on a larger image shows it.
+        GridCanvas grid(QSize(33, 33));
+        grid.scroll(3);
+        QImage image(60, 60, QImage::Format_RGB32);
+        image.fill(blue);
+        QPainter painter(&image);
+        if (horizontal)
+            grid.drawer.drawHoriLines(painter);
+        else
+            grid.drawer.drawVertLines(painter);
+        painter.end();
+        QCOMPARE(image.pixel(across(33)), black);
+        QCOMPARE(image.pixel(across(43)), blue);
 
-    // With three pixels of width it reaches into the window.
-    grid.showRedOnBlue(horizontal ? Horizontal : Vertical);
-    grid.drawer.slot_changePix(3);
-    QCOMPARE(grid.painted().pixel(across(32)), red);
-    grid.canvas.resize(32, 32);
-    QCOMPARE(grid.painted().pixel(across(31)), blue);
+        // With three pixels of width it reaches into the window.
+        grid.showRedOnBlue(horizontal ? Horizontal : Vertical);
+        grid.drawer.slot_changePix(3);
+        QCOMPARE(grid.painted().pixel(across(32)), red);
+        grid.canvas.resize(32, 32);
+        QCOMPARE(grid.painted().pixel(across(31)), blue);
+    }
 }
 
 void TestGridDrawerPixels::lastSlantLine_isDrawnToTheLeftOnly()
@@ -237,34 +225,27 @@ void TestGridDrawerPixels::families_areExact()
     }
 }
 
-void TestGridDrawerPixels::lineFunctions_ignoreTheFlagsAndKeepThePen_data()
-{
-    QTest::addColumn<DrawFamily>("drawFamily");
-    QTest::addColumn<int>("family");
-
-    QTest::newRow("horizontal") << &GridDrawer::drawHoriLines << int(Horizontal);
-    QTest::newRow("vertical") << &GridDrawer::drawVertLines << int(Vertical);
-    QTest::newRow("slant left") << &GridDrawer::drawSlantLeftLines << int(SlantLeft);
-    QTest::newRow("slant right") << &GridDrawer::drawSlantRightLines << int(SlantRight);
-}
-
 void TestGridDrawerPixels::lineFunctions_ignoreTheFlagsAndKeepThePen()
 {
-    QFETCH(const DrawFamily, drawFamily);
-    QFETCH(const int, family);
+    const std::pair<void (GridDrawer::*)(QPainter &), int> functions[] = {
+        {&GridDrawer::drawHoriLines, Horizontal},
+        {&GridDrawer::drawVertLines, Vertical},
+        {&GridDrawer::drawSlantLeftLines, SlantLeft},
+        {&GridDrawer::drawSlantRightLines, SlantRight}};
     GridCanvas grid(QSize(50, 30));
     grid.drawer.slot_colorChanged(Qt::green);
     grid.drawer.slot_changePix(5);
     grid.scroll(4);
-
-    QImage image(grid.canvas.size(), QImage::Format_RGB32);
-    image.fill(blue);
-    QPainter painter(&image);
-    painter.setPen(Qt::red);
-    (grid.drawer.*drawFamily)(painter);
-    QCOMPARE(painter.pen(), QPen(Qt::red));
-    painter.end();
-    QCOMPARE(difference(image, family, 10, 4), QString());
+    for (const auto &[drawFamily, family] : functions) {
+        QImage image(grid.canvas.size(), QImage::Format_RGB32);
+        image.fill(blue);
+        QPainter painter(&image);
+        painter.setPen(Qt::red);
+        (grid.drawer.*drawFamily)(painter);
+        QCOMPARE(painter.pen(), QPen(Qt::red));
+        painter.end();
+        QCOMPARE(difference(image, family, 10, 4), QString());
+    }
 }
 
 void TestGridDrawerPixels::families_arePaintedOverOneAnotherInOrder()

@@ -45,8 +45,6 @@ QHash<QString, QString> translation(const QString &more = {})
 
 } // namespace
 
-Q_DECLARE_METATYPE(Key)
-
 // The controls, the keys and the texts.
 class TestScrGridCtrlDialog : public QObject
 {
@@ -65,7 +63,6 @@ private slots:
     void getDrawer_disablesSpeedAndGreyAndTheDrawer();
     void advanceSettings_areSwitchedTogether();
     void scrollEnabled_isTheRunAndItsButton();
-    void greyKeys_stepAndWrap_data();
     void greyKeys_stepAndWrap();
     void oneGreyEdit_isToldOnceAndShown();
 };
@@ -286,42 +283,29 @@ void TestScrGridCtrlDialog::scrollEnabled_isTheRunAndItsButton()
     QVERIFY(!rig.drawer->active);
 }
 
-void TestScrGridCtrlDialog::greyKeys_stepAndWrap_data()
-{
-    QTest::addColumn<Key>("key");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("expected");
-    const std::pair<const char *, Key> up[] = {{"Up", &Panel::slot_keyUpPressed},
-                                               {"Right", &Panel::slot_keyRightPressed}};
-    const std::pair<const char *, Key> down[] = {{"Down", &Panel::slot_keyDownPressed},
-                                                 {"Left", &Panel::slot_keyLeftPressed}};
-    for (const int start : {0, 100, 255}) {
-        for (const auto &[name, key] : up)
-            QTest::addRow("%s at %d", name, start)
-                << key << start << (start == 255 ? 0 : start + 1);
-        for (const auto &[name, key] : down)
-            QTest::addRow("%s at %d", name, start)
-                << key << start << (start == 0 ? 255 : start - 1);
-    }
-}
-
 void TestScrGridCtrlDialog::greyKeys_stepAndWrap()
 {
-    QFETCH(const int, start);
-    QFETCH(const Key, key);
-    QFETCH(const int, expected);
-    GridRig rig;
-    rig.greySlider()->setValue(start);
-    (rig.panel.get()->*key)(); // while the slider is disabled
-    QCOMPARE(rig.greySlider()->value(), start);
+    const std::pair<Key, int> keys[] = {{&Panel::slot_keyUpPressed, 1},
+                                        {&Panel::slot_keyRightPressed, 1},
+                                        {&Panel::slot_keyDownPressed, -1},
+                                        {&Panel::slot_keyLeftPressed, -1}};
+    for (const auto &[key, by] : keys) {
+        for (const int start : {0, 100, 255}) {
+            GridRig rig;
+            rig.greySlider()->setValue(start);
+            (rig.panel.get()->*key)(); // while the slider is disabled
+            QCOMPARE(rig.greySlider()->value(), start);
 
-    rig.clickFamilies("H");
-    QSignalSpy grey(rig.panel.get(), &Panel::signal_greyChanged);
-    (rig.panel.get()->*key)();
-    QCOMPARE(rig.greySpinBox()->value(), expected);
-    QCOMPARE(grey.count(), 1);
-    QCOMPARE(grey.first().first().toString(), QString::number(expected));
-    QCOMPARE(rig.shown().line, qRgb(expected, 0, 0));
+            rig.clickFamilies("H");
+            QSignalSpy grey(rig.panel.get(), &Panel::signal_greyChanged);
+            (rig.panel.get()->*key)();
+            const int expected = (start + by) & 255;
+            QCOMPARE(rig.greySpinBox()->value(), expected);
+            QCOMPARE(grey.count(), 1);
+            QCOMPARE(grey.first().first().toString(), QString::number(expected));
+            QCOMPARE(rig.shown().line, qRgb(expected, 0, 0));
+        }
+    }
 }
 
 void TestScrGridCtrlDialog::oneGreyEdit_isToldOnceAndShown()

@@ -24,8 +24,7 @@ class TestScrGridCtrlDialogLines : public QObject
 
 private slots:
     void families_areShownTogetherInOverlayAndAloneWithout();
-    void overlayBox_keepsOneFamilyAndBringsNone();
-    void overlayBox_withNothingPressedChangesNothing();
+    void overlayBox_keepsOnePressedFamilyAndBringsNone();
     void familyClick_startsTheScrollingRun();
     void pressSetters_rememberOneFamilyAlone();
     void gridBtnClick_pressesTheRememberedFamilies();
@@ -36,10 +35,8 @@ private slots:
     void lineState_runsItsSlotTwice();
     void canclePageUpDownSelect_leavesVerticalAndSlantLeft();
 
-    void colourClick_selectsIt_data();
     void colourClick_selectsIt();
     void colourChoice_keepsModeAndTimer();
-    void sharedColour_checksItsButton_data();
     void sharedColour_checksItsButton();
     void sharedColour_outsideTheSevenIsIgnored();
     void colour_isTheBackgroundOfAPausedAgingTestOnly();
@@ -64,9 +61,12 @@ void TestScrGridCtrlDialogLines::families_areShownTogetherInOverlayAndAloneWitho
         clickAndCompare(family, family);
 }
 
-void TestScrGridCtrlDialogLines::overlayBox_keepsOneFamilyAndBringsNone()
+void TestScrGridCtrlDialogLines::overlayBox_keepsOnePressedFamilyAndBringsNone()
 {
-    GridRig rig;
+    GridRig rig({{QStringLiteral("gridHorizontalChecked"), true}});
+    rig.click(rig.overlay());
+    QCOMPARE(rig.checked(), QStringLiteral("H")); // which is not pressed
+    rig.click(rig.overlay());
     rig.clickFamilies("LV");
     rig.click(rig.overlay());
     for (int times = 0; times < 2; ++times) {
@@ -77,15 +77,6 @@ void TestScrGridCtrlDialogLines::overlayBox_keepsOneFamilyAndBringsNone()
     }
     rig.clickFamilies("L");
     QCOMPARE(rig.shown().families, QStringLiteral("L"));
-}
-
-void TestScrGridCtrlDialogLines::overlayBox_withNothingPressedChangesNothing()
-{
-    const GridRig rig({{QStringLiteral("gridVerticalChecked"), true},
-                       {QStringLiteral("gridSlantLeftChecked"), true}});
-    rig.click(rig.overlay());
-    QCOMPARE(rig.checked(), QStringLiteral("VL"));
-    QCOMPARE(rig.pressed(), QString());
 }
 
 void TestScrGridCtrlDialogLines::familyClick_startsTheScrollingRun()
@@ -232,36 +223,29 @@ void TestScrGridCtrlDialogLines::canclePageUpDownSelect_leavesVerticalAndSlantLe
     }
 }
 
-void TestScrGridCtrlDialogLines::colourClick_selectsIt_data()
-{
-    QTest::addColumn<int>("index");
-    for (int index = 0; index < 7; ++index)
-        QTest::addRow("%d", index) << index;
-}
-
 void TestScrGridCtrlDialogLines::colourClick_selectsIt()
 {
-    QFETCH(const int, index);
-    GridRig rig;
-    rig.clickFamilies("H");
-    rig.panel->slot_stopPauseStatus();
-    rig.panel->getDrawer();
-    QSignalSpy told(rig.panel.get(), &Panel::signal_colorChanged);
-    rig.click(rig.colorButton(index));
-
-    QCOMPARE(int(rig.panel->colorIndex), index);
-    for (int other = 0; other < 7; ++other)
-        QCOMPARE(rig.colorButton(other)->isChecked(), other == index);
-    QCOMPARE(baseColor(rig), QColor(colors[index]));
-    QCOMPARE(rig.runControls(), 1);
-    QVERIFY(rig.panel->getScroll());
-    QVERIFY(!rig.drawer->active); // up to the next tick
-    QCOMPARE(rig.shown().line, QColor(colors[index]).rgba());
-    QCOMPARE(rig.shown().background, qRgb(0, 0, 0));
-    // For the check, and for the click; red was checked before.
-    QCOMPARE(told.count(), index == 0 ? 1 : 2);
-    for (const QList<QVariant> &emission : qAsConst(told))
-        QCOMPARE(emission.first().value<QColor>(), QColor(colors[index]));
+    for (int index = 0; index < 7; ++index) {
+        GridRig rig;
+        rig.clickFamilies("H");
+        rig.panel->slot_stopPauseStatus();
+        rig.panel->getDrawer();
+        QSignalSpy told(rig.panel.get(), &Panel::signal_colorChanged);
+        rig.click(rig.colorButton(index));
+        QCOMPARE(int(rig.panel->colorIndex), index);
+        for (int other = 0; other < 7; ++other)
+            QCOMPARE(rig.colorButton(other)->isChecked(), other == index);
+        QCOMPARE(baseColor(rig), QColor(colors[index]));
+        QCOMPARE(rig.runControls(), 1);
+        QVERIFY(rig.panel->getScroll());
+        QVERIFY(!rig.drawer->active); // up to the next tick
+        QCOMPARE(rig.shown().line, QColor(colors[index]).rgba());
+        QCOMPARE(rig.shown().background, qRgb(0, 0, 0));
+        // For the check, and for the click; red was checked before.
+        QCOMPARE(told.count(), index == 0 ? 1 : 2);
+        for (const QList<QVariant> &emission : qAsConst(told))
+            QCOMPARE(emission.first().value<QColor>(), QColor(colors[index]));
+    }
 }
 
 void TestScrGridCtrlDialogLines::colourChoice_keepsModeAndTimer()
@@ -277,33 +261,27 @@ void TestScrGridCtrlDialogLines::colourChoice_keepsModeAndTimer()
     QVERIFY(rig.timer() == timer);
 }
 
-void TestScrGridCtrlDialogLines::sharedColour_checksItsButton_data()
-{
-    colourClick_selectsIt_data();
-}
-
 void TestScrGridCtrlDialogLines::sharedColour_checksItsButton()
 {
-    QFETCH(const int, index);
-    GridRig rig;
-    rig.click(rig.colorButton((index + 1) % 7));
-    rig.panel->getDrawer();
-    QSignalSpy told(rig.panel.get(), &Panel::signal_colorChanged);
-    rig.panel->slot_changeSelectedGridColor(colors[index]);
-
-    QVERIFY(rig.colorButton(index)->isChecked());
-    QCOMPARE(int(rig.panel->colorIndex), index);
-    QCOMPARE(baseColor(rig), QColor(colors[index]));
-    QCOMPARE(told.count(), 1);
-    QCOMPARE(rig.runControls(), 1);
-
-    // Checked already, it is stored and nothing else.
-    rig.panel->getDrawer();
-    rig.settings->setValue(QStringLiteral("/setting/testWindowBaseColor"), QColor(Qt::black));
-    rig.panel->slot_changeSelectedGridColor(colors[index]);
-    QCOMPARE(told.count(), 1);
-    QCOMPARE(rig.runControls(), 0);
-    QCOMPARE(baseColor(rig), QColor(colors[index]));
+    for (int index = 0; index < 7; ++index) {
+        GridRig rig;
+        rig.click(rig.colorButton((index + 1) % 7));
+        rig.panel->getDrawer();
+        QSignalSpy told(rig.panel.get(), &Panel::signal_colorChanged);
+        rig.panel->slot_changeSelectedGridColor(colors[index]);
+        QVERIFY(rig.colorButton(index)->isChecked());
+        QCOMPARE(int(rig.panel->colorIndex), index);
+        QCOMPARE(baseColor(rig), QColor(colors[index]));
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(rig.runControls(), 1);
+        // Checked already, it is stored and nothing else.
+        rig.panel->getDrawer();
+        rig.settings->setValue(QStringLiteral("/setting/testWindowBaseColor"), QColor(Qt::black));
+        rig.panel->slot_changeSelectedGridColor(colors[index]);
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(rig.runControls(), 0);
+        QCOMPARE(baseColor(rig), QColor(colors[index]));
+    }
 }
 
 void TestScrGridCtrlDialogLines::sharedColour_outsideTheSevenIsIgnored()

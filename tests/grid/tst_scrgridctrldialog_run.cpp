@@ -43,7 +43,6 @@ private slots:
     void tick_withoutAdvance_tellsTheRunAlone();
     void greyRamp_stepsEveryFifthTickAndWraps();
     void pauseButton_pausesAndResumesTheScrollingRun();
-    void pauseButton_pressesTheFamiliesAgain();
     void pauseButton_resumesATest();
     void runSlots_setTheRun();
 
@@ -197,27 +196,16 @@ void TestScrGridCtrlDialogRun::pauseButton_pausesAndResumesTheScrollingRun()
     QCOMPARE(rig.pause()->text(), QStringLiteral("暂停"));
     rig.tick();
     QCOMPARE(rig.shown().offset, 1);
-
-    rig.click(rig.pause());
-    QVERIFY(rig.panel->getScroll());
-    QCOMPARE(rig.checked(), QStringLiteral("V"));
+    for (int times = 0; times < 2; ++times) { // as long as it says that a click starts the run
+        const QPointer<QTimer> before = rig.timer();
+        rig.click(rig.pause());
+        QVERIFY(rig.panel->getScroll());
+        QVERIFY(before.isNull()); // the families were pressed again
+        QCOMPARE(rig.checked(), QStringLiteral("V"));
+    }
     rig.tick();
     QCOMPARE(rig.shown().offset, 2);
     QCOMPARE(rig.shown().families, QStringLiteral("V"));
-}
-
-// As long as the button says that a click starts the run, it does.
-void TestScrGridCtrlDialogRun::pauseButton_pressesTheFamiliesAgain()
-{
-    const GridRig rig({{QStringLiteral("gridSpeed"), 100}});
-    rig.clickFamilies("V");
-    QCOMPARE(rig.pause()->text(), QStringLiteral("开始"));
-    const QPointer<QTimer> before = rig.timer();
-    rig.click(rig.pause());
-
-    QVERIFY(rig.panel->getScroll());
-    QVERIFY(before.isNull());
-    QCOMPARE(rig.checked(), QStringLiteral("V"));
 }
 
 void TestScrGridCtrlDialogRun::pauseButton_resumesATest()

@@ -26,19 +26,15 @@ QByteArray iniLines(const QList<QByteArray> &keys, const QByteArray &value)
 }
 
 // Values that are not what any key holds.
-const QList<QByteArray> &wrongValues()
-{
-    static const QList<QByteArray> values = {"",
-                                             "grey",
-                                             "12px",
-                                             "1, 2, 3",
-                                             "99999999999999999999999",
-                                             R"(@ByteArray(\0\x1\xff\0))",
-                                             "@Invalid()",
-                                             "@Rect(9 9 9 9)",
-                                             R"(@Variant(\0\0\0\x7f))"};
-    return values;
-}
+const char *const wrongValues[] = {"",
+                                   "grey",
+                                   "12px",
+                                   "1, 2, 3",
+                                   "99999999999999999999999",
+                                   "@ByteArray(\\0\\x1\\xff\\0)",
+                                   "@Invalid()",
+                                   "@Rect(9 9 9 9)",
+                                   "@Variant(\\0\\0\\0\\x7f)"};
 
 } // namespace
 
@@ -101,8 +97,8 @@ void TestScrGridCtrlDialogSettings::greyAndSpeed_areRestored_data()
     QTest::newRow("0 means the default") << QByteArray("0") << 255 << 50;
     QTest::newRow("-5 means the default") << QByteArray("-5") << 255 << 50;
     QTest::newRow("too much") << QByteArray("100000") << 255 << 100;
-    for (const QByteArray &value : wrongValues())
-        QTest::newRow(value.constData()) << value << 255 << 50;
+    for (const char *value : wrongValues)
+        QTest::newRow(value) << QByteArray(value) << 255 << 50;
 }
 
 void TestScrGridCtrlDialogSettings::greyAndSpeed_areRestored()
@@ -123,8 +119,8 @@ void TestScrGridCtrlDialogSettings::greyAndSpeed_areRestored()
 void TestScrGridCtrlDialogSettings::wrongValues_doNoHarm_data()
 {
     QTest::addColumn<QByteArray>("value");
-    for (const QByteArray &value : wrongValues())
-        QTest::newRow(value.constData()) << value;
+    for (const char *value : wrongValues)
+        QTest::newRow(value) << QByteArray(value);
 }
 
 void TestScrGridCtrlDialogSettings::wrongValues_doNoHarm()
@@ -189,8 +185,8 @@ void TestScrGridCtrlDialogSettings::colour_isThatOfTheGradientTest()
 void TestScrGridCtrlDialogSettings::test_isResumed()
 {
     for (const bool aging : {true, false}) {
-        GridRig rig(
-            {{QStringLiteral("gridSpeed"), 1}}); // which the slider has before it is restored
+        // The speed that the slider has before it is restored.
+        GridRig rig({{QStringLiteral("gridSpeed"), 1}});
         rig.click(rig.test(aging));
         rig.restart();
         QCOMPARE(rig.mode(), aging ? QStringLiteral("aging") : QStringLiteral("merged"));
