@@ -230,7 +230,7 @@ void MixSetting::warnOfEmptySelection()
     m_warning->setAttribute(Qt::WA_DeleteOnClose);
     m_warning->setModal(false);
     QPushButton *ok = m_warning->button(QMessageBox::Ok);
-    ok->setStyleSheet(styleSheet()); // its name, which the style goes by, came after its style
+    ok->setStyleSheet(styleSheet()); // it was polished before it had the name of such buttons
     ok->setText(tr("确定"));
     m_warning->resize(warningSize);
     m_warning->show();

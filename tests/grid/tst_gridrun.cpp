@@ -87,8 +87,7 @@ private slots:
     void gridBehindAnotherPattern_doesNotScrollNorTakeARamp();
     void tests_goOnWithoutScrolling();
 
-    void greyRamp_stepsAtEveryFifthScroll();
-    void greyRamp_needsARun();
+    void greyRamp_stepsAtEveryFifthScrollOnceItIsAskedForInARun();
     void greyRamp_endsWhenATestBegins();
 
     void agingTest_showsRedGreenBlueWhiteAndRedAgain();
@@ -169,10 +168,14 @@ void TestGridRun::tests_goOnWithoutScrolling()
     QCOMPARE(rig.takeEmitted(), QStringLiteral("#ff0000 #ffff00"));
 }
 
-void TestGridRun::greyRamp_stepsAtEveryFifthScroll()
+void TestGridRun::greyRamp_stepsAtEveryFifthScrollOnceItIsAskedForInARun()
 {
     RunRig rig;
     rig.run.canScroll = true;
+    rig.run.isOn = false;
+    rig.run.rampGrey(1);
+    rig.run.isOn = true;
+    QCOMPARE(rig.scrollsToGreyStep(), -1);
     rig.step(2); // counted without a ramp, too
     rig.run.rampGrey(1);
     QCOMPARE(rig.scrollsToGreyStep(), 3);
@@ -181,16 +184,6 @@ void TestGridRun::greyRamp_stepsAtEveryFifthScroll()
     rig.step(5);
     QCOMPARE(rig.takeEmitted(),
              QStringLiteral("scrolled scrolled scrolled scrolled grey -1 scrolled"));
-}
-
-void TestGridRun::greyRamp_needsARun()
-{
-    RunRig rig;
-    rig.run.canScroll = true;
-    rig.run.isOn = false;
-    rig.run.rampGrey(1);
-    rig.run.isOn = true;
-    QCOMPARE(rig.scrollsToGreyStep(), -1);
 }
 
 void TestGridRun::greyRamp_endsWhenATestBegins()

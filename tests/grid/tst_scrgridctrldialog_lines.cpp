@@ -87,7 +87,10 @@ void TestScrGridCtrlDialogLines::familyClick_startsTheScrollingRun()
                          {QStringLiteral("gridNetChecked"), i % 2 == 0}});
             rig.drawer->slot_setBgColor(QColor(1, 2, 3));
             rig.click(rig.test(i < 2));
-            rig.drawer->setHoriLinesEnabled(true); // as after a step of the merged test
+            // As after steps of the merged test.
+            rig.drawer->setHoriLinesEnabled(true);
+            rig.drawer->setVertLinesEnabled(true);
+            rig.drawer->setSlantLeftLinesEnabled(true);
             rig.drawer->setSlantRightLinesEnabled(true);
             rig.panel->slot_stopPauseStatus();
             rig.panel->getDrawer();
