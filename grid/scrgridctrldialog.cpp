@@ -7,7 +7,6 @@
 #include "mixsetting.h"
 #include "savesoon.h"
 #include "settingsrules.h"
-#include "sliderspinboxpair.h"
 #include "swatchrow.h"
 #include "testcolor.h"
 
@@ -46,11 +45,10 @@ ScrGridCtrlDialog::ScrGridCtrlDialog(QWidget *testWindow, QSettings *settings_, 
     , m_run(&drawer)
     , m_families({ui->radioButtonHorizontal, ui->radioButtonVertical, ui->radioButtonSlantLeft,
                   ui->radioButtonSlantRight})
+    , m_grey(ui->hScrollBarGrayLevel, ui->labelGrayLevel)
+    , m_speed(ui->hScrollBarSpeed, ui->labelSpeed)
     , m_lamps(ui->signalGreenButton, ui->signalGreyButton)
-    , m_swatches(new SwatchRow({ui->radioButtonRed, ui->radioButtonGreen, ui->radioButtonBlue,
-                                ui->radioButtonWhite, ui->radioButtonYellow, ui->radioButtonCyan,
-                                ui->radioButtonPurple},
-                               this))
+    , m_swatches(new SwatchRow(*ui, this))
     , m_saveSoon(new SaveSoon([this] { saveWhileRunning(); }, this))
 {
     for (QPushButton *button : {ui->pushButtonPause, ui->pushButtonSettings})
@@ -78,8 +76,6 @@ void ScrGridCtrlDialog::initSlots()
     connect(m_swatches, &SwatchRow::selected, this, &Panel::selectColor);
     initLinesSlots();
     initRunSlots();
-    SliderSpinBoxPair::link(ui->hScrollBarGrayLevel, ui->labelGrayLevel);
-    SliderSpinBoxPair::link(ui->hScrollBarSpeed, ui->labelSpeed);
 }
 
 void ScrGridCtrlDialog::initLinesSlots()
@@ -124,14 +120,11 @@ void ScrGridCtrlDialog::initSaving()
         connect(button, &QPushButton::clicked, m_saveSoon, &SaveSoon::schedule);
 }
 
-// The speed comes first: a slider without a range would start the timer for speed 0.
 void ScrGridCtrlDialog::initCtrls()
 {
     const auto hold = m_saveSoon->hold();
-    SliderSpinBoxPair::setRange(ui->hScrollBarSpeed, ui->labelSpeed, minimumSpeed, maximumSpeed);
-    SliderSpinBoxPair::setRange(ui->hScrollBarGrayLevel, ui->labelGrayLevel, 0, maximumGrey);
-    for (QSpinBox *spinBox : {ui->labelSpeed, ui->labelGrayLevel})
-        SliderSpinBoxPair::prepare(spinBox);
+    m_speed.setRange(minimumSpeed, maximumSpeed);
+    m_grey.setRange(0, maximumGrey);
     ui->radioButtonRed->setChecked(true);
     ui->hScrollBarGrayLevel->setValue(firstGrey);
 }
@@ -147,8 +140,8 @@ void ScrGridCtrlDialog::initGridStatus()
         m_run.isOn = settings->value(runningKey).toBool();
         m_run.isMerged = settings->value(mergedKey).toBool();
         using SettingsRules::positiveInt;
-        ui->hScrollBarGrayLevel->setValue(positiveInt(*settings, greyKey, maximumGrey));
-        ui->hScrollBarSpeed->setValue(positiveInt(*settings, speedKey, defaultSpeed));
+        m_grey.setValue(positiveInt(*settings, greyKey, maximumGrey));
+        m_speed.setValue(positiveInt(*settings, speedKey, defaultSpeed));
         // Specified: a colour other than red starts a paused run, as if it were chosen, and
         // yellow, cyan and purple count as the first colour for the page keys.
         const QColor color = SettingsRules::color(*settings, SharedKey::gradientColor);
@@ -388,8 +381,8 @@ void ScrGridCtrlDialog::updateLanguage()
     CommonHelper::setQPushButtonText(ui->pushButtonSettings, tr("高级设置"));
     CommonHelper::setQPushButtonText(ui->pushButtonPause, tr("开始"));
     m_runningShown = false; // up to the next step
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarSpeed, ui->labelSpeed, tr("速度"));
-    SliderSpinBoxPair::setAccessibleName(ui->hScrollBarGrayLevel, ui->labelGrayLevel, tr("灰度"));
+    m_speed.setAccessibleName(tr("速度"));
+    m_grey.setAccessibleName(tr("灰度"));
 }
 
 // A page of the tabs, not a window: Escape does not close it, and Enter does not press the

@@ -4,7 +4,8 @@
 #include "familyrow.h"
 #include "griddrawer.h"
 #include "gridrun.h"
-#include "lamppair.h"
+#include "runindicator.h"
+#include "sliderspinboxpair.h"
 
 #include <QDialog>
 
@@ -143,7 +144,9 @@ private:
     QSettings *settings;
     GridRun m_run;
     FamilyRow m_families;
-    LampPair m_lamps;
+    SliderSpinBoxPair m_grey;
+    SliderSpinBoxPair m_speed;
+    RunIndicator m_lamps;
     SwatchRow *m_swatches;
     SaveSoon *m_saveSoon;
     bool m_runningShown = false; // by the text of the start/pause button
