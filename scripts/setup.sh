@@ -6,7 +6,7 @@
 set -euo pipefail
 
 build_packages=(build-essential cmake ninja-build pkg-config
-  qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libxcb1-dev)
+  qtbase5-dev libqt5x11extras5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libxcb1-dev)
 font_packages=(fonts-noto-cjk fonts-dejavu-core fonts-liberation)
 virtual_desktop_packages=(xvfb openbox imagemagick x11-utils)
 test_packages=(libx11-dev libxtst-dev libxext-dev libxfixes-dev libxdamage-dev libxrandr-dev libsm-dev libice-dev libbenchmark-dev
@@ -50,8 +50,8 @@ if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
   cd "$(dirname "$0")/.."
   if [ ! -f build/build.ninja ]; then
     echo "setup: there is no apt-get here; please install, if missing: a C++17 compiler," \
-      "CMake 3.16 or newer, Ninja, Qt 5.9 or newer of the 5 series (Widgets, Test and" \
-      "LinguistTools; on macOS Homebrew's qt@5, its prefix in CMAKE_PREFIX_PATH)," \
+      "CMake 3.16 or newer, Ninja, Qt 5.9 or newer of the 5 series (Widgets, Test," \
+      "LinguistTools and, for X11, X11Extras; on macOS Homebrew's qt@5, its prefix in CMAKE_PREFIX_PATH)," \
       "a Chinese font; for the end-to-end tests also Xvfb, dbus-run-session, openbox, kwin_x11, mutter, xfwm4, xrandr, xprop, ImageMagick" \
       "and the development files of libX11, libXtst, libXext, libXfixes, libXdamage, libXrandr, libSM and libICE." >&2
   fi

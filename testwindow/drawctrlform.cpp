@@ -107,6 +107,7 @@ void DrawCtrlForm::getScreenSize()
     setControls(m_placement);
     if (controlsRectangle() == m_placement && region.intersects(m_placement))
         m_keeper->setPlace(m_placement);
+    m_keeper->followScreens();
     emit signal_screenMaxSizeChanged(sum.width(), sum.height());
 }
 

@@ -2,8 +2,6 @@
 
 #include "x11windows.h"
 
-#include <QWindow>
-
 namespace {
 
 constexpr int numbers = 1000;
@@ -15,45 +13,28 @@ constexpr int roundsForAll = 2;
 
 ManagerEcho::ManagerEcho(QObject *parent)
     : QObject(parent)
-{ }
-
-ManagerEcho::~ManagerEcho() = default;
+{
+    if (!X11Windows::isAvailable())
+        return;
+    m_probe.setGeometry(0, 0, 1, 1);
+    m_probe.create();
+    connect(&m_probe, &QWindow::xChanged, this, [this](int x) {
+        if (x == m_number && --m_rounds > 0)
+            send();
+        else if (x == m_number)
+            emit answered();
+    });
+}
 
 bool ManagerEcho::ask()
 {
-    if (!X11Windows::isAvailable())
-        return false;
-    if (!m_probe)
-        createProbe();
-    m_isAwaited = true;
     m_rounds = roundsForAll;
     send();
-    return true;
-}
-
-void ManagerEcho::createProbe()
-{
-    m_probe = std::make_unique<QWindow>();
-    m_probe->setGeometry(0, 0, 1, 1);
-    m_probe->create();
-    connect(m_probe.get(), &QWindow::xChanged, this, [this](int x) {
-        if (x != m_number)
-            return;
-        if (--m_rounds > 0)
-            send();
-        else
-            answer();
-    });
+    return X11Windows::isAvailable();
 }
 
 void ManagerEcho::send()
 {
     m_number = m_number % numbers + 1;
-    m_probe->setPosition(m_number, 0);
-}
-
-void ManagerEcho::answer()
-{
-    m_isAwaited = false;
-    emit answered();
+    m_probe.setPosition(m_number, 0);
 }

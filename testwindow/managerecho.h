@@ -1,10 +1,7 @@
 #pragma once
 
 #include <QObject>
-
-#include <memory>
-
-class QWindow;
+#include <QWindow>
 
 // Tells when the window manager has handled every request made until now.
 class ManagerEcho : public QObject
@@ -13,28 +10,20 @@ class ManagerEcho : public QObject
 
 public:
     explicit ManagerEcho(QObject *parent = nullptr);
-    ~ManagerEcho() override;
 
     // answered() follows once, however often this is called meanwhile. False where there is no
     // window manager that could be asked.
     virtual bool ask();
-    bool isAwaited() const { return m_isAwaited; }
 
 signals:
     void answered();
 
-protected:
-    void answer();
-
-    bool m_isAwaited = false;
-
 private:
-    void createProbe();
     void send();
 
     // Never shown: a window manager has to let a window that it does not manage have its way, and
     // handles the requests of a program in their order.
-    std::unique_ptr<QWindow> m_probe;
+    QWindow m_probe;
     int m_number = 0;
     int m_rounds = 0;
 };

@@ -1,13 +1,17 @@
 #include "placekeeper.h"
 
+#include "x11windows.h"
+
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QWindow>
 #include <QtPlatformHeaders/QXcbWindowFunctions>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -18,43 +22,18 @@ constexpr int liftIntervalMs = 100;
 constexpr int refusalsToLeave = 3;
 constexpr int mostRefusals = 10;
 
-int area(const QRect &rectangle)
+bool isShown(const QWidget *window)
 {
-    return rectangle.isValid() ? rectangle.width() * rectangle.height() : 0;
+    return window->isVisible() && !window->isMinimized();
 }
 
-bool isScreen(const QRect &rectangle)
+QWidgetList shownWindows(Qt::WindowType type)
 {
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    return std::any_of(screens.cbegin(), screens.cend(),
-                       [&](const QScreen *screen) { return screen->geometry() == rectangle; });
-}
-
-// The screen that shows most of the place.
-QScreen *screenOf(const QRect &place)
-{
-    QScreen *best = QGuiApplication::primaryScreen();
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    for (QScreen *screen : screens) {
-        if (area(screen->geometry() & place) > area(best->geometry() & place))
-            best = screen;
-    }
-    return best;
-}
-
-// Null while it is minimised.
-QWidget *controlWindow()
-{
+    QWidgetList shown;
     const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto found = std::find_if(windows.cbegin(), windows.cend(), [](const QWidget *window) {
-        return window->isVisible() && !window->isMinimized() && window->windowType() == Qt::Window;
-    });
-    return found == windows.cend() ? nullptr : *found;
-}
-
-bool isInFront(const QWidget *window)
-{
-    return window->isVisible() && window->windowHandle() && window->windowType() != Qt::Window;
+    std::copy_if(windows.cbegin(), windows.cend(), std::back_inserter(shown),
+                 [type](auto *one) { return isShown(one) && one->windowType() == type; });
+    return shown;
 }
 
 } // namespace
@@ -65,21 +44,12 @@ PlaceKeeper::PlaceKeeper(QWidget *window, ManagerEcho *echo, QObject *parent)
     , m_echo(echo)
 {
     m_echo->setParent(this);
-    m_window->installEventFilter(this);
+    qApp->installEventFilter(this);
     connect(m_echo, &ManagerEcho::answered, this, &PlaceKeeper::check);
-    connect(&m_x11, &X11Windows::configured, this, [this](WId id) {
-        if (id == m_window->internalWinId() && !m_echo->isAwaited())
-            m_echo->ask();
-    });
     // What has the keyboard may be put in front.
-    connect(qApp, &QGuiApplication::focusWindowChanged, m_echo, &ManagerEcho::ask);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &PlaceKeeper::look);
     connect(&m_liftTimer, &QTimer::timeout, this, &PlaceKeeper::lift);
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    std::for_each(screens.cbegin(), screens.cend(), [this](QScreen *screen) { follow(screen); });
-    connect(qApp, &QGuiApplication::screenAdded, this, &PlaceKeeper::follow);
 }
-
-PlaceKeeper::~PlaceKeeper() = default;
 
 void PlaceKeeper::setPlace(const QRect &place)
 {
@@ -87,34 +57,34 @@ void PlaceKeeper::setPlace(const QRect &place)
     request();
 }
 
-// A window manager resizes what fills a screen with the screen, but only as long as it manages it.
-void PlaceKeeper::follow(QScreen *screen)
+// A window manager resizes what fills a screen with the screen, but not always, and only as long as
+// it manages it.
+void PlaceKeeper::followScreens()
 {
-    if (screen->geometry() == m_screen) // it was off
-        m_filled = screen;
-    connect(screen, &QScreen::geometryChanged, this, [this, screen](const QRect &now) {
-        if (!m_isFull || m_filled != screen)
-            return;
-        m_screen = now;
+    if (m_isFull)
         request();
-    });
 }
 
+// Null while the screen to be filled is off.
 QRect PlaceKeeper::target() const
 {
-    return m_isFull ? m_screen : m_place;
+    if (!m_isFull)
+        return m_place;
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    const auto found = std::find_if(screens.cbegin(), screens.cend(),
+                                    [this](auto *screen) { return screen->name() == m_screen; });
+    return found == screens.cend() ? QRect() : (*found)->geometry();
 }
 
 // Qt only knows what the window manager says.
 QRect PlaceKeeper::actual() const
 {
-    const QRect known = m_x11.geometry(m_window->internalWinId());
+    const QRect known = X11Windows::geometry(m_window->internalWinId());
     return known.isNull() ? m_window->geometry() : known;
 }
 
 void PlaceKeeper::request()
 {
-    const QScopedValueRollback<bool> changing(m_isChanging, true);
     m_refusals = 0;
     // A full screen asked for by its state alone comes back from there as it was.
     if (!m_isFull)
@@ -124,20 +94,28 @@ void PlaceKeeper::request()
     m_isSettled = !m_echo->ask();
 }
 
+void PlaceKeeper::look()
+{
+    if (!m_echo->ask())
+        check();
+}
+
 // The window manager has handled what was asked of it.
 void PlaceKeeper::check()
 {
-    const QScopedValueRollback<bool> changing(m_isChanging, true);
-    if (m_isLeaving)
-        finishLeaving();
-    // Somebody may be moving it just now, which Qt will be told.
-    if (m_isSettled && m_x11.isButtonHeld())
+    if (m_isOut)
+        lift();
+    if (!isShown(m_window) || m_isNew || m_isPressed || target().isNull())
         return;
-    const bool isInPlace = actual() == target() && m_window->geometry() == target();
-    if (!m_window->isVisible() || m_isNew || m_isPressed || (m_isFull && !isScreen(m_screen)))
-        return;
-    const bool isBelow = !m_isOut && m_x11.isBelowPanel(m_window->internalWinId());
-    if (isInPlace && !isBelow && m_window->isFullScreen() == m_isFull) {
+    const bool isInPlace = actual() == target() && m_window->geometry() == target()
+                           && m_window->isFullScreen() == m_isFull;
+    // Some window managers end a full screen whenever another window gets the keyboard.
+    const bool mayFollow = m_isSettled && (!m_isFull || m_window->isActiveWindow());
+    if (!isInPlace && mayFollow && !m_isFull && !m_window->isFullScreen()) {
+        emit displaced(actual());
+    } else if (!isInPlace && mayFollow) {
+        followState();
+    } else if (isInPlace && (m_isOut || !X11Windows::isCovered(m_window->winId()))) {
         m_isSettled = true;
         m_refusals = 0;
     } else if (++m_refusals < mostRefusals) {
@@ -150,89 +128,91 @@ void PlaceKeeper::insist()
 {
     if (!m_isOut && m_refusals == refusalsToLeave)
         leaveManager();
-    else if (!m_isOut && m_isFull && m_refusals == 1)
-        enterFullScreen();
-    else
-        put();
+    put();
     m_echo->ask();
 }
 
+// A full screen anew: no window manager moves a window that fills a screen.
 void PlaceKeeper::put()
 {
-    if (m_window->isFullScreen() != m_isFull)
-        m_window->setWindowState(m_isFull ? Qt::WindowFullScreen : Qt::WindowNoState);
-    if (m_isOut)
-        m_x11.place(m_window->winId(), target());
-    else if (m_isFull) // which a widget takes for ended when it is moved
-        m_window->windowHandle()->setGeometry(m_screen);
-    else
-        m_window->setGeometry(m_place);
-}
-
-// Anew: no window manager moves a window that fills a screen.
-void PlaceKeeper::enterFullScreen()
-{
+    const QScopedValueRollback<bool> changing(m_isChanging, true);
     m_window->setWindowState(Qt::WindowNoState);
     m_window->setGeometry(m_place);
-    m_window->setWindowState(Qt::WindowFullScreen);
+    if (m_isFull)
+        m_window->setWindowState(Qt::WindowFullScreen);
+    if (m_isOut && !target().isNull())
+        X11Windows::place(m_window->winId(), target());
 }
 
-// The dialogs too, to be in front of the test window. The window manager must have let go of them
-// before they are shown again; to Qt they are visible meanwhile.
+// With the open dialogs, to keep them in front.
 void PlaceKeeper::leaveManager()
 {
-    m_isLeaving = true;
-    m_hadKeyboard = QApplication::activeWindow();
-    m_leaving = {m_window};
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    std::copy_if(windows.cbegin(), windows.cend(), std::back_inserter(m_leaving),
-                 [](const QWidget *window) {
-                     return window->isVisible() && window->windowType() == Qt::Dialog;
-                 });
-    for (const QWidget *window : qAsConst(m_leaving)) {
-        window->windowHandle()->setFlag(Qt::BypassWindowManagerHint);
-        m_x11.withdraw(window->internalWinId());
-    }
-}
-
-void PlaceKeeper::finishLeaving()
-{
-    m_isLeaving = false;
+    QWidget *active = QApplication::activeWindow();
     m_isOut = true;
     m_liftTimer.start(liftIntervalMs);
-    m_window->removeEventFilter(this);
-    qApp->installEventFilter(this);
-    for (const QWidget *window : qAsConst(m_leaving)) {
-        if (window && window->isVisible())
-            m_x11.map(window->internalWinId());
+    const QWidgetList windows = QWidgetList{m_window} + shownWindows(Qt::Dialog);
+    for (const QWidget *window : windows) {
+        window->windowHandle()->setFlag(Qt::BypassWindowManagerHint);
+        X11Windows::unmap(window->internalWinId());
+        window->windowHandle()->raise();
     }
-    put();
-    if (m_hadKeyboard == m_window)
-        handKeyboardOn(m_window);
-    else if (m_hadKeyboard)
-        m_hadKeyboard->activateWindow();
+    lift();
+    if (active)
+        giveKeyboardTo(active);
 }
 
 void PlaceKeeper::lift()
 {
-    if (!m_window->isVisible())
-        return;
-    QVector<WId> inFront;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (const QWidget *window : windows) {
-        if (window != m_window && isInFront(window))
-            inFront.append(window->internalWinId());
-    }
-    m_x11.lift(m_window->winId(), inFront);
+    QVector<WId> ids;
+    const QWidgetList windows = QWidgetList{m_window} + shownWindows(Qt::Dialog)
+                                + shownWindows(Qt::Popup) + shownWindows(Qt::ToolTip);
+    for (const QWidget *window : windows)
+        ids.append(window->internalWinId());
+    if (m_window->isVisible())
+        X11Windows::lift(ids);
 }
 
 bool PlaceKeeper::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window)
+    if (watched == m_window && !m_isChanging)
         windowEvent(event);
-    if (m_isOut && watched->isWidgetType())
-        standInForManager(static_cast<QWidget *>(watched), event->type());
+    if (watched->isWidgetType())
+        passKeyboard(static_cast<QWidget *>(watched), event->type());
     return QObject::eventFilter(watched, event);
+}
+
+// Dialogs go the way of the test window, to be in front of it, and such windows get the keyboard
+// from nobody else. Some window managers give it to nobody when a window is gone.
+void PlaceKeeper::passKeyboard(QWidget *widget, QEvent::Type event)
+{
+    QWidget *window = widget->window();
+    const bool isDialog = window->windowType() == Qt::Dialog;
+    if (!isDialog && window != m_window)
+        return;
+    if (event == QEvent::Hide && widget == window) {
+        giveKeyboardTo(window->parentWidget() ? window->parentWidget()->window() : m_window);
+    } else if (event == QEvent::Show && widget == window && isDialog && m_isOut) {
+        window->windowHandle()->setFlag(Qt::BypassWindowManagerHint);
+        giveKeyboardTo(window);
+    } else if (event == QEvent::MouseButtonPress && m_isOut) {
+        giveKeyboardTo(window);
+    }
+}
+
+// Once the event is handled: what is modal until then would take it. The keys work in the control
+// window too.
+void PlaceKeeper::giveKeyboardTo(QWidget *window)
+{
+    QTimer::singleShot(0, this, [this, window = QPointer<QWidget>(window)] {
+        const QWidgetList heirs = shownWindows(Qt::Window);
+        QWidget *heir = window == m_window && !heirs.isEmpty() ? heirs.first() : window.data();
+        if (!heir)
+            return;
+        heir->activateWindow();
+        // A window manager may think that it never lost the keyboard.
+        if (m_isOut)
+            X11Windows::focus(heir->internalWinId());
+    });
 }
 
 // Only what comes from outside is spontaneous.
@@ -240,21 +220,23 @@ void PlaceKeeper::windowEvent(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::Show:
-        if (!m_isChanging && !event->spontaneous())
+        if (!event->spontaneous())
             shown();
         break;
     case QEvent::Paint:
-        if (m_isNew)
-            m_echo->ask();
-        m_isNew = false;
+        if (std::exchange(m_isNew, false))
+            look();
         break;
     case QEvent::WindowStateChange:
-        stateChanged(event->spontaneous());
+        if (!event->spontaneous())
+            followState();
+        else
+            look();
         break;
     case QEvent::Move:
     case QEvent::Resize:
         if (event->spontaneous())
-            notice();
+            look();
         break;
     case QEvent::MouseButtonPress:
         // Another button opens the menu, which takes the release.
@@ -262,35 +244,11 @@ void PlaceKeeper::windowEvent(QEvent *event)
         break;
     case QEvent::MouseButtonRelease:
         m_isPressed = false;
-        m_echo->ask();
-        break;
-    case QEvent::Hide:
-        if (!m_isChanging && !event->spontaneous())
-            handKeyboardOn(m_window);
+        look();
         break;
     default:
         break;
     }
-}
-
-// Dialogs go the way of the test window, to be in front of it; and such windows get the keyboard
-// from nobody else.
-void PlaceKeeper::standInForManager(QWidget *widget, QEvent::Type event)
-{
-    QWidget *window = widget->window();
-    if (event == QEvent::Show && widget->isWindow() && window->windowType() == Qt::Dialog) {
-        window->windowHandle()->setFlag(Qt::BypassWindowManagerHint);
-        QTimer::singleShot(0, window, &QWidget::activateWindow);
-    }
-    if (window->windowType() == Qt::Popup || !window->windowHandle()
-        || !window->windowHandle()->flags().testFlag(Qt::BypassWindowManagerHint))
-        return;
-    // The keys work in the control window too, which the window manager knows about.
-    QWidget *receiver = window == m_window && controlWindow() ? controlWindow() : window;
-    if (event == QEvent::MouseButtonPress && !receiver->isActiveWindow())
-        receiver->activateWindow();
-    if (event == QEvent::Hide && widget->isWindow() && widget != m_window)
-        handKeyboardOn(window);
 }
 
 void PlaceKeeper::shown()
@@ -302,36 +260,10 @@ void PlaceKeeper::shown()
     request();
 }
 
-void PlaceKeeper::stateChanged(bool isSpontaneous)
+void PlaceKeeper::followState()
 {
-    if (m_isChanging || m_window->isFullScreen() == m_isFull)
-        return;
-    if (isSpontaneous && m_echo->ask()) // true or not, its place will tell
-        return;
     m_isFull = m_window->isFullScreen();
-    if (m_isFull) {
-        m_filled = screenOf(m_place);
-        m_screen = m_filled->geometry();
-    }
+    m_window->winId(); // it may never have been shown
+    m_screen = m_window->windowHandle()->screen()->name();
     request();
-}
-
-// A move before the window manager has had its say may be what it says.
-void PlaceKeeper::notice()
-{
-    const QRect now = actual();
-    if (m_isSettled && !m_isNew && !m_isPressed && !m_isFull && now != m_place)
-        emit displaced(now);
-}
-
-void PlaceKeeper::handKeyboardOn(const QWidget *from)
-{
-    const QWidget *active = QApplication::activeWindow();
-    QWidget *heir = from->parentWidget() ? from->parentWidget()->window() : controlWindow();
-    if ((active && active != from) || !heir)
-        return;
-    heir->activateWindow();
-    // A window manager may think that it never lost the keyboard.
-    if (m_isOut)
-        m_x11.focus(heir->internalWinId());
 }

@@ -1,8 +1,7 @@
 #include "x11windows.h"
 
-#include <QGuiApplication>
+#include <QX11Info>
 
-#ifdef TARN_XCB
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
@@ -11,269 +10,168 @@
 
 namespace {
 
+constexpr quint32 mostWindows = 10000;
+
 // A frame, a layer inside the frame, the program's own window.
 constexpr int deepestClient = 2;
 
-// Marks events that come from another program.
-constexpr quint8 sentBit = 0x80;
+xcb_connection_t *server()
+{
+    return QX11Info::connection();
+}
+
+xcb_window_t root()
+{
+    return static_cast<xcb_window_t>(QX11Info::appRootWindow());
+}
 
 template<typename Reply>
-using ReplyPtr = std::unique_ptr<Reply, decltype(&std::free)>;
-
-template<typename Reply>
-ReplyPtr<Reply> owned(Reply *reply)
+std::unique_ptr<Reply, decltype(&std::free)> owned(Reply *reply)
 {
     return {reply, &std::free};
 }
 
+// From the lowest to the highest.
+QVector<xcb_window_t> managedWindows()
+{
+    constexpr char name[] = "_NET_CLIENT_LIST_STACKING";
+    static const xcb_atom_t list =
+        owned(xcb_intern_atom_reply(
+                  server(), xcb_intern_atom(server(), false, sizeof name - 1, name), nullptr))
+            ->atom;
+    const auto cookie =
+        xcb_get_property(server(), false, root(), list, XCB_ATOM_WINDOW, 0, mostWindows);
+    const auto reply = owned(xcb_get_property_reply(server(), cookie, nullptr));
+    QVector<xcb_window_t> windows;
+    if (!reply)
+        return windows;
+    const auto *first = static_cast<xcb_window_t *>(xcb_get_property_value(reply.get()));
+    std::copy_n(first, reply->value_len, std::back_inserter(windows));
+    return windows;
+}
+
+// All others of the screen too, from the lowest to the highest.
+QVector<xcb_window_t> allWindows()
+{
+    const auto tree =
+        owned(xcb_query_tree_reply(server(), xcb_query_tree(server(), root()), nullptr));
+    QVector<xcb_window_t> windows;
+    if (tree)
+        std::copy_n(xcb_query_tree_children(tree.get()), tree->children_len,
+                    std::back_inserter(windows));
+    return windows;
+}
+
+// The outermost windows around these, each itself if the window manager has put none there.
+QVector<xcb_window_t> frames(QVector<xcb_window_t> windows)
+{
+    for (int depth = 0; depth <= deepestClient; ++depth) {
+        QVector<xcb_query_tree_cookie_t> cookies;
+        for (const xcb_window_t window : qAsConst(windows))
+            cookies.append(xcb_query_tree(server(), window));
+        for (int i = 0; i < windows.size(); ++i) {
+            const auto tree = owned(xcb_query_tree_reply(server(), cookies.at(i), nullptr));
+            if (tree && tree->parent != root() && tree->parent != 0)
+                windows[i] = tree->parent;
+        }
+    }
+    return windows;
+}
+
+bool isShown(xcb_window_t window)
+{
+    const auto cookie = xcb_get_window_attributes(server(), window);
+    const auto reply = owned(xcb_get_window_attributes_reply(server(), cookie, nullptr));
+    return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+// Of the same program.
+bool isAkin(xcb_window_t one, xcb_window_t other)
+{
+    return ((one ^ other) & ~xcb_get_setup(server())->resource_id_mask) == 0;
+}
+
 } // namespace
-
-X11Windows::X11Windows()
-{
-    if (!isAvailable())
-        return;
-    m_connection = xcb_connect(nullptr, nullptr);
-    if (xcb_connection_has_error(m_connection))
-        return;
-    m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
-    const auto atom = [this](const QByteArray &name) {
-        const auto cookie = xcb_intern_atom(m_connection, false, static_cast<quint16>(name.size()),
-                                            name.constData());
-        const auto reply = owned(xcb_intern_atom_reply(m_connection, cookie, nullptr));
-        return reply ? reply->atom : 0;
-    };
-    m_state = atom(QByteArrayLiteral("WM_STATE"));
-    m_strut = atom(QByteArrayLiteral("_NET_WM_STRUT"));
-    m_partialStrut = atom(QByteArrayLiteral("_NET_WM_STRUT_PARTIAL"));
-    qApp->installNativeEventFilter(this);
-}
-
-X11Windows::~X11Windows()
-{
-    if (m_connection)
-        xcb_disconnect(m_connection);
-}
 
 bool X11Windows::isAvailable()
 {
-    return QGuiApplication::platformName() == QLatin1String("xcb");
+    return QX11Info::isPlatformX11();
 }
 
-QRect X11Windows::geometry(WId window) const
+QRect X11Windows::geometry(WId window)
 {
-    if (!m_root)
+    if (!isAvailable())
         return {};
-    const auto id = static_cast<quint32>(window);
-    const auto size = xcb_get_geometry(m_connection, id);
-    const auto corner = xcb_translate_coordinates(m_connection, id, m_root, 0, 0);
-    const auto sizeReply = owned(xcb_get_geometry_reply(m_connection, size, nullptr));
-    const auto cornerReply = owned(xcb_translate_coordinates_reply(m_connection, corner, nullptr));
+    const auto id = static_cast<xcb_window_t>(window);
+    const auto size = xcb_get_geometry(server(), id);
+    const auto corner = xcb_translate_coordinates(server(), id, root(), 0, 0);
+    const auto sizeReply = owned(xcb_get_geometry_reply(server(), size, nullptr));
+    const auto cornerReply = owned(xcb_translate_coordinates_reply(server(), corner, nullptr));
     if (!sizeReply || !cornerReply)
         return {};
     return {cornerReply->dst_x, cornerReply->dst_y, sizeReply->width, sizeReply->height};
 }
 
-bool X11Windows::nativeEventFilter(const QByteArray &type, void *message, long * /*result*/)
+bool X11Windows::isCovered(WId window)
 {
-    if (type == "xcb_generic_event_t") {
-        const auto *event = static_cast<xcb_configure_notify_event_t *>(message);
-        if ((event->response_type & ~sentBit) == XCB_CONFIGURE_NOTIFY)
-            emit configured(event->window);
+    if (!isAvailable())
+        return false;
+    const QVector<xcb_window_t> all = allWindows();
+    const QVector<xcb_window_t> managed = managedWindows();
+    const QVector<xcb_window_t> around = frames(managed);
+    const int own = managed.indexOf(static_cast<xcb_window_t>(window));
+    const QRect place = geometry(window);
+    for (int i = 0; own >= 0 && i < managed.size(); ++i) {
+        if (all.indexOf(around.at(i)) > all.indexOf(around.at(own))
+            && !isAkin(managed.at(i), managed.at(own)) && isShown(managed.at(i))
+            && geometry(managed.at(i)).intersects(place))
+            return true;
     }
     return false;
-}
-
-bool X11Windows::isButtonHeld() const
-{
-    constexpr int buttons = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
-    if (!m_root)
-        return false;
-    const auto reply = owned(
-        xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_root), nullptr));
-    return reply && (reply->mask & buttons) != 0;
-}
-
-bool X11Windows::isBelowPanel(WId window) const
-{
-    if (!m_root)
-        return false;
-    const QRect place = geometry(window);
-    const QVector<quint32> all = children(m_root);
-    const int at = all.indexOf(frame(static_cast<quint32>(window)));
-    return std::any_of(all.cbegin() + at + 1, all.cend(), [&](quint32 other) {
-        return geometry(other).intersects(place) && isShown(other)
-               && (hasProperty(other, m_strut, deepestClient)
-                   || hasProperty(other, m_partialStrut, deepestClient));
-    });
 }
 
 void X11Windows::place(WId window, const QRect &place)
 {
-    if (!m_root)
+    if (!isAvailable())
         return;
     constexpr quint16 all = XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH
                             | XCB_CONFIG_WINDOW_HEIGHT;
     const qint32 values[] = {place.x(), place.y(), place.width(), place.height()};
-    const auto cookie =
-        xcb_configure_window_checked(m_connection, static_cast<quint32>(window), all, values);
-    std::free(xcb_request_check(m_connection, cookie));
+    xcb_configure_window(server(), static_cast<xcb_window_t>(window), all, values);
 }
 
-void X11Windows::withdraw(WId window)
+void X11Windows::unmap(WId window)
 {
-    if (!m_root)
-        return;
-    const auto id = static_cast<quint32>(window);
-    xcb_unmap_window(m_connection, id);
-    union {
-        xcb_unmap_notify_event_t notice;
-        char bytes[32];
-    } event = {};
-    event.notice.response_type = XCB_UNMAP_NOTIFY;
-    event.notice.event = m_root;
-    event.notice.window = id;
-    xcb_send_event(m_connection, false, m_root,
-                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   event.bytes);
-    xcb_flush(m_connection);
+    if (isAvailable())
+        xcb_unmap_window(server(), static_cast<xcb_window_t>(window));
 }
 
-void X11Windows::map(WId window)
+void X11Windows::lift(const QVector<WId> &windows)
 {
-    if (!m_root)
+    if (!isAvailable())
         return;
-    xcb_map_window(m_connection, static_cast<quint32>(window));
-    xcb_flush(m_connection);
+    const QVector<xcb_window_t> all = allWindows();
+    int highest = -1;
+    const QVector<xcb_window_t> around = frames(managedWindows());
+    for (const xcb_window_t frame : around)
+        highest = qMax(highest, all.indexOf(frame));
+    xcb_window_t below = all.value(highest);
+    for (const WId window : windows) {
+        const auto id = static_cast<xcb_window_t>(window);
+        const quint32 values[] = {below, XCB_STACK_MODE_ABOVE};
+        if (all.indexOf(id) < highest)
+            xcb_configure_window(server(), id,
+                                 XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values);
+        // A window manager may hide what it lets go of.
+        xcb_map_window(server(), id);
+        highest = qMax(highest, all.indexOf(id));
+        below = id;
+    }
 }
 
 void X11Windows::focus(WId window)
 {
-    if (!m_root)
-        return;
-    xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, static_cast<quint32>(window),
-                        XCB_CURRENT_TIME);
-    xcb_flush(m_connection);
+    if (isAvailable())
+        xcb_set_input_focus(server(), XCB_INPUT_FOCUS_PARENT, static_cast<xcb_window_t>(window),
+                            XCB_CURRENT_TIME);
 }
-
-// From the lowest to the highest.
-QVector<quint32> X11Windows::children(quint32 window) const
-{
-    const auto tree =
-        owned(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
-    QVector<quint32> found;
-    if (!tree)
-        return found;
-    const xcb_window_t *first = xcb_query_tree_children(tree.get());
-    found.reserve(xcb_query_tree_children_length(tree.get()));
-    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i)
-        found.append(first[i]);
-    return found;
-}
-
-// The outermost window around it, itself if the window manager has put none there.
-quint32 X11Windows::frame(quint32 window) const
-{
-    for (;;) {
-        const auto tree = owned(
-            xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
-        if (!tree || tree->parent == m_root || tree->parent == 0)
-            return window;
-        window = tree->parent;
-    }
-}
-
-// It or a window inside it.
-bool X11Windows::hasProperty(quint32 window, quint32 property, int depth) const
-{
-    const auto cookie = xcb_get_property(m_connection, false, window, property, 0, 0, 1);
-    const auto reply = owned(xcb_get_property_reply(m_connection, cookie, nullptr));
-    if (reply && reply->type)
-        return true;
-    const QVector<quint32> inside = depth > 0 ? children(window) : QVector<quint32>();
-    return std::any_of(inside.cbegin(), inside.cend(),
-                       [&](quint32 child) { return hasProperty(child, property, depth - 1); });
-}
-
-bool X11Windows::isShown(quint32 window) const
-{
-    const auto cookie = xcb_get_window_attributes(m_connection, window);
-    const auto reply = owned(xcb_get_window_attributes_reply(m_connection, cookie, nullptr));
-    return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
-}
-
-void X11Windows::stack(quint32 window, quint32 sibling, quint32 mode)
-{
-    const quint32 values[] = {sibling, mode};
-    xcb_configure_window(m_connection, window,
-                         XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values);
-    xcb_flush(m_connection);
-}
-
-void X11Windows::lift(WId window, const QVector<WId> &above)
-{
-    if (!m_root)
-        return;
-    const auto own = static_cast<quint32>(window);
-    const QVector<quint32> all = children(m_root);
-    const int at = all.indexOf(own);
-    int ceiling = all.size();
-    for (const WId one : above) {
-        const int found = all.indexOf(frame(static_cast<quint32>(one)));
-        ceiling = found < 0 ? ceiling : qMin(ceiling, found);
-    }
-    if (at < 0)
-        return;
-    if (ceiling < at) {
-        stack(own, all.at(ceiling), XCB_STACK_MODE_BELOW);
-        return;
-    }
-    for (int i = ceiling - 1; i > at; --i) {
-        if (isShown(all.at(i)) && hasProperty(all.at(i), m_state, deepestClient)) {
-            stack(own, all.at(i), XCB_STACK_MODE_ABOVE);
-            return;
-        }
-    }
-}
-
-#else
-
-X11Windows::X11Windows() = default;
-X11Windows::~X11Windows() = default;
-
-bool X11Windows::isAvailable()
-{
-    return false;
-}
-
-bool X11Windows::nativeEventFilter(const QByteArray & /*type*/, void * /*message*/,
-                                   long * /*result*/)
-{
-    return false;
-}
-
-bool X11Windows::isButtonHeld() const
-{
-    return false;
-}
-
-QRect X11Windows::geometry(WId /*window*/) const
-{
-    return {};
-}
-
-bool X11Windows::isBelowPanel(WId /*window*/) const
-{
-    return false;
-}
-
-void X11Windows::place(WId /*window*/, const QRect & /*place*/) { }
-
-void X11Windows::withdraw(WId /*window*/) { }
-
-void X11Windows::map(WId /*window*/) { }
-
-void X11Windows::focus(WId /*window*/) { }
-
-void X11Windows::lift(WId /*window*/, const QVector<WId> & /*above*/) { }
-
-#endif

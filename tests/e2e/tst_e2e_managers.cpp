@@ -317,6 +317,15 @@ void tst_e2e_managers::dialog_liesAboveTheTestWindow()
         desktop().mouse().click(QPoint(1000, 200));
         QVERIFY(covers(place));
         QVERIFY(waitFor(isInFront));
+        const QRect area = dialog().geometry;
+        desktop().mouse().click({area.center().x(), area.bottom() - 30});
+        QVERIFY(waitFor([&] { return dialog().id == 0; }));
+        QVERIFY(waitFor([&] {
+            const WindowId active = desktop().windows().active();
+            return active == control || active == tool().testWindow().id;
+        }));
+        QVERIFY(covers(place));
+        pressAndExpect("Right", Qt::ControlModifier, place.translated(1, 0));
     }
 }
 
