@@ -10,7 +10,7 @@ build_packages=(build-essential cmake ninja-build pkg-config
 font_packages=(fonts-noto-cjk fonts-dejavu-core fonts-liberation)
 virtual_desktop_packages=(xvfb openbox imagemagick x11-utils)
 test_packages=(libx11-dev libxtst-dev libxext-dev libxfixes-dev libxdamage-dev libxrandr-dev libsm-dev libice-dev libbenchmark-dev
-  xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils)
+  xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils qtwayland5 weston)
 manager_packages=(dbus-daemon kwin-x11 mutter xfwm4)
 all_manager_packages=("${manager_packages[@]}" metacity icewm i3-wm awesome fluxbox)
 picture_packages=("${virtual_desktop_packages[@]}" xdotool)
@@ -52,7 +52,7 @@ if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
     echo "setup: there is no apt-get here; please install, if missing: a C++17 compiler," \
       "CMake 3.16 or newer, Ninja, Qt 5.9 or newer of the 5 series (Widgets, Test," \
       "LinguistTools and, for X11, X11Extras; on macOS Homebrew's qt@5, its prefix in CMAKE_PREFIX_PATH)," \
-      "a Chinese font; for the end-to-end tests also Xvfb, dbus-run-session, openbox, kwin_x11, mutter, xfwm4, xrandr, xprop, ImageMagick" \
+      "a Chinese font; for the end-to-end tests also Xvfb, dbus-run-session, openbox, kwin_x11, mutter, xfwm4, weston, xrandr, xprop, ImageMagick" \
       "and the development files of libX11, libXtst, libXext, libXfixes, libXdamage, libXrandr, libSM and libICE." >&2
   fi
   exit 0

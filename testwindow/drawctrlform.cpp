@@ -30,13 +30,10 @@ constexpr QLatin1String hidden = latin1("/setting/testWindowVisible");
 constexpr int defaultSize = 256;
 constexpr int sizeWithoutSettings = 200;
 
-QVector<QRect> screenGeometries()
+// Where no program can place its windows.
+bool isWayland()
 {
-    QVector<QRect> geometries;
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    for (const QScreen *screen : screens)
-        geometries.append(screen->geometry());
-    return geometries;
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 } // namespace
@@ -81,6 +78,7 @@ void DrawCtrlForm::initCtrls()
 {
     getScreenSize();
     ui->pushButtonShow->setEnabled(false);
+    ui->labelWayland->setVisible(isWayland());
     // The desktop widget reports every kind of change in one place, on all of Qt 5.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
@@ -98,14 +96,15 @@ void DrawCtrlForm::getScreenSize()
     desktop = QApplication::desktop();
     QSize sum(0, 0);
     QRegion region;
-    const QVector<QRect> screens = screenGeometries();
-    for (const QRect &screen : screens) {
-        sum += screen.size();
-        region += screen;
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QScreen *screen : screens) {
+        sum += screen->size();
+        region += screen->geometry();
     }
     setRanges(sum);
     setControls(m_placement);
-    if (controlsRectangle() == m_placement && region.intersects(m_placement))
+    m_hasRoom = controlsRectangle() == m_placement && region.intersects(m_placement);
+    if (m_hasRoom)
         m_keeper->setPlace(m_placement);
     m_keeper->followScreens();
     emit signal_screenMaxSizeChanged(sum.width(), sum.height());
@@ -136,6 +135,12 @@ QRect DrawCtrlForm::controlsRectangle() const
             m_pairs[Height].value()};
 }
 
+void DrawCtrlForm::slot_dealScreenChange(int /*screen*/)
+{
+    m_areScreensNew = true;
+    getScreenSize();
+}
+
 void DrawCtrlForm::initWindowPosition()
 {
     if (!settings) {
@@ -158,7 +163,7 @@ void DrawCtrlForm::initWindowPosition()
 void DrawCtrlForm::restore(const QRect &rectangle)
 {
     m_placement = rectangle;
-    m_screens = screenGeometries();
+    m_areScreensNew = false;
     setControls(rectangle);
     m_keeper->setPlace(controlsRectangle());
 }
@@ -177,7 +182,7 @@ QRect DrawCtrlForm::adopt(const QRect &rectangle)
         return QRect(pick(&QRect::x), pick(&QRect::y), pick(&QRect::width), pick(&QRect::height));
     };
     m_placement = changed(m_placement);
-    m_screens = screenGeometries();
+    m_areScreensNew = false;
     m_saveSoon->schedule();
     return changed(before);
 }
@@ -188,10 +193,16 @@ void DrawCtrlForm::place(const QRect &rectangle)
 }
 
 // Somebody else has moved the test window: the operator, by means of the window manager, or that of
-// its own accord because a screen is gone.
+// its own accord because the screens have changed; but then it does so once. Under Wayland nobody
+// knows.
 void DrawCtrlForm::follow(const QRect &rectangle)
 {
-    if (m_screens == screenGeometries())
+    const bool isForScreens = std::exchange(m_areScreensNew, false);
+    if (isForScreens && m_hasRoom) {
+        m_keeper->setPlace(m_placement);
+        return;
+    }
+    if (!isForScreens && !isWayland())
         adopt(rectangle);
     m_keeper->accept(rectangle);
     setControls(rectangle);
@@ -238,6 +249,7 @@ void DrawCtrlForm::updateLanguage()
         CommonHelper::setQLabelText(label, text);
         m_pairs.at(pair).setAccessibleName(text);
     }
+    CommonHelper::setQLabelText(ui->labelWayland, tr("Wayland 下窗口位置由桌面决定"));
     CommonHelper::setQPushButtonText(ui->pushButtonShow, tr("显示"));
     CommonHelper::setQPushButtonText(ui->pushButtonHide, tr("隐藏"));
 }

@@ -3,7 +3,6 @@
 #include "sliderspinboxpair.h"
 
 #include <QRect>
-#include <QVector>
 #include <QWidget>
 
 #include <array>
@@ -40,7 +39,7 @@ signals:
 public slots:
     // Takes the size of the desktop: ranges for the controls, and the signal.
     void getScreenSize();
-    void slot_dealScreenChange(int /*screen*/) { getScreenSize(); }
+    void slot_dealScreenChange(int screen);
     void slot_showPushed();
     void slot_HidePushed();
     void slot_enableShowButton();
@@ -88,5 +87,6 @@ private:
     SaveSoon *m_saveSoon;
     PlaceKeeper *m_keeper;
     QRect m_placement; // asked for by the operator; the controls clip it to the desktop
-    QVector<QRect> m_screens; // as they were then
+    bool m_hasRoom = true; // for that, on the present screens
+    bool m_areScreensNew = false; // they have changed since anybody moved the test window
 };

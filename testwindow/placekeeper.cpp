@@ -107,8 +107,9 @@ void PlaceKeeper::check()
         lift();
     if (!isShown(m_window) || m_isNew || m_isPressed || target().isNull())
         return;
+    // Some window managers maximise what is as large as the screen.
     const bool isInPlace = actual() == target() && m_window->geometry() == target()
-                           && m_window->isFullScreen() == m_isFull;
+                           && m_window->windowState() == state();
     // Some window managers end a full screen whenever another window gets the keyboard.
     const bool mayFollow = m_isSettled && (!m_isFull || m_window->isActiveWindow());
     if (!isInPlace && mayFollow && !m_isFull && !m_window->isFullScreen()) {
@@ -138,10 +139,16 @@ void PlaceKeeper::put()
     const QScopedValueRollback<bool> changing(m_isChanging, true);
     m_window->setWindowState(Qt::WindowNoState);
     m_window->setGeometry(m_place);
-    if (m_isFull)
-        m_window->setWindowState(Qt::WindowFullScreen);
+    keepState();
     if (m_isOut && !target().isNull())
         X11Windows::place(m_window->winId(), target());
+}
+
+// A window manager ends the full screen of a window that is hidden.
+void PlaceKeeper::keepState()
+{
+    const QScopedValueRollback<bool> changing(m_isChanging, true);
+    m_window->setWindowState(state());
 }
 
 // With the open dialogs, to keep them in front.
@@ -230,8 +237,10 @@ void PlaceKeeper::windowEvent(QEvent *event)
     case QEvent::WindowStateChange:
         if (!event->spontaneous())
             followState();
-        else
+        else if (m_window->isVisible())
             look();
+        else
+            keepState();
         break;
     case QEvent::Move:
     case QEvent::Resize:

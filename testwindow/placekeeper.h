@@ -34,6 +34,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    Qt::WindowState state() const { return m_isFull ? Qt::WindowFullScreen : Qt::WindowNoState; }
     QRect target() const;
     QRect actual() const;
     void request();
@@ -42,6 +43,7 @@ private:
     void followManager();
     void insist();
     void put();
+    void keepState();
     void leaveManager();
     void lift();
     void giveKeyboardTo(QWidget *window);

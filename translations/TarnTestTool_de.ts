@@ -140,6 +140,10 @@
         <source>隐藏</source>
         <translation>Ausblenden</translation>
     </message>
+    <message>
+        <source>Wayland 下窗口位置由桌面决定</source>
+        <translation>Unter Wayland bestimmt der Desktop den Ort</translation>
+    </message>
 </context>
 <context>
     <name>GradualChangeCtrlWidget</name>

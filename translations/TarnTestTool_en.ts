@@ -140,6 +140,10 @@
         <source>隐藏</source>
         <translation>Hide</translation>
     </message>
+    <message>
+        <source>Wayland 下窗口位置由桌面决定</source>
+        <translation>On Wayland the desktop chooses the place</translation>
+    </message>
 </context>
 <context>
     <name>GradualChangeCtrlWidget</name>

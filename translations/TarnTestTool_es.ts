@@ -140,6 +140,10 @@
         <source>隐藏</source>
         <translation>Ocultar</translation>
     </message>
+    <message>
+        <source>Wayland 下窗口位置由桌面决定</source>
+        <translation>En Wayland el escritorio elige el lugar</translation>
+    </message>
 </context>
 <context>
     <name>GradualChangeCtrlWidget</name>

@@ -140,6 +140,10 @@
         <source>隐藏</source>
         <translation>Masquer</translation>
     </message>
+    <message>
+        <source>Wayland 下窗口位置由桌面决定</source>
+        <translation>Sous Wayland, le bureau choisit la place</translation>
+    </message>
 </context>
 <context>
     <name>GradualChangeCtrlWidget</name>

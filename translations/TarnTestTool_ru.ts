@@ -140,6 +140,10 @@
         <source>隐藏</source>
         <translation>Скрыть</translation>
     </message>
+    <message>
+        <source>Wayland 下窗口位置由桌面决定</source>
+        <translation>В Wayland место выбирает рабочий стол</translation>
+    </message>
 </context>
 <context>
     <name>GradualChangeCtrlWidget</name>

@@ -140,6 +140,10 @@
         <source>隐藏</source>
         <translation>隐藏</translation>
     </message>
+    <message>
+        <source>Wayland 下窗口位置由桌面决定</source>
+        <translation>Wayland 下窗口位置由桌面决定</translation>
+    </message>
 </context>
 <context>
     <name>GradualChangeCtrlWidget</name>

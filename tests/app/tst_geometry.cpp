@@ -36,6 +36,8 @@ private slots:
     void initTestCase();
 
     void titleBar_standsAboveTheMarkedFrame();
+    void waylandLine_isNotCut_data();
+    void waylandLine_isNotCut();
     void controlsAndTexts_haveTheirRoom_data();
     void controlsAndTexts_haveTheirRoom();
     void faults_areFound_data();
@@ -198,6 +200,33 @@ void TestGeometry::titleBar_standsAboveTheMarkedFrame()
     QVERIFY(frame->property("isFramelessCentralWidget").toBool());
     QCOMPARE(frame->geometry(), QRect(0, 28, 585, 217));
     QCOMPARE(m_rig.window().titleBar()->geometry(), QRect(0, 0, 585, 28));
+}
+
+void TestGeometry::waylandLine_isNotCut_data()
+{
+    QTest::addColumn<QString>("language");
+    const QStringList languages = ShippedTranslation::languages();
+    for (const QString &language : languages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TestGeometry::waylandLine_isNotCut()
+{
+    QFETCH(const QString, language);
+    const ShippedTranslation translation(language);
+    QVERIFY(translation.isInstalled());
+    m_rig.window().updateLanguage();
+    m_rig.tabs()->setCurrentIndex(0);
+    auto *line = m_rig.window().findChild<QLabel *>(QStringLiteral("labelWayland"));
+    QVERIFY(line->isHidden());
+
+    line->show();
+    const QStringList faults = faultsOf(m_rig.window());
+    line->hide();
+
+    QCOMPARE(faults.join(QLatin1Char('\n')), QString());
+    QVERIFY(line->text().contains(QLatin1String("Wayland")));
+    QCOMPARE(line->toolTip(), QString());
 }
 
 void TestGeometry::controlsAndTexts_haveTheirRoom_data()

@@ -20,6 +20,9 @@ private slots:
     void hidingAndShowing_keepThePlace();
     void fullScreen_coversTheScreenAndComesBack();
     void fullScreenOfAWindowBeyondTheEdge_comesBack();
+    void fullScreenEndedByTheManager_isFollowed();
+    void fullScreenEndedWhileHidden_comesBack();
+    void fullScreenHiddenAndShown_comesBack();
     void fullScreen_liesAboveADock();
     void drag_movesAndResizes();
     void dragBeyondTheEdge_isObeyed();
@@ -28,6 +31,7 @@ private slots:
     void dialog_liesAboveTheTestWindow();
     void anotherProgramsWindow_liesBelowTheTestWindow();
     void moveByTheManager_isFollowedByThePanel();
+    void movedWhileMinimised_staysWithTheManager();
     void closingTheControlWindow_endsTheProgram();
 
 protected:
@@ -88,9 +92,10 @@ void tst_e2e_managers::shiftH(bool shown)
 {
     // Hidden, it leaves the keyboard to the control window, once the window manager is through.
     const WindowId control = tool().controlWindow().id;
+    const WindowId window = shown ? control : tool().testWindow().id;
     for (int turn = 0; turn < 3; ++turn)
         QVERIFY(desktop().windows().syncWithWindowManager()
-                && desktop().windows().answersPing(control));
+                && desktop().windows().answersPing(window));
     QVERIFY(!shown || waitFor([&] { return desktop().windows().active() == control; }));
     desktop().keyboard().key("h", Qt::ShiftModifier);
     QVERIFY(waitFor([&] { return tool().testWindow().isMapped == shown; }));
@@ -196,6 +201,40 @@ void tst_e2e_managers::fullScreenOfAWindowBeyondTheEdge_comesBack()
     fullScreenAndBack(BeyondTheLeft);
 }
 
+void tst_e2e_managers::fullScreenEndedByTheManager_isFollowed()
+{
+    QVERIFY(startToolAt(Inside));
+    desktop().mouse().click(Inside.center());
+    toggleFullScreen();
+    QVERIFY(covers(desktop().screen().rect()));
+    desktop().windows().endFullScreen(tool().testWindow().id);
+    QVERIFY(covers(Inside));
+    pressAndExpect("Right", Qt::ControlModifier, Inside.translated(1, 0));
+}
+
+void tst_e2e_managers::fullScreenEndedWhileHidden_comesBack()
+{
+    QVERIFY(startToolAt(Inside));
+    toggleFullScreen();
+    QVERIFY(covers(desktop().screen().rect()));
+    shiftH(false);
+    QVERIFY(tool().focusControlWindow());
+    toggleFullScreen();
+    QVERIFY(covers(Inside));
+}
+
+void tst_e2e_managers::fullScreenHiddenAndShown_comesBack()
+{
+    QVERIFY(startToolAt(Inside));
+    toggleFullScreen();
+    QVERIFY(covers(desktop().screen().rect()));
+    shiftH(false);
+    shiftH(true);
+    QVERIFY(covers(desktop().screen().rect()));
+    toggleFullScreen();
+    QVERIFY(covers(Inside));
+}
+
 void tst_e2e_managers::fullScreen_liesAboveADock()
 {
     const auto dock = desktop().windows().addDock({0, 1040, 1920, 40}, DockColour);
@@ -223,6 +262,7 @@ void tst_e2e_managers::fullScreen_liesAboveADock()
 void tst_e2e_managers::drag_movesAndResizes()
 {
     QVERIFY(startToolAt(Inside));
+    QVERIFY(covers(Inside));
     desktop().mouse().drag(Inside.center(), Inside.center() + QPoint(30, 20));
     const QRect moved = Inside.translated(30, 20);
     QVERIFY(covers(moved));
@@ -234,6 +274,7 @@ void tst_e2e_managers::drag_movesAndResizes()
 void tst_e2e_managers::dragBeyondTheEdge_isObeyed()
 {
     QVERIFY(startToolAt(Inside));
+    QVERIFY(covers(Inside));
     desktop().mouse().drag(Inside.center(), {50, 40});
     const QRect moved = Inside.translated(QPoint(50, 40) - Inside.center());
     QVERIFY(covers(moved));
@@ -317,6 +358,12 @@ void tst_e2e_managers::dialog_liesAboveTheTestWindow()
         desktop().mouse().click(QPoint(1000, 200));
         QVERIFY(covers(place));
         QVERIFY(waitFor(isInFront));
+        auto other = desktop().windows().addWindow(dialog().geometry, DockColour);
+        desktop().windows().activate(other->id());
+        QVERIFY(waitFor([&] { return desktop().windows().active() == other->id(); }));
+        QVERIFY(covers(place));
+        QVERIFY(waitFor(isInFront));
+        other.reset();
         const QRect area = dialog().geometry;
         desktop().mouse().click({area.center().x(), area.bottom() - 30});
         QVERIFY(waitFor([&] { return dialog().id == 0; }));
@@ -360,6 +407,22 @@ void tst_e2e_managers::moveByTheManager_isFollowedByThePanel()
     QVERIFY(isStored(moved));
     pressAndExpect("Right", Qt::ControlModifier, moved.translated(1, 0));
     QVERIFY(isStored(moved.translated(1, 0)));
+}
+
+void tst_e2e_managers::movedWhileMinimised_staysWithTheManager()
+{
+    QVERIFY(startToolAt(Inside));
+    QVERIFY(covers(Inside));
+    desktop().windows().minimise(tool().testWindow().id);
+    QVERIFY(desktop().windows().syncWithWindowManager());
+    QVERIFY(tool().focusControlWindow());
+    for (int press = 0; press < 5; ++press)
+        desktop().keyboard().key("Right", Qt::ControlModifier);
+    QVERIFY(isStored(Inside.translated(5, 0)));
+    QVERIFY(!tool().testWindow().isPopup);
+    desktop().windows().activate(tool().testWindow().id);
+    QVERIFY(covers(Inside.translated(5, 0)));
+    QVERIFY(!tool().testWindow().isPopup);
 }
 
 void tst_e2e_managers::closingTheControlWindow_endsTheProgram()

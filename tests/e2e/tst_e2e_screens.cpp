@@ -24,16 +24,17 @@ private slots:
     void fullScreen_comesBackWithItsScreen();
     void fullScreen_followsItsScreenOutsideTheManagersHands();
     void dragWhileAScreenIsOff_changesThePlaceAlone();
+    void moveWhileAScreenIsOff_isStored();
     void controlWindow_leavesAScreenThatIsGone();
 
 protected:
     std::unique_ptr<VirtualDesktop> createDesktop() const override;
-    QString reasonToSkip() const override;
 
 private:
-    void plugIn(const char *relation);
+    void plugIn(const char *relation, const QSize &size = DummyServer::OutputSize);
     void unplug();
     void handleScreenChange();
+    using EndToEndTest::isStored;
     bool isStored(const char *name, int value);
 
     mutable DummyServer *m_server = nullptr; // owned by the desktop
@@ -60,14 +61,6 @@ QString key(const char *name)
 }
 } // namespace
 
-QString tst_e2e_screens::reasonToSkip() const
-{
-    DummyServer server;
-    if (server.start())
-        return {};
-    return QStringLiteral("No X server with several screens: ") + server.problem();
-}
-
 std::unique_ptr<VirtualDesktop> tst_e2e_screens::createDesktop() const
 {
     auto server = std::make_unique<DummyServer>();
@@ -81,9 +74,9 @@ void tst_e2e_screens::init()
     QCOMPARE(desktop().screen().rect(), Left);
 }
 
-void tst_e2e_screens::plugIn(const char *relation)
+void tst_e2e_screens::plugIn(const char *relation, const QSize &size)
 {
-    QVERIFY2(m_server->plugIn(second(), QLatin1String(relation), first()),
+    QVERIFY2(m_server->plugIn(second(), QLatin1String(relation), first(), size),
              qPrintable(m_server->outputProblem()));
 }
 
@@ -297,6 +290,29 @@ void tst_e2e_screens::fullScreen_followsItsScreenOutsideTheManagersHands()
 
     plugIn("--left-of");
     QVERIFY(testWindowCovers(Left));
+    unplug();
+    handleScreenChange();
+    plugIn("--right-of", {1024, 768});
+    QVERIFY(testWindowCovers({1920, 0, 1024, 768}));
+}
+
+void tst_e2e_screens::moveWhileAScreenIsOff_isStored()
+{
+    plugIn("--right-of");
+    QVERIFY(startToolAt(OnTheRight));
+    QVERIFY(testWindowCovers(OnTheRight));
+    unplug();
+    handleScreenChange();
+    QCOMPARE(stored(), OnTheRight);
+    // The first move to where it is seen again is not the operator's.
+    const WindowId window = tool().testWindow().id;
+    const QRect seen(300, 200, 256, 256);
+    const QRect moved(400, 300, 256, 256);
+    if (!Left.intersects(tool().testWindow().geometry))
+        desktop().windows().place(window, seen);
+    handleScreenChange();
+    desktop().windows().place(window, moved);
+    QVERIFY(isStored(moved));
 }
 
 void tst_e2e_screens::dragWhileAScreenIsOff_changesThePlaceAlone()

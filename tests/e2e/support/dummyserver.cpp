@@ -35,9 +35,9 @@ Section "Screen"
 EndSection
 )";
 
-QString modeName()
+QString modeName(const QSize &size)
 {
-    return QStringLiteral("1920x1080");
+    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
 }
 
 } // namespace
@@ -64,10 +64,11 @@ QStringList DummyServer::arguments() const
             QStringLiteral("-novtswitch"), QStringLiteral("-sharevts")};
 }
 
-bool DummyServer::plugIn(const QString &output, const QString &relation, const QString &other)
+bool DummyServer::plugIn(const QString &output, const QString &relation, const QString &other,
+                         const QSize &size)
 {
-    return xrandr({QStringLiteral("--addmode"), output, modeName()})
-           && xrandr({QStringLiteral("--output"), output, QStringLiteral("--mode"), modeName(),
+    return xrandr({QStringLiteral("--addmode"), output, modeName(size)})
+           && xrandr({QStringLiteral("--output"), output, QStringLiteral("--mode"), modeName(size),
                       relation, other})
            && detectOutputs();
 }

@@ -16,7 +16,8 @@ public:
 
     /// Switches an output on, at a place given as xrandr has it ("--right-of")
     /// relative to another one. False, with outputProblem() set, if that fails.
-    bool plugIn(const QString &output, const QString &relation, const QString &other);
+    bool plugIn(const QString &output, const QString &relation, const QString &other,
+                const QSize &size = OutputSize);
     /// Switches an output off. False, with outputProblem() set, if that fails.
     bool unplug(const QString &output);
     QString outputProblem() const { return m_outputProblem; }

@@ -22,8 +22,6 @@ protected:
 
     /// The desktop that the test runs on; a single screen if not overridden.
     virtual std::unique_ptr<VirtualDesktop> createDesktop() const;
-    /// Why the whole test has to be skipped on this machine; empty if it has not.
-    virtual QString reasonToSkip() const { return {}; }
 
     /// Starts tool(), moves the control window clear of the test window's
     /// default place and gives it the keyboard. False, with the reason logged,

@@ -86,6 +86,17 @@ void WindowTree::close(WindowId window)
     askWindowManager(window, "_NET_CLOSE_WINDOW", CurrentTime, FromPager);
 }
 
+void WindowTree::minimise(WindowId window)
+{
+    askWindowManager(window, "WM_CHANGE_STATE", IconicState, 0);
+}
+
+void WindowTree::endFullScreen(WindowId window)
+{
+    const auto fullScreen = static_cast<long>(m_connection.atom("_NET_WM_STATE_FULLSCREEN"));
+    askWindowManager(window, "_NET_WM_STATE", 0, fullScreen);
+}
+
 void WindowTree::move(WindowId window, const QPoint &position)
 {
     XMoveWindow(m_connection.display(), window, position.x(), position.y());

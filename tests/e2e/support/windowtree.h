@@ -42,6 +42,9 @@ public:
     void activate(WindowId window);
     /// Asks it to close, as the close button of a frame does.
     void close(WindowId window);
+    void minimise(WindowId window);
+    /// Ends its full screen, as a window manager's own shortcut does.
+    void endFullScreen(WindowId window);
     /// Moves its client area to this place in root coordinates.
     void move(WindowId window, const QPoint &position);
     /// Moves and resizes its client area to this place in root coordinates.
