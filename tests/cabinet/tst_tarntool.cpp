@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+#include <utility>
+
 namespace {
 
 // After a press of the layout button.
@@ -108,6 +110,7 @@ void TestTarnTool::construction_leavesOnlyTheLayoutButtonEnabled()
     QVERIFY(!rig.drawer->m_layoutOn);
     QVERIFY(!rig.panel->m_started);
     QVERIFY(!rig.panel->m_userChanged);
+    QCOMPARE(rig.control("boxWidth")->accessibleName(), QStringLiteral("模块宽度"));
 }
 
 void TestTarnTool::layoutButton_unlocksThePanelAndSwitchesTheLayoutOn()
@@ -222,8 +225,11 @@ void TestTarnTool::operatorsChange_showsAndRaisesTheFlag()
     rig.layOut();
     rig.canvas.show();
     QVERIFY(QTest::qWaitForWindowExposed(&rig.canvas));
-    QCoreApplication::processEvents();
-    const int paints = rig.canvas.paintCount();
+    int paints = -1;
+    const auto isQuiet = [&rig, &paints] {
+        return std::exchange(paints, rig.canvas.paintCount()) == rig.canvas.paintCount();
+    };
+    QTRY_VERIFY(isQuiet());
     rig.panel->getDrawer();
     rig.panel->m_userChanged = false;
     if (auto *box = qobject_cast<QSpinBox *>(rig.control(control.constData())))

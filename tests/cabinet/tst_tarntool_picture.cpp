@@ -193,7 +193,9 @@ void TestTarnToolPicture::solidButton_takesThePictureAway()
     rig.click("radioBackground");
     KeptPicture::set({});
     DialogAnswers::file(QString());
+    rig.panel->m_userChanged = false;
     rig.click("radioPicture"); // there is none any more
+    QVERIFY(rig.panel->m_userChanged);
     rig.layOut();
     QCOMPARE(rig.drawer->m_bgPicturePath, QString());
 }

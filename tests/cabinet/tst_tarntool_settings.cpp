@@ -235,13 +235,18 @@ void TestTarnToolSettings::storedColour_countsOnlyWithItsStyle()
     QFETCH(const QString, style);
     QFETCH(const QVariant, color);
     QFETCH(const bool, counts);
+    const DialogAnswers answers;
+    DialogAnswers::color(Qt::magenta);
     const CabinetRig defaults;
-    QVariantMap values;
-    for (const auto &keys : colorKeys) {
-        values[QLatin1String(keys[1])] = style;
-        values[QLatin1String(keys[2])] = color;
+    const CabinetRig rig;
+    rig.layOut();
+    for (const auto &[swatch, styleKey, colorKey] : colorKeys) {
+        rig.click(swatch); // another colour before
+        const QString group = QStringLiteral("/setting/");
+        rig.settings->setValue(group + QLatin1String(styleKey), style);
+        rig.settings->setValue(group + QLatin1String(colorKey), color);
     }
-    const CabinetRig rig(values);
+    rig.panel->initTarnStatus();
     rig.layOut();
     for (int index = 0; index < 4; ++index) {
         const char *swatch = colorKeys[index][0];
