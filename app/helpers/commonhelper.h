@@ -18,8 +18,7 @@ class CommonHelper : public QObject
 public:
     explicit CommonHelper(QObject *parent = nullptr);
 
-    // Emits the signal of the first combination that matches the key press, or
-    // none. Modifiers that a combination does not name are ignored.
+    // Emits the signal of the first combination that matches, if any; other modifiers are ignored.
     void dealKeyPressEvent(QKeyEvent *event) { emitIf(event, nullptr); }
 
     // One tester for each combination: emits the combination's signal and returns
