@@ -20,6 +20,7 @@
 namespace {
 
 constexpr int refreshIntervalMs = 100;
+constexpr int pointerRestMs = 3000; // from when on the pointer is out of the pattern's way
 constexpr QPoint mousePosOffset(20, 10); // up and left of the window's centre
 constexpr int helperInfoMargin = 10; // right of the reminder
 constexpr int helperInfoHeight = 190; // from the reminder's top to the window's bottom
@@ -69,6 +70,7 @@ DrawContainer::DrawContainer(QWidget *parent)
     connect(keyHelper, &CommonHelper::signal_keyShiftFPressed, this,
             &DrawContainer::slot_keyShiftFPressed);
     initRefreshTimer();
+    initPointerRest();
     updateLanguage();
 }
 
@@ -88,6 +90,18 @@ void DrawContainer::initRefreshTimer()
     refreshTimer = new QTimer(this);
     connect(refreshTimer, &QTimer::timeout, this, &DrawContainer::slot_updateContainer);
     refreshTimer->start(refreshIntervalMs);
+}
+
+// A pointer at rest does not lie on the pattern, unless it holds the window.
+void DrawContainer::initPointerRest()
+{
+    m_pointerRest = new QTimer(this);
+    m_pointerRest->setSingleShot(true);
+    m_pointerRest->setInterval(pointerRestMs);
+    connect(m_pointerRest, &QTimer::timeout, this, [this] {
+        if (!m_dragging)
+            setCursor(Qt::BlankCursor);
+    });
 }
 
 void DrawContainer::setDrawer(DrawerBase *drawer, bool active)
@@ -257,6 +271,11 @@ void DrawContainer::findWidgetEdge(const QPoint &pointer)
     setCursor(WindowEdge::cursor(edge));
 }
 
+void DrawContainer::enterEvent(QEvent * /*event*/)
+{
+    m_pointerRest->start();
+}
+
 void DrawContainer::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
@@ -268,6 +287,7 @@ void DrawContainer::mousePressEvent(QMouseEvent *event)
 
 void DrawContainer::mouseMoveEvent(QMouseEvent *event)
 {
+    m_pointerRest->start();
     const QPoint pointer = globalPosition(*event);
     if (!(event->buttons() & Qt::LeftButton)) {
         findWidgetEdge(pointer);
@@ -320,6 +340,7 @@ void DrawContainer::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
         m_dragging = false;
+    m_pointerRest->start();
     if (edge != WindowEdge::None)
         findWidgetEdge(globalPosition(*event));
 }

@@ -71,6 +71,7 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void enterEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
@@ -81,6 +82,7 @@ protected:
 private:
     void initContextMenu();
     void initRefreshTimer();
+    void initPointerRest();
     DrawerBase *drawerToShow() const;
     void paintBackground();
     void drawMousePos();
@@ -107,5 +109,6 @@ private:
     int colourIndex = 0; // 1 to 7, 0 for none yet
     QString colourName;
     QString greyText;
+    QTimer *m_pointerRest = nullptr; // runs from the pointer's last move
     bool m_dragging = false; // from a press to its release or to a double click
 };
