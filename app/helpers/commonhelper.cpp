@@ -50,6 +50,37 @@ constexpr Combination combinations[] = {
     {Qt::Key_H, Qt::ShiftModifier, &CommonHelper::signal_keyShiftHPressed},
 };
 
+// Where F and H are on a keyboard, whatever its layout calls them: scan codes, on a Mac virtual
+// key codes.
+#if defined(Q_OS_MACOS)
+constexpr quint32 positionOfF = 3;
+constexpr quint32 positionOfH = 4;
+#else
+#if defined(Q_OS_WIN)
+constexpr quint32 firstScanCode = 0;
+#else
+constexpr quint32 firstScanCode = 8; // X's, and Wayland's as Qt has them, begin there
+#endif
+constexpr quint32 positionOfF = firstScanCode + 33;
+constexpr quint32 positionOfH = firstScanCode + 35;
+#endif
+
+// The event's key. A layout without Latin letters has something else where F and H are; every
+// Latin one, whatever its order, has a letter there.
+int latinKey(const QKeyEvent &event)
+{
+#if defined(Q_OS_MACOS)
+    const quint32 position = event.nativeVirtualKey();
+#else
+    const quint32 position = event.nativeScanCode();
+#endif
+    if (QChar::script(static_cast<uint>(event.key())) == QChar::Script_Latin)
+        return event.key();
+    if (position == positionOfF)
+        return Qt::Key_F;
+    return position == positionOfH ? static_cast<int>(Qt::Key_H) : event.key();
+}
+
 template<typename Widget>
 void fitText(Widget *widget, const QString &text, int available)
 {
@@ -71,7 +102,7 @@ bool CommonHelper::emitIf(QKeyEvent *event, Signal only)
 {
     for (const auto &[key, modifiers, signal] : combinations) {
         const bool isTried = !only || only == signal;
-        if (isTried && event->key() == key && (event->modifiers() & modifiers) == modifiers) {
+        if (isTried && latinKey(*event) == key && (event->modifiers() & modifiers) == modifiers) {
             Q_EMIT(this->*signal)();
             return true;
         }
