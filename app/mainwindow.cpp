@@ -4,6 +4,7 @@
 
 #include "commonhelper.h"
 #include "drawctrlform.h"
+#include "displaysign.h"
 #include "drawerbase.h"
 #include "form.h"
 #include "gradualchangectrlwidget.h"
@@ -11,12 +12,14 @@
 #include "pagecycle.h"
 #include "scraboutwidget.h"
 #include "screenarea.h"
+#include "screenwakelock.h"
 #include "scrgridctrldialog.h"
 #include "scrhelperctrlwidget.h"
 #include "scrpurityctrldialog.h"
 #include "settingsfile.h"
 #include "settingsrules.h"
 #include "tarntool.h"
+#include "titlebar.h"
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -89,6 +92,8 @@ void MainWindow::initCtrls()
     m_testWindow.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setWindowIcon(QIcon(QStringLiteral(":/Resource/Image/logo/TarnTestTool.ico")));
     setWindowTitle(tr("显示屏测试工具-Tarn"));
+    new ScreenWakeLock(&m_testWindow);
+    titleBar()->addSign(new DisplaySign(&m_testWindow, this));
     setTabs(); // the placement panel shows the test window, unless it was left hidden
 }
 

@@ -6,12 +6,13 @@
 set -euo pipefail
 
 build_packages=(build-essential cmake ninja-build pkg-config
-  qtbase5-dev libqt5x11extras5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n libxcb1-dev)
+  qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
+  libqt5x11extras5-dev libxcb1-dev libxcb-randr0-dev libxcb-screensaver0-dev libwayland-dev)
 font_packages=(fonts-noto-cjk fonts-dejavu-core fonts-liberation)
 virtual_desktop_packages=(xvfb openbox imagemagick x11-utils)
-test_packages=(libx11-dev libxtst-dev libxext-dev libxfixes-dev libxdamage-dev libxrandr-dev libsm-dev libice-dev libbenchmark-dev
+test_packages=(dbus-daemon libx11-dev libxtst-dev libxext-dev libxfixes-dev libxdamage-dev libxrandr-dev libxss-dev libsm-dev libice-dev libbenchmark-dev
   xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils qtwayland5 weston)
-manager_packages=(dbus-daemon kwin-x11 mutter xfwm4)
+manager_packages=(kwin-x11 mutter xfwm4)
 all_manager_packages=("${manager_packages[@]}" metacity icewm i3-wm awesome fluxbox)
 picture_packages=("${virtual_desktop_packages[@]}" xdotool)
 check_packages=(git clang-format clang-tidy clazy shellcheck xdotool)
@@ -51,9 +52,10 @@ if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
   if [ ! -f build/build.ninja ]; then
     echo "setup: there is no apt-get here; please install, if missing: a C++17 compiler," \
       "CMake 3.16 or newer, Ninja, Qt 5.9 or newer of the 5 series (Widgets, Test," \
-      "LinguistTools and, for X11, X11Extras; on macOS Homebrew's qt@5, its prefix in CMAKE_PREFIX_PATH)," \
-      "a Chinese font; for the end-to-end tests also Xvfb, dbus-run-session, openbox, kwin_x11, mutter, xfwm4, weston, xrandr, xprop, ImageMagick" \
-      "and the development files of libX11, libXtst, libXext, libXfixes, libXdamage, libXrandr, libSM and libICE." >&2
+      "LinguistTools and, for X11, DBus and X11Extras; on macOS Homebrew's qt@5, its prefix in CMAKE_PREFIX_PATH)," \
+      "on Linux libxcb with its randr and screensaver extensions and libwayland," \
+      "a Chinese font; for the end-to-end tests also Xvfb, dbus-run-session, openbox, kwin_x11, mutter, xfwm4, weston, xrandr, setxkbmap, xprop, ImageMagick" \
+      "and the development files of libX11, libXtst, libXext, libXfixes, libXdamage, libXrandr, libXss, libSM and libICE." >&2
   fi
   exit 0
 fi

@@ -80,6 +80,25 @@
     </message>
 </context>
 <context>
+    <name>DisplaySign</name>
+    <message>
+        <source>屏幕的伽马曲线被更改（夜间模式或色彩校准）</source>
+        <translation>Die Gammakurve des Bildschirms ist verändert (Nachtlicht oder Kalibrierung)</translation>
+    </message>
+    <message>
+        <source>桌面缩放了画面，图案像素与屏幕像素不是一一对应</source>
+        <translation>Der Desktop skaliert das Bild: Musterpixel sind keine Bildschirmpixel</translation>
+    </message>
+    <message>
+        <source>屏幕的每个颜色通道不足8位</source>
+        <translation>Der Bildschirm hat weniger als 8 Bit je Farbkanal</translation>
+    </message>
+    <message>
+        <source>测试窗口有一部分不在任何屏幕上</source>
+        <translation>Ein Teil des Testfensters liegt auf keinem Bildschirm</translation>
+    </message>
+</context>
+<context>
     <name>DrawContainer</name>
     <message>
         <source>[Fn+←]:显示/隐藏窗口右下角处提示

@@ -80,6 +80,25 @@
     </message>
 </context>
 <context>
+    <name>DisplaySign</name>
+    <message>
+        <source>屏幕的伽马曲线被更改（夜间模式或色彩校准）</source>
+        <translation>The screen's gamma curve is altered (night light or calibration)</translation>
+    </message>
+    <message>
+        <source>桌面缩放了画面，图案像素与屏幕像素不是一一对应</source>
+        <translation>The desktop scales the picture: pattern pixels are not screen pixels</translation>
+    </message>
+    <message>
+        <source>屏幕的每个颜色通道不足8位</source>
+        <translation>The screen has fewer than 8 bits per colour channel</translation>
+    </message>
+    <message>
+        <source>测试窗口有一部分不在任何屏幕上</source>
+        <translation>A part of the test window lies on no screen</translation>
+    </message>
+</context>
+<context>
     <name>DrawContainer</name>
     <message>
         <source>[Fn+←]:显示/隐藏窗口右下角处提示

@@ -80,6 +80,25 @@
     </message>
 </context>
 <context>
+    <name>DisplaySign</name>
+    <message>
+        <source>屏幕的伽马曲线被更改（夜间模式或色彩校准）</source>
+        <translation>La curva gamma de la pantalla está alterada (luz nocturna o calibración)</translation>
+    </message>
+    <message>
+        <source>桌面缩放了画面，图案像素与屏幕像素不是一一对应</source>
+        <translation>El escritorio escala la imagen: los píxeles del patrón no son los de la pantalla</translation>
+    </message>
+    <message>
+        <source>屏幕的每个颜色通道不足8位</source>
+        <translation>La pantalla tiene menos de 8 bits por canal de color</translation>
+    </message>
+    <message>
+        <source>测试窗口有一部分不在任何屏幕上</source>
+        <translation>Una parte de la ventana de prueba no está en ninguna pantalla</translation>
+    </message>
+</context>
+<context>
     <name>DrawContainer</name>
     <message>
         <source>[Fn+←]:显示/隐藏窗口右下角处提示

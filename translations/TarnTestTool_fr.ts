@@ -80,6 +80,25 @@
     </message>
 </context>
 <context>
+    <name>DisplaySign</name>
+    <message>
+        <source>屏幕的伽马曲线被更改（夜间模式或色彩校准）</source>
+        <translation>La courbe gamma de l’écran est modifiée (mode nuit ou calibrage)</translation>
+    </message>
+    <message>
+        <source>桌面缩放了画面，图案像素与屏幕像素不是一一对应</source>
+        <translation>Le bureau met l’image à l’échelle : les pixels de la mire ne sont pas ceux de l’écran</translation>
+    </message>
+    <message>
+        <source>屏幕的每个颜色通道不足8位</source>
+        <translation>L’écran a moins de 8 bits par canal de couleur</translation>
+    </message>
+    <message>
+        <source>测试窗口有一部分不在任何屏幕上</source>
+        <translation>Une partie de la fenêtre de test n’est sur aucun écran</translation>
+    </message>
+</context>
+<context>
     <name>DrawContainer</name>
     <message>
         <source>[Fn+←]:显示/隐藏窗口右下角处提示

@@ -80,6 +80,25 @@
     </message>
 </context>
 <context>
+    <name>DisplaySign</name>
+    <message>
+        <source>屏幕的伽马曲线被更改（夜间模式或色彩校准）</source>
+        <translation>Гамма-кривая экрана изменена (ночной режим или калибровка)</translation>
+    </message>
+    <message>
+        <source>桌面缩放了画面，图案像素与屏幕像素不是一一对应</source>
+        <translation>Рабочий стол масштабирует изображение: пиксели шаблона не совпадают с пикселями экрана</translation>
+    </message>
+    <message>
+        <source>屏幕的每个颜色通道不足8位</source>
+        <translation>У экрана меньше 8 бит на цветовой канал</translation>
+    </message>
+    <message>
+        <source>测试窗口有一部分不在任何屏幕上</source>
+        <translation>Часть тестового окна не попадает ни на один экран</translation>
+    </message>
+</context>
+<context>
     <name>DrawContainer</name>
     <message>
         <source>[Fn+←]:显示/隐藏窗口右下角处提示

@@ -118,6 +118,12 @@ void TitleBar::setTitleButtonVisible(const int &id, bool visible)
         m_logoVisible = visible;
 }
 
+void TitleBar::addSign(QWidget *sign)
+{
+    auto *row = static_cast<QHBoxLayout *>(layout());
+    row->insertWidget(row->indexOf(m_titleLabel) + 1, sign);
+}
+
 bool TitleBar::event(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)

@@ -35,6 +35,9 @@ public:
     // The logo and the buttons that minimise and close show by themselves where they are of use.
     void setTitleButtonVisible(const int &id, bool visible);
 
+    // Puts the widget between the title and the buttons.
+    void addSign(QWidget *sign);
+
 protected:
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -1,0 +1,116 @@
+#include "desktopinhibition.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QFile>
+#include <QVariantMap>
+
+namespace {
+
+constexpr uint portalIdle = 8; // the portal's flag against the session becoming idle
+
+// libdbus would start a bus of its own where there is none.
+bool hasSessionBus()
+{
+    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")
+           || QFile::exists(QFile::decodeName(qgetenv("XDG_RUNTIME_DIR")) + QStringLiteral("/bus"));
+}
+
+QString reason()
+{
+    return QStringLiteral("A test pattern is shown");
+}
+
+QDBusMessage screenSaver(const QString &method)
+{
+    const QString name = QStringLiteral("org.freedesktop.ScreenSaver");
+    return QDBusMessage::createMethodCall(name, QStringLiteral("/org/freedesktop/ScreenSaver"),
+                                          name, method);
+}
+
+QDBusMessage portal(const QString &path, const QString &interface, const QString &method)
+{
+    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.portal.Desktop"), path,
+                                          QStringLiteral("org.freedesktop.portal.") + interface,
+                                          method);
+}
+
+} // namespace
+
+DesktopInhibition::~DesktopInhibition()
+{
+    if (m_release.type() == QDBusMessage::MethodCallMessage)
+        QDBusConnection::sessionBus().send(m_release);
+}
+
+void DesktopInhibition::setHeld(bool held)
+{
+    m_held = held && hasSessionBus();
+    settle();
+}
+
+// While a service has not answered nothing is asked or given back.
+void DesktopInhibition::settle()
+{
+    const bool granted = m_release.type() == QDBusMessage::MethodCallMessage;
+    if (m_asking || m_held == granted)
+        return;
+    if (m_held) {
+        m_asking = true;
+        askScreenSaver();
+    } else {
+        QDBusConnection::sessionBus().send(m_release);
+        m_release = {};
+    }
+}
+
+void DesktopInhibition::askScreenSaver()
+{
+    QDBusMessage request = screenSaver(QStringLiteral("Inhibit"));
+    request << QCoreApplication::applicationName() << reason();
+    call(request, [this](const QDBusMessage &reply) {
+        if (reply.type() != QDBusMessage::ReplyMessage) {
+            askPortal();
+            return;
+        }
+        QDBusMessage release = screenSaver(QStringLiteral("UnInhibit"));
+        release << reply.arguments().value(0);
+        answered(release);
+    });
+}
+
+void DesktopInhibition::askPortal()
+{
+    QDBusMessage request = portal(QStringLiteral("/org/freedesktop/portal/desktop"),
+                                  QStringLiteral("Inhibit"), QStringLiteral("Inhibit"));
+    request << QString() << portalIdle << QVariantMap{{QStringLiteral("reason"), reason()}};
+    call(request, [this](const QDBusMessage &reply) {
+        if (reply.type() != QDBusMessage::ReplyMessage) {
+            m_asking = false;
+            return;
+        }
+        const auto handle = reply.arguments().value(0).value<QDBusObjectPath>();
+        answered(portal(handle.path(), QStringLiteral("Request"), QStringLiteral("Close")));
+    });
+}
+
+template<typename Answer>
+void DesktopInhibition::call(const QDBusMessage &request, Answer answer)
+{
+    auto *watcher =
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(request), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, answer] {
+        watcher->deleteLater();
+        answer(watcher->reply());
+    });
+}
+
+// The owner may have given up in the meantime.
+void DesktopInhibition::answered(const QDBusMessage &release)
+{
+    m_asking = false;
+    m_release = release;
+    settle();
+}

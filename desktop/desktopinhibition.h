@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QDBusMessage>
+#include <QObject>
+
+// Asks the desktop over the session bus not to become idle: its screen saver service, or the
+// portal where there is none. The bus drops what a program asked for when the program is gone.
+class DesktopInhibition : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+    // Gives back what is held.
+    ~DesktopInhibition() override;
+
+    // Without a session bus, or where neither service answers, nothing happens.
+    void setHeld(bool held);
+
+private:
+    void settle();
+    void askScreenSaver();
+    void askPortal();
+    template<typename Answer>
+    void call(const QDBusMessage &request, Answer answer);
+    void answered(const QDBusMessage &release);
+
+    bool m_held = false; // as asked for by the owner
+    bool m_asking = false; // a service has not answered yet
+    QDBusMessage m_release; // gives back what the desktop granted; no method call while it did not
+};
