@@ -2,6 +2,7 @@
 
 #include "ui_mainwindow.h"
 
+#include "accessiblebutton.h"
 #include "commonhelper.h"
 #include "drawctrlform.h"
 #include "displaysign.h"
@@ -25,7 +26,9 @@
 #include <QIcon>
 #include <QScrollArea>
 #include <QSettings>
+#include <QTabBar>
 #include <QTimer>
+#include <QToolButton>
 
 using Gradient = GradualChangeCtrlWidget;
 using Grid = ScrGridCtrlDialog;
@@ -87,6 +90,7 @@ MainWindow::~MainWindow()
 
 void MainWindow::initCtrls()
 {
+    AccessibleButton::install(); // before any panel is there
     setStyleSheet(CommonHelper::setStyle(QStringLiteral(":/qss/global_style.css")));
     m_testWindow.setKeyHelper(&m_keyHelper);
     m_testWindow.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
@@ -115,6 +119,10 @@ void MainWindow::setTabs()
     m_pageCycle =
         std::make_unique<PageCycle>(ui->tabWidget, m_purityPanel, m_gradientPanel, m_gridPanel);
     (new GridDrawer(this))->setParent(this); // Specified: a spare one, used by nothing
+    // Qt's names for the scroll buttons, which are never seen, would be read out in English.
+    const auto scrollButtons = ui->tabWidget->tabBar()->findChildren<QToolButton *>();
+    for (QToolButton *button : scrollButtons)
+        button->setAccessibleName({});
 }
 
 void MainWindow::addTab(QWidget *panel, DrawerBase *drawer)

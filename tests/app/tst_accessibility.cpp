@@ -5,6 +5,7 @@
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QLabel>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -17,6 +18,7 @@ private slots:
     void initTestCase();
     void everyControlWithoutAText_hasAnAccessibleName();
     void titleBarButtons_haveAccessibleNames();
+    void scrollButtonsOfTheTabs_haveNoNames();
     void focusOrder_followsTheEye_data();
     void focusOrder_followsTheEye();
 
@@ -72,6 +74,14 @@ void TestAccessibility::titleBarButtons_haveAccessibleNames()
     const UX::Widgets::TitleBar *bar = m_rig.window().titleBar();
     for (const int id : {UX::Widgets::TitleBar::MinButton, UX::Widgets::TitleBar::CloseButton})
         QVERIFY(!bar->titleButton(id)->accessibleName().isEmpty());
+}
+
+void TestAccessibility::scrollButtonsOfTheTabs_haveNoNames()
+{
+    const auto buttons = m_rig.tabs()->tabBar()->findChildren<QAbstractButton *>();
+    QCOMPARE(buttons.size(), 2);
+    for (const QAbstractButton *button : buttons)
+        QCOMPARE(button->accessibleName(), QString());
 }
 
 // The widgets of the panel that take the focus by the Tab key, in that order.
