@@ -1,5 +1,7 @@
 #include "displayenvironment.h"
 
+#include "desktopscale.h"
+
 #include <QCoreApplication>
 #include <QtGlobal>
 
@@ -25,6 +27,7 @@ bool isWaylandSession()
 
 void prepare()
 {
+    DesktopScale::request(qEnvironmentVariable("QT_SCALE_FACTOR"));
     for (const char *variable : scalingVariables)
         qunsetenv(variable);
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);

@@ -5,6 +5,7 @@
 #include "accessiblebutton.h"
 #include "commonhelper.h"
 #include "drawctrlform.h"
+#include "desktopscale.h"
 #include "displaysign.h"
 #include "drawerbase.h"
 #include "form.h"
@@ -99,6 +100,7 @@ void MainWindow::initCtrls()
     new ScreenWakeLock(&m_testWindow);
     titleBar()->addSign(new DisplaySign(&m_testWindow, this));
     setTabs(); // the placement panel shows the test window, unless it was left hidden
+    DesktopScale::apply(this);
 }
 
 void MainWindow::setTabs()
@@ -293,7 +295,7 @@ void MainWindow::setInitDrawWindowInfo()
     QColor color = stored.isValid() ? stored : QColor(Qt::red);
     emit signal_colorChanged(color);
     color.setAlpha(qBound(0, grey.toInt(), 255)); // painted over nothing, so it dims
-    m_testWindow.setStyleSheet(testWindowStyle(color));
+    m_testWindow.setStyleSheet(DesktopScale::styleSheet(testWindowStyle(color)));
 
     // Only this once the grid counts as the tab before, which resumes its run.
     currentTabIndex = m_settings->value(currentTabKey).toInt();

@@ -58,6 +58,7 @@ AdvancedSetup::AdvancedSetup(QSettings *settings, ScrGrid *drawer, QWidget *pare
     setCancelButtonVisible(false);
     m_okButton->setAutoDefault(false);
     initLayout();
+    scaleToDesktop();
     dataInit();
     ControlInit();
     updateLanguage();

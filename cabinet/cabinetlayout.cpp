@@ -188,6 +188,9 @@ QFont CabinetLayout::numberFont(const QPainter &painter) const
     QFont numberFont = painter.font();
     if (m_fontSize > 0)
         numberFont.setPointSize(qMin(m_fontSize, largestFont));
+    // As many pixels as at 96 dots per inch, however dense the desktop claims to be.
+    if (numberFont.pointSizeF() > 0)
+        numberFont.setPointSizeF(numberFont.pointSizeF() * 96 / painter.device()->logicalDpiY());
     if (m_fontShape >= 0 && m_fontShape <= 2) {
         numberFont.setWeight(m_fontShape == 1 ? QFont::Bold : QFont::Normal);
         numberFont.setStyle(m_fontShape == 2 ? QFont::StyleItalic : QFont::StyleNormal);

@@ -61,6 +61,7 @@ MixSetting::MixSetting(GridDrawer *drawer_, QSettings *settings_, QWidget *paren
     setOKButtonVisible(false);
     setCancelButtonVisible(false);
     initLayout();
+    scaleToDesktop();
     initSelected();
     updateLanguage();
 }

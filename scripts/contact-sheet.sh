@@ -4,7 +4,8 @@
 # Xvfb, openbox, xdotool and ImageMagick.
 #
 # Usage: scripts/contact-sheet.sh [SHEET]   after ./run.sh or ./test.sh has built the program;
-#   the sheet is build/contact-sheet.png if no other file is named
+#   the sheet is build/contact-sheet.png if no other file is named; QT_SCALE_FACTOR says how large
+#   the controls are
 set -euo pipefail
 sheet=$(realpath -m "${1:-$(dirname "$0")/../build/contact-sheet.png}")
 cd "$(dirname "$0")/.."
@@ -17,7 +18,11 @@ languages=(z e f d s r)
 tabs=7
 dialog_kinds=3
 
-# The control window's place on the desktop, and what lies where in it.
+# scaled LENGTH: what a length comes to on a desktop that scales, rounded down.
+percent=$(awk "BEGIN { print int(${QT_SCALE_FACTOR:-1} * 100) }")
+scaled() { echo $(($1 * percent / 100)); }
+
+# The control window's place on the desktop, and what lies where in it at a scale of 1.
 control_x=40 control_y=40
 tab_width=83 tab_y=40 panel_y=53
 
@@ -25,12 +30,12 @@ pictures=()
 
 # click X Y: in the control window.
 click() {
-  xdotool mousemove $((control_x + $1)) $((control_y + $2)) click 1
+  xdotool mousemove $((control_x + $(scaled "$1"))) $((control_y + $(scaled "$2"))) click 1
 }
 
 # picture NAME [WINDOW]: a window, the control window if none is named, without the pointer's traces.
 picture() {
-  xdotool mousemove 1270 790
+  xdotool mousemove "$(scaled 1270)" "$(scaled 790)"
   sleep 0.6
   import -silent -window "${2:-$control}" "$scratch/$1.png"
   pictures+=("$scratch/$1.png")
@@ -56,7 +61,7 @@ layout_dialog() {
   advanced=$(new_window)
   picture "$1-advanced" "$advanced"
   place_of "$advanced"
-  xdotool mousemove $((x + 180)) $((y + 193)) click 1
+  xdotool mousemove $((x + $(scaled 180))) $((y + $(scaled 193))) click 1
 }
 
 # grid_dialogs LANGUAGE: the mix dialog, and its warning that nothing is chosen.
@@ -68,16 +73,16 @@ grid_dialogs() {
   picture "$1-mix" "$mix"
   place_of "$mix"
   known_windows
-  xdotool mousemove $((x + 225)) $((y + 320)) click 1
-  xdotool mousemove $((x + 180)) $((y + 392)) click 1
+  xdotool mousemove $((x + $(scaled 225))) $((y + $(scaled 320))) click 1
+  xdotool mousemove $((x + $(scaled 180))) $((y + $(scaled 392))) click 1
   warning=$(new_window)
   picture "$1-warning" "$warning"
 }
 
-start_desktop 1280x800
+start_desktop "$(scaled 1280)x$(scaled 800)"
 for language in "${languages[@]}"; do
   start_tool "$language" "$control_x" "$control_y"
-  xdotool windowmove --sync "$test_window" 800 40
+  xdotool windowmove --sync "$test_window" "$(scaled 800)" 40
   for ((tab = 0; tab < tabs; ++tab)); do
     click $((tab_width / 2 + tab * tab_width)) $tab_y
     picture "$language-$tab"

@@ -28,13 +28,24 @@ disabled_face='#34363c'
 disabled_outline='#585b62'
 disabled_mark='#6f7279'
 
-# draw SOURCE OUTPUT SIZE [CSS]: SOURCE.svg as a square or "WxH" picture of SIZE
-# pixels, its default colours replaced by CSS on the classes in the source.
+# draw SOURCE OUTPUT SIZE [CSS]: SOURCE.svg as a "WxH" picture of SIZE pixels, its default
+# colours replaced by CSS on the classes in the source; and the same four times as large, for
+# desktops that scale, in the folder beside.
 draw()
 {
-    printf '%s\n' "${4:-}" >"$work/colours.css"
+    draw_one "$1" "$2" "${3%x*}" "${3#*x}" "${4:-}"
+    case $2 in
+        *2x.png) ;;
+        *) draw_one "$1" "${images}4x${2#"$images"}" $((${3%x*} * 4)) $((${3#*x} * 4)) "${4:-}" ;;
+    esac
+}
+
+# draw_one SOURCE OUTPUT WIDTH HEIGHT CSS
+draw_one()
+{
+    printf '%s\n' "$5" >"$work/colours.css"
     mkdir -p "$(dirname "$2")"
-    rsvg-convert --stylesheet="$work/colours.css" --width="${3%x*}" --height="${3#*x}" \
+    rsvg-convert --stylesheet="$work/colours.css" --width="$3" --height="$4" \
         --output="$2" "$sources/$1.svg"
     optipng -quiet -o5 -strip all "$2"
 }

@@ -1,5 +1,6 @@
 #include "framelessdialog.h"
 
+#include "desktopscale.h"
 #include "screenarea.h"
 #include "titlebar.h"
 
@@ -128,8 +129,16 @@ void FramelessDialog::setVisible(bool visible)
     QDialog::setVisible(visible);
 }
 
+void FramelessDialog::scaleToDesktop()
+{
+    if (!m_scaled)
+        DesktopScale::apply(this);
+    m_scaled = true;
+}
+
 void FramelessDialog::prepareToShow()
 {
+    scaleToDesktop();
     const bool isParentOnTop = parentWidget() && isStaysOnTop(parentWidget()->window());
     m_windowBelow = isParentOnTop ? nullptr : findWindowOnTop();
     // A change of the flags hides a window that is already shown.

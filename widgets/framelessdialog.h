@@ -50,6 +50,9 @@ protected:
     QPushButton *m_okButton = nullptr;
     QPushButton *m_cancelButton = nullptr;
 
+    // Brings what is built to the desktop's scale, the first time that it is called; showing does.
+    void scaleToDesktop();
+
 private:
     void buildFrame();
     QWidget *createButtonRow();
@@ -64,6 +67,7 @@ private:
     QWidget *m_buttonRow = nullptr;
     QPointer<QWidget> m_windowBelow; // always on top, and yet below this dialog
     QPointer<QWindow> m_liftedOwner; // on top for the time that this dialog is open
+    bool m_scaled = false;
 };
 
 } // namespace UX::Widgets

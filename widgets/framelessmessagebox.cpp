@@ -77,6 +77,8 @@ QPushButton *FramelessMessageBox::button(QMessageBox::StandardButton which) cons
 // A size that fits a short text must not cut off its longer translation.
 void FramelessMessageBox::setVisible(bool visible)
 {
+    if (visible)
+        scaleToDesktop();
     if (visible && !isVisible() && testAttribute(Qt::WA_Resized)) {
         ensurePolished();
         resize(width(), qMax(height(), heightForWidth(width())));

@@ -1,5 +1,6 @@
 #include "commonhelper.h"
 
+#include "desktopscale.h"
 #include "testcolor.h"
 #include "textwidth.h"
 
@@ -9,11 +10,15 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QtMath>
 
 namespace {
 
 // The room that the indicator of a check box or radio button takes, in pixels.
-constexpr int indicatorWidth = 20;
+int indicatorWidth()
+{
+    return qFloor(20 * DesktopScale::factor());
+}
 
 using KeySignal = void (CommonHelper::*)();
 
@@ -115,7 +120,7 @@ QString CommonHelper::setStyle(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return QLatin1String("");
-    return QString::fromUtf8(file.readAll());
+    return DesktopScale::styleSheet(QString::fromUtf8(file.readAll()));
 }
 
 int CommonHelper::getColorIndex(const QColor &color)
@@ -141,10 +146,10 @@ void CommonHelper::setQPushButtonText(QPushButton *button, const QString &text)
 
 void CommonHelper::setQCheckBoxText(QCheckBox *checkBox, const QString &text)
 {
-    fitText(checkBox, text, checkBox->width() - indicatorWidth);
+    fitText(checkBox, text, checkBox->width() - indicatorWidth());
 }
 
 void CommonHelper::setQRadioButtonText(QRadioButton *radioButton, const QString &text)
 {
-    fitText(radioButton, text, radioButton->width() - indicatorWidth);
+    fitText(radioButton, text, radioButton->width() - indicatorWidth());
 }

@@ -1,4 +1,5 @@
 #include "advancedsetup.h"
+#include "desktopscale.h"
 #include "drawcontainer.h"
 #include "framelessmessagebox.h"
 #include "griddrawer.h"
@@ -19,6 +20,7 @@
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QTest>
+#include <QtMath>
 
 #include <functional>
 
@@ -90,7 +92,7 @@ int textRoom(const QWidget *widget)
     const bool hasIndicator =
         qobject_cast<const QCheckBox *>(widget) || qobject_cast<const QRadioButton *>(widget);
     if (hasIndicator && !widget->inherits("SwatchButton"))
-        return widget->width() - 20;
+        return widget->width() - qFloor(20 * DesktopScale::factor());
     if (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QGroupBox *>(widget))
         return widget->width();
     return -1;
@@ -190,6 +192,7 @@ QStringList TestGeometry::faultsOfMixSetting(bool warning)
 
 void TestGeometry::initTestCase()
 {
+    DesktopScale::request(qEnvironmentVariable("TARN_TEST_SCALE"));
     m_rig.start();
 }
 
@@ -198,8 +201,11 @@ void TestGeometry::titleBar_standsAboveTheMarkedFrame()
     const auto *frame = qobject_cast<QFrame *>(m_rig.window().centralWidget());
     QVERIFY(frame);
     QVERIFY(frame->property("isFramelessCentralWidget").toBool());
-    QCOMPARE(frame->geometry(), QRect(0, 28, 585, 217));
-    QCOMPARE(m_rig.window().titleBar()->geometry(), QRect(0, 0, 585, 28));
+    const qreal factor = DesktopScale::factor();
+    const QSize window(qFloor(585 * factor), qFloor(245 * factor));
+    const int barHeight = qFloor(28 * factor);
+    QCOMPARE(frame->geometry(), QRect(0, barHeight, window.width(), window.height() - barHeight));
+    QCOMPARE(m_rig.window().titleBar()->geometry(), QRect(0, 0, window.width(), barHeight));
 }
 
 void TestGeometry::waylandLine_isNotCut_data()
