@@ -4,9 +4,9 @@
 namespace DisplayEnvironment {
 
 // One pattern pixel is one screen pixel: switches Qt's scaling off, whatever the
-// desktop or the environment asks for; the controls follow QT_SCALE_FACTOR by themselves. And since Wayland lets no program place its
-// own windows, a Wayland session is asked for its X server first, unless
-// QT_QPA_PLATFORM says otherwise.
+// desktop or the environment asks for; the controls follow QT_SCALE_FACTOR by themselves. And since
+// Wayland lets no program place its own windows, a Wayland session is asked for its X server first,
+// unless QT_QPA_PLATFORM says otherwise.
 void prepare();
 
 } // namespace DisplayEnvironment

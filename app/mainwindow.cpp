@@ -4,9 +4,9 @@
 
 #include "accessiblebutton.h"
 #include "commonhelper.h"
-#include "drawctrlform.h"
 #include "desktopscale.h"
 #include "displaysign.h"
+#include "drawctrlform.h"
 #include "drawerbase.h"
 #include "form.h"
 #include "gradualchangectrlwidget.h"

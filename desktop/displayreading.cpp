@@ -25,8 +25,8 @@ std::unique_ptr<Reply, decltype(&std::free)> owned(Reply *reply)
 void appendRamps(QVector<QVector<quint16>> &ramps, xcb_randr_crtc_t crtc)
 {
     xcb_connection_t *const server = QX11Info::connection();
-    const auto gamma = owned(xcb_randr_get_crtc_gamma_reply(
-        server, xcb_randr_get_crtc_gamma(server, crtc), nullptr));
+    const auto gamma = owned(
+        xcb_randr_get_crtc_gamma_reply(server, xcb_randr_get_crtc_gamma(server, crtc), nullptr));
     if (!gamma)
         return;
     for (const quint16 *ramp :
@@ -42,8 +42,8 @@ bool hasExtension(const char *name)
 {
     xcb_connection_t *const server = QX11Info::connection();
     const auto length = static_cast<quint16>(qstrlen(name));
-    const auto reply = owned(xcb_query_extension_reply(
-        server, xcb_query_extension(server, length, name), nullptr));
+    const auto reply = owned(
+        xcb_query_extension_reply(server, xcb_query_extension(server, length, name), nullptr));
     return reply && reply->present;
 }
 

@@ -135,8 +135,7 @@ QString styleSheet(const QString &text)
     for (auto found = length.globalMatch(text); found.hasNext();) {
         const QRegularExpressionMatch match = found.next();
         scaledText += text.midRef(copied, match.capturedStart() - copied)
-                      + QString::number(scaled(match.captured(1).toInt()))
-                      + QStringLiteral("px");
+                      + QString::number(scaled(match.captured(1).toInt())) + QStringLiteral("px");
         copied = match.capturedEnd();
     }
     scaledText += text.midRef(copied);

@@ -75,8 +75,7 @@ void tst_AccessibleButton::checkableButton_looksAsToQt_data()
     for (const char *kind : {"radio button", "check box", "push button", "plain button"}) {
         for (const bool checked : {false, true}) {
             for (const char *name : {"", "Pure red"}) {
-                const auto button =
-                    makeButton(QLatin1String(kind), checked, QLatin1String(name));
+                const auto button = makeButton(QLatin1String(kind), checked, QLatin1String(name));
                 QTest::addRow("%s, %d, \"%s\"", kind, checked, name)
                     << QString(QLatin1String(kind)) << checked << QString(QLatin1String(name))
                     << described(*button);

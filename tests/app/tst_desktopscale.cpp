@@ -49,8 +49,8 @@ void tst_DesktopScale::styleSheet_scalesItsLengths_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("scaled");
 
-    const QString rule = QStringLiteral(
-        "QLabel#a12px { padding: 2px -1px 0px; image: url(:/Resource/Image/up.png); color: #101010 }");
+    const QString rule = QStringLiteral("QLabel#a12px { padding: 2px -1px 0px; image: "
+                                        "url(:/Resource/Image/up.png); color: #101010 }");
     QTest::newRow("one") << QStringLiteral("1") << rule << rule;
     QTest::newRow("one and a half")
         << QStringLiteral("1.5") << rule

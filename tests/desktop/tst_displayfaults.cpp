@@ -10,7 +10,8 @@ QVector<quint16> ramp(int size, double exponent, int top = 65535)
 {
     QVector<quint16> levels(size);
     for (int i = 0; i < size; ++i)
-        levels[i] = static_cast<quint16>(std::lround(top * std::pow(double(i) / (size - 1), exponent)));
+        levels[i] =
+            static_cast<quint16>(std::lround(top * std::pow(double(i) / (size - 1), exponent)));
     return levels;
 }
 

@@ -93,9 +93,8 @@ QVariantList tst_e2e_accessibility::call(const QString &path, const QString &whe
 /// The path of what has this name, at \a path or below it; empty if nothing has.
 QString tst_e2e_accessibility::find(const QString &path, const QString &name) const
 {
-    const QVariantList found =
-        call(path, QStringLiteral("org.freedesktop.DBus.Properties"), "Get",
-             {interface("Accessible"), QStringLiteral("Name")});
+    const QVariantList found = call(path, QStringLiteral("org.freedesktop.DBus.Properties"), "Get",
+                                    {interface("Accessible"), QStringLiteral("Name")});
     if (found.value(0).value<QDBusVariant>().variant().toString() == name)
         return path;
     const auto children =

@@ -24,8 +24,10 @@ void tst_e2e_keyboardlayouts::shortcuts_workOnEveryLayout_data()
                              << QByteArray("Cyrillic_er");
     QTest::newRow("Greek") << QStringList{QStringLiteral("gr")} << QByteArray("Greek_phi")
                            << QByteArray("Greek_eta");
-    QTest::newRow("French") << QStringList{QStringLiteral("fr")} << QByteArray("f") << QByteArray("h");
-    QTest::newRow("Dvorak") << QStringList{QStringLiteral("us"), QStringLiteral("dvorak")} << QByteArray("f") << QByteArray("h");
+    QTest::newRow("French") << QStringList{QStringLiteral("fr")} << QByteArray("f")
+                            << QByteArray("h");
+    QTest::newRow("Dvorak") << QStringList{QStringLiteral("us"), QStringLiteral("dvorak")}
+                            << QByteArray("f") << QByteArray("h");
 }
 
 void tst_e2e_keyboardlayouts::shortcuts_workOnEveryLayout()
