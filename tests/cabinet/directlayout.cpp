@@ -57,7 +57,8 @@ void paintText(QPainter &painter, const ScrGrid &drawer)
     pen.setWidth(drawer.m_fontSize);
     painter.setPen(pen);
     QFont font = oldFont;
-    font.setPointSize(drawer.m_fontSize);
+    // As many pixels as at 96 dots per inch.
+    font.setPointSizeF(drawer.m_fontSize * 96.0 / painter.device()->logicalDpiY());
     if (drawer.m_fontShape >= 0 && drawer.m_fontShape <= 2) {
         font.setWeight(drawer.m_fontShape == 1 ? 75 : 50);
         font.setStyle(drawer.m_fontShape == 2 ? QFont::StyleItalic : QFont::StyleNormal);

@@ -129,7 +129,7 @@ void TestScrGridHostile::largestBeginNumber_countsOn()
     rig.drawer.m_beginColumn = largest;
     rig.drawer.m_moduleLineColor = rig.drawer.m_scanColor = Qt::black;
     QImage expected = withoutLayout(rig.canvas.size());
-    DirectLayout::setResolution(expected, rig.canvas.logicalDpiY());
+    DirectLayout::setResolution(expected, 96);
     QPainter painter(&expected);
     QFont font = rig.canvas.font();
     font.setPointSize(10);
