@@ -1,15 +1,15 @@
 #include "pagecycle.h"
 
 #include "gradualchangectrlwidget.h"
+#include "purecolor.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
-#include "testcolor.h"
 
 #include <QTabWidget>
 
 namespace {
 
-constexpr int colorSteps = TestColor::pageColorCount;
+constexpr int colorSteps = PureColor::pageColorCount;
 constexpr qint16 lineSteps = 4; // line families of each grid colour
 constexpr qint16 pageLevel = 256; // what the page keys show of the gradients
 

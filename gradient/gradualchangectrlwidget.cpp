@@ -5,10 +5,10 @@
 #include "commonhelper.h"
 #include "form.h"
 #include "latin1.h"
+#include "purecolor.h"
 #include "savesoon.h"
 #include "settingsrules.h"
 #include "swatchrow.h"
-#include "testcolor.h"
 
 #include <QSettings>
 
@@ -76,8 +76,8 @@ void GradualChangeCtrlWidget::initConnection()
     for (int row = 0; row < levelCount; ++row)
         connect(m_levelButtons.at(std::size_t(row)), &QAbstractButton::clicked, this,
                 [this, row] { selectLevel(row); });
-    for (int index = 0; index < TestColor::count; ++index) {
-        const QAbstractButton *const button = m_swatches->button(TestColor::at(index));
+    for (int index = 0; index < PureColor::count; ++index) {
+        const QAbstractButton *const button = m_swatches->button(PureColor::at(index));
         // Specified: the old button that gets unchecked selects its colour, too, before the new
         // one does.
         connect(button, &QAbstractButton::toggled, this, [this, index] { selectColor(index); });
@@ -125,7 +125,7 @@ void GradualChangeCtrlWidget::selectLevel(int row)
 
 void GradualChangeCtrlWidget::selectColor(int index)
 {
-    m_color = TestColor::at(index);
+    m_color = PureColor::at(index);
     m_colorIndex = index;
     apply();
     if (!m_firstToggle)
@@ -147,9 +147,9 @@ void GradualChangeCtrlWidget::slot_changeSelectedGradualColor(const QColor &colo
 
 void GradualChangeCtrlWidget::slot_changeColorByPageDown()
 {
-    if (m_colorIndex < 0 || m_colorIndex >= TestColor::pageColorCount)
+    if (m_colorIndex < 0 || m_colorIndex >= PureColor::pageColorCount)
         return;
-    slot_changeSelectedGradualColor(TestColor::at(m_colorIndex));
+    slot_changeSelectedGradualColor(PureColor::at(m_colorIndex));
     // A button that was checked already has not said so, and the levels may be new.
     apply();
     slot_updateSelectedColor();

@@ -2,7 +2,7 @@
 
 #include "drawerbase.h"
 #include "gridpicture.h"
-#include "testcolor.h"
+#include "purecolor.h"
 
 #include <QBrush>
 
@@ -31,7 +31,7 @@ public:
     void drawSlantRightLines(QPainter &painter) { drawFamily(painter, LineFamily::SlantRight); }
 
     void slot_colorChanged(const QColor &color);
-    // 0 to 255; dims the seven test colours only.
+    // 0 to 255; dims the seven pure colours only.
     void slot_changeGrayScale(int grey);
 
     // As the lines are at the present grey.

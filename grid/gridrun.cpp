@@ -3,7 +3,7 @@
 #include "drawcontainer.h"
 #include "griddrawer.h"
 #include "mixselection.h"
-#include "testcolor.h"
+#include "purecolor.h"
 
 namespace {
 
@@ -70,7 +70,7 @@ void GridRun::scroll()
 void GridRun::stepAging()
 {
     m_drawer->disableAll();
-    showColor(TestColor::at(m_agingIndex));
+    showColor(PureColor::at(m_agingIndex));
     m_agingIndex = (m_agingIndex + 1) % agingColorCount;
 }
 

@@ -1,7 +1,7 @@
 #include "mixselection.h"
 
+#include "purecolor.h"
 #include "settingsrules.h"
-#include "testcolor.h"
 
 #include <QCoreApplication>
 #include <QSettings>
@@ -37,9 +37,9 @@ void MixSelection::store(QSettings &settings) const
 QVector<QColor> MixSelection::colors() const
 {
     QVector<QColor> selected;
-    for (int index = 0; index < TestColor::count; ++index) {
+    for (int index = 0; index < PureColor::count; ++index) {
         if (contains(static_cast<Item>(Red + index)))
-            selected.append(TestColor::at(index));
+            selected.append(PureColor::at(index));
     }
     return selected;
 }

@@ -11,7 +11,7 @@
 
 class QSettings;
 
-// What the merged test shows: any of the seven test colours and of the four line families.
+// What the merged test shows: any of the seven pure colours and of the four line families.
 class MixSelection
 {
 public:

@@ -5,10 +5,10 @@
 #include "commonhelper.h"
 #include "form.h"
 #include "mixsetting.h"
+#include "purecolor.h"
 #include "savesoon.h"
 #include "settingsrules.h"
 #include "swatchrow.h"
-#include "testcolor.h"
 
 #include <QKeyEvent>
 #include <QSettings>
@@ -215,8 +215,8 @@ void ScrGridCtrlDialog::setRunControlsEnabled(bool on)
 void ScrGridCtrlDialog::selectColor(int index)
 {
     colorIndex = static_cast<qint16>(index);
-    storeColor(TestColor::at(index));
-    emit signal_colorChanged(TestColor::at(index));
+    storeColor(PureColor::at(index));
+    emit signal_colorChanged(PureColor::at(index));
     enableAdvanceSettings();
 }
 
@@ -283,9 +283,9 @@ void ScrGridCtrlDialog::slot_changeColorByPageDown()
 {
     ui->netGridCheckBox->setChecked(false);
     enableAdvanceSettings();
-    if (colorIndex < 0 || colorIndex >= TestColor::pageColorCount)
+    if (colorIndex < 0 || colorIndex >= PureColor::pageColorCount)
         return;
-    slot_changeSelectedGridColor(TestColor::at(colorIndex));
+    slot_changeSelectedGridColor(PureColor::at(colorIndex));
     slot_changeLineState();
 }
 

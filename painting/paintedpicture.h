@@ -6,7 +6,7 @@
 
 #include <optional>
 
-// A picture that is painted once and shown many times. It is painted anew when its
+// A picture that is painted once and shown many times. It is painted again when its
 // size or its key, whatever it depends on beside the size, is not that of the last time.
 template<typename Key>
 class PaintedPicture

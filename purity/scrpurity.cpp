@@ -1,6 +1,6 @@
 #include "scrpurity.h"
 
-#include "testcolor.h"
+#include "purecolor.h"
 
 #include <QPainter>
 #include <QWidget>

@@ -4,7 +4,7 @@
 
 #include <QColor>
 
-// Fills the test window with one colour: a test colour at a grey level, or any other
+// Fills the test window with one colour: a pure colour at a grey level, or any other
 // colour as it is.
 class ScrPurity : public DrawerBase
 {

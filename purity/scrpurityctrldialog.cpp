@@ -6,10 +6,10 @@
 #include "drawcontainer.h"
 #include "form.h"
 #include "latin1.h"
+#include "purecolor.h"
 #include "savesoon.h"
 #include "settingsrules.h"
 #include "swatchrow.h"
-#include "testcolor.h"
 
 #include <QButtonGroup>
 #include <QSettings>
@@ -171,7 +171,7 @@ void ScrPurityCtrlDialog::updateLanguage()
 void ScrPurityCtrlDialog::selectColor(int index)
 {
     colorIndex = index;
-    const QColor color = TestColor::at(index);
+    const QColor color = PureColor::at(index);
     storeColor(color);
     emit signal_colorChanged(color);
     if (!firstColorPending)
@@ -200,8 +200,8 @@ void ScrPurityCtrlDialog::storeColor(const QColor &color)
 
 void ScrPurityCtrlDialog::slot_changeColorByPageUpDown()
 {
-    if (colorIndex >= 0 && colorIndex < TestColor::pageColorCount)
-        slot_changeSelectedPurityColor(TestColor::at(colorIndex));
+    if (colorIndex >= 0 && colorIndex < PureColor::pageColorCount)
+        slot_changeSelectedPurityColor(PureColor::at(colorIndex));
 }
 
 void ScrPurityCtrlDialog::canclePageUpDownSelect()

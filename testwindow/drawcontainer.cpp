@@ -5,7 +5,7 @@
 #include "commonhelper.h"
 #include "drawerbase.h"
 #include "form.h"
-#include "testcolor.h"
+#include "purecolor.h"
 #include "textwidth.h"
 #include "windowedge.h"
 
@@ -126,7 +126,7 @@ void DrawContainer::updateLanguage()
                   "[⇧+H]:显示/隐藏窗口\n");
     hideAction->setText(tr(" 隐藏"));
     if (colourIndex > 0)
-        colourName = TestColor::translatedName(colourIndex - 1);
+        colourName = PureColor::translatedName(colourIndex - 1);
 }
 
 void DrawContainer::slot_keyHomePressed()
@@ -176,11 +176,11 @@ void DrawContainer::slot_updateContainer()
 void DrawContainer::slot_changeSelectedDrawColor(const QColor &color)
 {
     colourName = CommonHelper::getColorName(color);
-    for (int index = 0; index < TestColor::count; ++index) {
-        if (colourName != TestColor::sourceName(index))
+    for (int index = 0; index < PureColor::count; ++index) {
+        if (colourName != PureColor::sourceName(index))
             continue;
         colourIndex = index + 1;
-        colourName = TestColor::translatedName(index);
+        colourName = PureColor::translatedName(index);
         return;
     }
 }

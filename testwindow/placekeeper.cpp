@@ -133,7 +133,7 @@ void PlaceKeeper::insist()
     m_echo->ask();
 }
 
-// A full screen anew: no window manager moves a window that fills a screen.
+// By way of an ordinary window: no window manager moves a window that fills a screen.
 void PlaceKeeper::put()
 {
     const QScopedValueRollback<bool> changing(m_isChanging, true);

@@ -1,6 +1,6 @@
 #include "swatchrow.h"
 
-#include "testcolor.h"
+#include "purecolor.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -23,15 +23,15 @@ SwatchRow::SwatchRow(const Buttons &buttons, QObject *parent)
 
 QAbstractButton *SwatchRow::button(const QColor &color) const
 {
-    return m_group->button(TestColor::indexOf(color));
+    return m_group->button(PureColor::indexOf(color));
 }
 
 void SwatchRow::retranslate()
 {
     constexpr int border = 3; // on either side of the text, in pixels
-    for (int index = 0; index < TestColor::count; ++index) {
+    for (int index = 0; index < PureColor::count; ++index) {
         QAbstractButton *button = m_group->button(index);
-        const QString name = TestColor::translatedName(index);
+        const QString name = PureColor::translatedName(index);
         button->setText(
             button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - 2 * border));
         button->setToolTip(name);

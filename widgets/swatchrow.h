@@ -8,7 +8,7 @@ class QAbstractButton;
 class QButtonGroup;
 class QColor;
 
-// Seven checkable buttons as an exclusive row of the test colours, in the order of
+// Seven checkable buttons as an exclusive row of the pure colours, in the order of
 // the colour table.
 class SwatchRow : public QObject
 {
@@ -29,7 +29,7 @@ public:
                     parent)
     { }
 
-    // The button of a test colour, null for any other colour.
+    // The button of a pure colour, null for any other colour.
     QAbstractButton *button(const QColor &color) const;
 
     // Names the buttons in the interface language: the text where it fits, the tool

@@ -1,7 +1,7 @@
 #include "commonhelper.h"
 
 #include "desktopscale.h"
-#include "testcolor.h"
+#include "purecolor.h"
 #include "textwidth.h"
 
 #include <QCheckBox>
@@ -125,13 +125,13 @@ QString CommonHelper::setStyle(const QString &path)
 
 int CommonHelper::getColorIndex(const QColor &color)
 {
-    const int index = TestColor::indexOf(color);
-    return index >= 0 && index < TestColor::pageColorCount ? index : 0;
+    const int index = PureColor::indexOf(color);
+    return index >= 0 && index < PureColor::pageColorCount ? index : 0;
 }
 
 QString CommonHelper::getColorName(const QColor &color)
 {
-    return TestColor::translatedName(TestColor::indexOf(color));
+    return PureColor::translatedName(PureColor::indexOf(color));
 }
 
 void CommonHelper::setQLabelText(QLabel *label, const QString &text)

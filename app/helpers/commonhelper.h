@@ -52,7 +52,7 @@ public:
     // 0 red, 1 green, 2 blue, 3 white; 0 for every other colour.
     static int getColorIndex(const QColor &color);
 
-    // The translated name of a test colour, a null string for any other colour.
+    // The translated name of a pure colour, a null string for any other colour.
     static QString getColorName(const QColor &color);
 
     // Put a text on a widget, elided at the right to the widget's present width. A

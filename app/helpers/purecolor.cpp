@@ -1,10 +1,10 @@
-#include "testcolor.h"
+#include "purecolor.h"
 
 #include <QCoreApplication>
 
 #include <array>
 
-namespace TestColor {
+namespace PureColor {
 namespace {
 
 struct Entry
@@ -55,11 +55,11 @@ QString translatedName(int index)
     return QCoreApplication::translate("CommonHelper", name(index));
 }
 
-} // namespace TestColor
+} // namespace PureColor
 
 QColor getGrayScaleColor(const QColor &color, int grey)
 {
-    if (TestColor::indexOf(color) < 0)
+    if (PureColor::indexOf(color) < 0)
         return color;
     const int level = qBound(0, grey, 255);
     const auto channel = [level](int full) { return full > 0 ? level : 0; };

@@ -2,9 +2,9 @@
 
 #include <QColor>
 
-// The seven pure test colours, in the order in which every panel numbers them:
+// The seven pure colours, in the order in which every panel numbers them:
 // red, green, blue, white, yellow, cyan, purple.
-namespace TestColor {
+namespace PureColor {
 
 constexpr int count = 7;
 
@@ -24,8 +24,8 @@ QString sourceName(int index);
 // The name in the interface language, a null string for an index outside the table.
 QString translatedName(int index);
 
-} // namespace TestColor
+} // namespace PureColor
 
-// A test colour at a grey level of 0 to 255 (clamped): its lit channels take the
+// A pure colour at a grey level of 0 to 255 (clamped): its lit channels take the
 // level, and it is opaque. Any other colour comes back unchanged, its alpha included.
 QColor getGrayScaleColor(const QColor &color, int grey);

@@ -61,7 +61,7 @@ private slots:
     void widgetWithoutRoom_showsLittleAndTellsTheText();
 
     void colorIndex_yellowIs0TheSameAsRed();
-    void colorName_ofATestColourIsTranslated();
+    void colorName_ofAPureColourIsTranslated();
 
     void style_isReadAsUtf8();
     void style_ofNoFileIsEmpty();
@@ -176,7 +176,7 @@ void TestCommonHelper::colorIndex_yellowIs0TheSameAsRed()
         QCOMPARE(CommonHelper::getColorIndex(color), 0);
 }
 
-void TestCommonHelper::colorName_ofATestColourIsTranslated()
+void TestCommonHelper::colorName_ofAPureColourIsTranslated()
 {
     QCOMPARE(CommonHelper::getColorName(QColor(255, 0, 0)), QStringLiteral("红"));
     const Dictionary marked(QStringLiteral("!"), "CommonHelper");

@@ -1,5 +1,5 @@
 #include "dictionary.h"
-#include "testcolor.h"
+#include "purecolor.h"
 
 #include <QtTest>
 
@@ -37,7 +37,7 @@ void addOtherColors()
 
 } // namespace
 
-class TestTestColor : public QObject
+class TestPureColor : public QObject
 {
     Q_OBJECT
 
@@ -58,20 +58,20 @@ private slots:
     void greyScale_isClamped();
 };
 
-void TestTestColor::table_isNumberedInItsOrder()
+void TestPureColor::table_isNumberedInItsOrder()
 {
-    QCOMPARE(TestColor::count, 7);
+    QCOMPARE(PureColor::count, 7);
     int index = 0;
     for (const Entry &entry : entries) {
-        QCOMPARE(TestColor::at(index), QColor(entry.color));
-        QCOMPARE(TestColor::indexOf(entry.color), index);
-        QCOMPARE(TestColor::sourceName(index), QString::fromUtf8(entry.name));
-        QCOMPARE(TestColor::translatedName(index), QString::fromUtf8(entry.name));
+        QCOMPARE(PureColor::at(index), QColor(entry.color));
+        QCOMPARE(PureColor::indexOf(entry.color), index);
+        QCOMPARE(PureColor::sourceName(index), QString::fromUtf8(entry.name));
+        QCOMPARE(PureColor::translatedName(index), QString::fromUtf8(entry.name));
         ++index;
     }
 }
 
-void TestTestColor::indexOutsideTheTable_givesNothing_data()
+void TestPureColor::indexOutsideTheTable_givesNothing_data()
 {
     QTest::addColumn<int>("index");
     QTest::newRow("one too few") << -1;
@@ -81,50 +81,50 @@ void TestTestColor::indexOutsideTheTable_givesNothing_data()
     QTest::newRow("largest") << std::numeric_limits<int>::max();
 }
 
-void TestTestColor::indexOutsideTheTable_givesNothing()
+void TestPureColor::indexOutsideTheTable_givesNothing()
 {
     QFETCH(const int, index);
-    QVERIFY(!TestColor::at(index).isValid());
-    QVERIFY(TestColor::sourceName(index).isNull());
-    QVERIFY(TestColor::translatedName(index).isNull());
+    QVERIFY(!PureColor::at(index).isValid());
+    QVERIFY(PureColor::sourceName(index).isNull());
+    QVERIFY(PureColor::translatedName(index).isNull());
 }
 
-void TestTestColor::otherColour_hasNoIndex_data()
+void TestPureColor::otherColour_hasNoIndex_data()
 {
     addOtherColors();
 }
 
-void TestTestColor::otherColour_hasNoIndex()
+void TestPureColor::otherColour_hasNoIndex()
 {
     QFETCH(const QColor, color);
-    QCOMPARE(TestColor::indexOf(color), -1);
+    QCOMPARE(PureColor::indexOf(color), -1);
 }
 
-void TestTestColor::equalColour_isFoundHoweverItWasMade()
+void TestPureColor::equalColour_isFoundHoweverItWasMade()
 {
-    QCOMPARE(TestColor::indexOf(QColor(0, 0, 255)), 2);
-    QCOMPARE(TestColor::indexOf(QColor(QStringLiteral("#ffff00"))), 4);
-    QCOMPARE(TestColor::indexOf(QColor::fromRgbF(1.0, 0.0, 1.0)), 6);
+    QCOMPARE(PureColor::indexOf(QColor(0, 0, 255)), 2);
+    QCOMPARE(PureColor::indexOf(QColor(QStringLiteral("#ffff00"))), 4);
+    QCOMPARE(PureColor::indexOf(QColor::fromRgbF(1.0, 0.0, 1.0)), 6);
 }
 
-void TestTestColor::name_isTranslatedInTheHelpersContext()
+void TestPureColor::name_isTranslatedInTheHelpersContext()
 {
     const Dictionary marked(QStringLiteral("!"), "CommonHelper");
-    for (int index = 0; index < TestColor::count; ++index) {
-        QCOMPARE(TestColor::translatedName(index),
+    for (int index = 0; index < PureColor::count; ++index) {
+        QCOMPARE(PureColor::translatedName(index),
                  QString::fromUtf8(entries[index].name) + QLatin1Char('!'));
-        QCOMPARE(TestColor::sourceName(index), QString::fromUtf8(entries[index].name));
+        QCOMPARE(PureColor::sourceName(index), QString::fromUtf8(entries[index].name));
     }
-    QVERIFY(TestColor::translatedName(7).isNull());
+    QVERIFY(PureColor::translatedName(7).isNull());
 }
 
-void TestTestColor::pageColours_areTheFirstFour()
+void TestPureColor::pageColours_areTheFirstFour()
 {
-    QCOMPARE(TestColor::pageColorCount, 4);
-    QCOMPARE(TestColor::at(TestColor::pageColorCount - 1), QColor(Qt::white));
+    QCOMPARE(PureColor::pageColorCount, 4);
+    QCOMPARE(PureColor::at(PureColor::pageColorCount - 1), QColor(Qt::white));
 }
 
-void TestTestColor::greyScale_setsTheLitChannels()
+void TestPureColor::greyScale_setsTheLitChannels()
 {
     for (const Entry &entry : entries) {
         for (int grey = 0; grey < 256; ++grey) {
@@ -134,19 +134,19 @@ void TestTestColor::greyScale_setsTheLitChannels()
     }
 }
 
-void TestTestColor::greyScale_leavesOtherColoursAlone_data()
+void TestPureColor::greyScale_leavesOtherColoursAlone_data()
 {
     addOtherColors();
 }
 
-void TestTestColor::greyScale_leavesOtherColoursAlone()
+void TestPureColor::greyScale_leavesOtherColoursAlone()
 {
     QFETCH(const QColor, color);
     for (const int grey : {0, 7, 255})
         QCOMPARE(getGrayScaleColor(color, grey), color);
 }
 
-void TestTestColor::greyScale_isClamped_data()
+void TestPureColor::greyScale_isClamped_data()
 {
     QTest::addColumn<int>("grey");
     QTest::addColumn<int>("level");
@@ -156,12 +156,12 @@ void TestTestColor::greyScale_isClamped_data()
     QTest::newRow("far above") << std::numeric_limits<int>::max() << 255;
 }
 
-void TestTestColor::greyScale_isClamped()
+void TestPureColor::greyScale_isClamped()
 {
     QFETCH(const int, grey);
     QFETCH(const int, level);
     QCOMPARE(getGrayScaleColor(Qt::yellow, grey), QColor(level, level, 0));
 }
 
-QTEST_MAIN(TestTestColor)
-#include "tst_testcolor.moc"
+QTEST_MAIN(TestPureColor)
+#include "tst_purecolor.moc"

@@ -220,7 +220,7 @@ void tst_e2e_cabinet::layout_coversWhatOtherTestsHaveShown()
     QVERIFY(shows([](const QPoint &) { return black; }));
 }
 
-/// What is behind is set anew with each paint, and must not ask for another one.
+/// What is behind is set again with each paint, and must not ask for another one.
 void tst_e2e_cabinet::layoutOverAPicture_isPaintedTenTimesASecond()
 {
     keepPicture();

@@ -21,7 +21,7 @@ private slots:
     void window_isCoveredByAnOpaqueBackground();
     void noFamilies_showTheBackground();
     void togglingAnyFamily_resetsTheBackground();
-    void grey_dimsTestColoursOnly();
+    void grey_dimsPureColoursOnly();
     void mergedTest_showsEachFamilyThenNothingThenTheFirst();
     void scrolling_movesEveryFamilyAndBringsTheOffsetBack();
     void distanceZero_doesNotHang();
@@ -90,7 +90,7 @@ void TestGridDrawer::togglingAnyFamily_resetsTheBackground()
     }
 }
 
-void TestGridDrawer::grey_dimsTestColoursOnly()
+void TestGridDrawer::grey_dimsPureColoursOnly()
 {
     GridCanvas grid;
     grid.showRedOnBlue(Horizontal);

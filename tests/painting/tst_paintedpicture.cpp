@@ -35,9 +35,9 @@ class TestPaintedPicture : public QObject
 private slots:
     void firstTime_paints();
     void sameAgain_showsWhatIsKept();
-    void otherKey_paintsAnew();
-    void otherSize_paintsAnew();
-    void formerKey_paintsAnew();
+    void otherKey_paintsAgain();
+    void otherSize_paintsAgain();
+    void formerKey_paintsAgain();
     void pixmap_hidesWhatIsBelowIt();
     void emptySize_paintsNothing();
 };
@@ -61,7 +61,7 @@ void TestPaintedPicture::sameAgain_showsWhatIsKept()
     QCOMPARE(painting.count, 1);
 }
 
-void TestPaintedPicture::otherKey_paintsAnew()
+void TestPaintedPicture::otherKey_paintsAgain()
 {
     PaintedPicture<QString> picture;
     Painting painting{Qt::red};
@@ -71,7 +71,7 @@ void TestPaintedPicture::otherKey_paintsAnew()
     QCOMPARE(painting.count, 2);
 }
 
-void TestPaintedPicture::otherSize_paintsAnew()
+void TestPaintedPicture::otherSize_paintsAgain()
 {
     PaintedPicture<QString> picture;
     Painting painting{Qt::red};
@@ -83,7 +83,7 @@ void TestPaintedPicture::otherSize_paintsAnew()
     }
 }
 
-void TestPaintedPicture::formerKey_paintsAnew()
+void TestPaintedPicture::formerKey_paintsAgain()
 {
     PaintedPicture<QString> picture;
     Painting painting{Qt::red};

@@ -8,7 +8,7 @@ namespace {
 
 constexpr QRgb backdrop = 0xff0a141e;
 
-// Which channels a test colour lights, as factors of the grey level.
+// Which channels a pure colour lights, as factors of the grey level.
 struct Lit
 {
     Qt::GlobalColor color;

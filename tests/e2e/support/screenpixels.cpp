@@ -14,7 +14,7 @@ ScreenPixels::ScreenPixels(XConnection &connection)
 
 QRect ScreenPixels::rect() const
 {
-    // Asked anew each time: the screen's size may change while the test runs.
+    // Asked again each time: the screen's size may change while the test runs.
     XWindowAttributes attributes;
     if (!XGetWindowAttributes(m_connection.display(), m_connection.root(), &attributes))
         return {};
