@@ -97,8 +97,11 @@ QString tst_e2e_accessibility::find(const QString &path, const QString &name) co
                                     {interface("Accessible"), QStringLiteral("Name")});
     if (found.value(0).value<QDBusVariant>().variant().toString() == name)
         return path;
-    const auto children =
-        call(path, interface("Accessible"), "GetChildren").value(0).value<QDBusArgument>();
+    const QVariant answer = call(path, interface("Accessible"), "GetChildren").value(0);
+    if (!answer.canConvert<QDBusArgument>())
+        return {}; // it has gone in the meantime
+    const auto children = answer.value<QDBusArgument>();
+    QStringList below;
     children.beginArray();
     while (!children.atEnd()) {
         QString service;
@@ -106,11 +109,13 @@ QString tst_e2e_accessibility::find(const QString &path, const QString &name) co
         children.beginStructure();
         children >> service >> child;
         children.endStructure();
-        const QString below = find(child.path(), name);
-        if (!below.isEmpty())
-            return below;
+        below.append(child.path());
     }
-    return {};
+    children.endArray();
+    QString place;
+    for (int i = 0; i < below.size() && place.isEmpty(); ++i)
+        place = find(below.at(i), name);
+    return place;
 }
 
 void tst_e2e_accessibility::toggledFamilyButton_actsAsIfClicked()
