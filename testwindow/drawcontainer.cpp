@@ -3,6 +3,7 @@
 #include "ui_drawcontainer.h"
 
 #include "commonhelper.h"
+#include "desktopscale.h"
 #include "drawerbase.h"
 #include "form.h"
 #include "purecolor.h"
@@ -79,6 +80,12 @@ DrawContainer::~DrawContainer() = default;
 void DrawContainer::initContextMenu()
 {
     hideAction = new QAction(this);
+    // The menu is a control, and its font follows the dots per inch alone.
+    if (DesktopScale::factor() > 1) {
+        QFont scaled = inPixels(font());
+        scaled.setPixelSize(qRound(scaled.pixelSize() * DesktopScale::factor()));
+        hideAction->setFont(scaled);
+    }
     addAction(hideAction);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(hideAction, &QAction::triggered, this, &DrawContainer::slot_hideWindow);

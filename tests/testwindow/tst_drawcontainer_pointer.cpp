@@ -1,3 +1,4 @@
+#include "desktopscale.h"
 #include "drawcontainer.h"
 #include "scriptedpointer.h"
 
@@ -16,6 +17,8 @@ class tst_DrawContainer_pointer : public QObject
 
 private slots:
     void init();
+
+    void contextMenu_followsTheScaleOfTheControls();
 
     void rest_hidesThePointerUntilItsNextMove();
     void rest_withoutAMoveSinceItCameHidesThePointer();
@@ -42,6 +45,18 @@ void tst_DrawContainer_pointer::init()
     });
     QVERIFY(found != timers.cend());
     m_timer = *found;
+}
+
+void tst_DrawContainer_pointer::contextMenu_followsTheScaleOfTheControls()
+{
+    const auto menuFont = [](const char *scale) {
+        DesktopScale::request(QLatin1String(scale));
+        const DrawContainer window;
+        return window.actions().constFirst()->font();
+    };
+    QCOMPARE(menuFont("1"), QAction(nullptr).font());
+    QCOMPARE(menuFont("4").pixelSize(), 2 * menuFont("2").pixelSize());
+    DesktopScale::request(QStringLiteral("1"));
 }
 
 void tst_DrawContainer_pointer::rest()
