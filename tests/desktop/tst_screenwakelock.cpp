@@ -97,7 +97,7 @@ private:
 void tst_ScreenWakeLock::initTestCase()
 {
     m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                   {QStringLiteral("--config-file=" TARN_TEST_BUS), QStringLiteral("--nofork"),
                     QStringLiteral("--print-address")});
     QVERIFY2(m_daemon.waitForReadyRead(), "dbus-daemon is needed");
     const QByteArray address = m_daemon.readLine().trimmed();

@@ -58,7 +58,7 @@ private:
 bool tst_e2e_accessibility::startBus()
 {
     m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                   {QStringLiteral("--config-file=" TARN_TEST_BUS), QStringLiteral("--nofork"),
                     QStringLiteral("--print-address")});
     m_daemon.waitForReadyRead();
     m_service.address = QString::fromLocal8Bit(m_daemon.readLine()).trimmed();
