@@ -48,6 +48,7 @@ DesktopInhibition::~DesktopInhibition()
 void DesktopInhibition::setHeld(bool held)
 {
     m_held = held && hasSessionBus();
+    m_asksAgain = m_held && m_asking;
     settle();
 }
 
@@ -89,6 +90,8 @@ void DesktopInhibition::askPortal()
     call(request, [this](const QDBusMessage &reply) {
         if (reply.type() != QDBusMessage::ReplyMessage) {
             m_asking = false;
+            if (m_asksAgain)
+                setHeld(true);
             return;
         }
         const auto handle = reply.arguments().value(0).value<QDBusObjectPath>();

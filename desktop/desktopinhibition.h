@@ -27,5 +27,6 @@ private:
 
     bool m_held = false; // as asked for by the owner
     bool m_asking = false; // a service has not answered yet
+    bool m_asksAgain = false; // should it refuse: wanted once more in the meantime
     QDBusMessage m_release; // gives back what the desktop granted; no method call while it did not
 };

@@ -4,6 +4,7 @@
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
 #include <QProcess>
 #include <QtTest>
 
@@ -83,11 +84,12 @@ private slots:
     void shownBeforeTheLock_isHeldAtOnce();
     void withoutScreenSaver_asksThePortal();
     void withoutEither_isQuietAndAsksAgainWhenShownAgain();
+    void shownAgainBeforeTheRefusal_asksAgain();
 
 private:
     QDBusConnection bus() const { return QDBusConnection(QStringLiteral("desktop")); }
     void offerScreenSaver();
-    static void deliverAnswers();
+    void deliverAnswers() const;
 
     QProcess m_daemon;
     std::unique_ptr<Desktop> m_desktop;
@@ -119,13 +121,15 @@ void tst_ScreenWakeLock::offerScreenSaver()
     QVERIFY(bus().registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
 }
 
-// What the program asked for before is answered before this is.
-void tst_ScreenWakeLock::deliverAnswers()
+// What has been answered before, and what was asked of the bus itself, arrives before this returns.
+void tst_ScreenWakeLock::deliverAnswers() const
 {
-    QDBusConnection::sessionBus().call(QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId")));
-    QCoreApplication::processEvents();
+    for (const QDBusConnection &connection : {bus(), QDBusConnection::sessionBus()}) {
+        const QDBusPendingCallWatcher watcher(connection.asyncCall(QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId"))));
+        QVERIFY(QSignalSpy(&watcher, &QDBusPendingCallWatcher::finished).wait());
+    }
 }
 
 void tst_ScreenWakeLock::cleanup()
@@ -215,6 +219,19 @@ void tst_ScreenWakeLock::withoutEither_isQuietAndAsksAgainWhenShownAgain()
     m_window->hide();
     m_window->show();
     QTRY_COMPARE(m_desktop->reasons.size(), 1);
+}
+
+void tst_ScreenWakeLock::shownAgainBeforeTheRefusal_asksAgain()
+{
+    offerScreenSaver();
+    m_desktop->answersLate = true;
+    new ScreenWakeLock(m_window.get());
+    m_window->show();
+    QTRY_COMPARE(m_desktop->reasons.size(), 1);
+    m_window->hide();
+    m_window->show();
+    bus().send(m_desktop->waiting.createErrorReply(QDBusError::Failed, QString()));
+    QTRY_COMPARE(m_desktop->reasons.size(), 2);
 }
 
 QTEST_MAIN(tst_ScreenWakeLock)
