@@ -4,7 +4,9 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QLabel>
+#include <QSignalSpy>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -18,6 +20,7 @@ private slots:
     void initTestCase();
     void everyControlWithoutAText_hasAnAccessibleName();
     void titleBarButtons_haveAccessibleNames();
+    void buttonToggledByItsAction_isClicked();
     void scrollButtonsOfTheTabs_haveNoNames();
     void focusOrder_followsTheEye_data();
     void focusOrder_followsTheEye();
@@ -74,6 +77,15 @@ void TestAccessibility::titleBarButtons_haveAccessibleNames()
     const UX::Widgets::TitleBar *bar = m_rig.window().titleBar();
     for (const int id : {UX::Widgets::TitleBar::MinButton, UX::Widgets::TitleBar::CloseButton})
         QVERIFY(!bar->titleButton(id)->accessibleName().isEmpty());
+}
+
+void TestAccessibility::buttonToggledByItsAction_isClicked()
+{
+    auto *button = m_rig.find<QAbstractButton>("radioButtonRed");
+    const QSignalSpy clicked(button, &QAbstractButton::clicked);
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(button);
+    interface->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCOMPARE(clicked.size(), 1);
 }
 
 void TestAccessibility::scrollButtonsOfTheTabs_haveNoNames()

@@ -1,4 +1,6 @@
+#include "desktopscale.h"
 #include "dictionary.h"
+#include "displaysign.h"
 #include "drawcontainer.h"
 #include "drawctrlform.h"
 #include "griddrawer.h"
@@ -6,6 +8,7 @@
 #include "savesoon.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
+#include "titlebar.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -38,7 +41,9 @@ private slots:
     void updateLanguage_reachesTitleTabsAndPanels();
     void doubleClick_doesNothing();
     void window_hasItsFixedSize();
+    void window_followsTheScaleOfTheDesktop();
     void window_hasItsIconAndTitle();
+    void titleBar_hasTheSignOfTheDisplay();
     void window_comesBackFromAScreenThatIsGone();
     void spareGridDrawer_belongsToTheWindow();
     void tabsThatChangeAtTheEnd_runNothing();
@@ -186,6 +191,22 @@ void TestMainWindow::window_hasItsFixedSize()
         tabs()->setCurrentIndex(tab);
         QCOMPARE(tabs()->currentWidget()->size(), QSize(585, 192));
     }
+}
+
+void TestMainWindow::window_followsTheScaleOfTheDesktop()
+{
+    start();
+    const QSize size = m_window->size();
+    DesktopScale::request(QStringLiteral("2"));
+    start();
+    DesktopScale::request(QStringLiteral("1"));
+    QCOMPARE(m_window->size(), 2 * size);
+}
+
+void TestMainWindow::titleBar_hasTheSignOfTheDisplay()
+{
+    start();
+    QVERIFY(m_window->titleBar()->findChild<DisplaySign *>());
 }
 
 void TestMainWindow::window_hasItsIconAndTitle()
