@@ -2,7 +2,7 @@
 # Installs what is missing to run the tool, to test it, to check it as CI does
 # or to take pictures of it; says and does nothing if all of it is there.
 #
-# Usage: scripts/setup.sh run|test|ci|managers|pictures
+# Usage: scripts/setup.sh run|test|ci|managers|pictures|package
 set -euo pipefail
 
 build_packages=(build-essential cmake ninja-build pkg-config
@@ -15,6 +15,7 @@ test_packages=(dbus-daemon libx11-dev libxtst-dev libxext-dev libxfixes-dev libx
 manager_packages=(kwin-x11 mutter xfwm4)
 all_manager_packages=("${manager_packages[@]}" metacity icewm i3-wm awesome fluxbox)
 picture_packages=("${virtual_desktop_packages[@]}" xdotool)
+package_packages=("${virtual_desktop_packages[@]}" librsvg2-bin dpkg-dev xz-utils lintian desktop-file-utils appstream man-db mmdebstrap xdotool)
 check_packages=(git clang-format clang-tidy clazy shellcheck xdotool)
 
 purpose=${1:-run}
@@ -39,8 +40,11 @@ case $purpose in
   pictures)
     packages+=("${picture_packages[@]}")
     ;;
+  package)
+    packages+=("${package_packages[@]}")
+    ;;
   *)
-    echo "Usage: scripts/setup.sh run|test|ci|managers|pictures" >&2
+    echo "Usage: scripts/setup.sh run|test|ci|managers|pictures|package" >&2
     exit 2
     ;;
 esac

@@ -1,0 +1,15 @@
+# Read by cpack once for each generator.
+set(ENV{SOURCE_DATE_EPOCH} ${CPACK_TARN_RELEASE_SECONDS}) # the time of all files in a package
+list(GET CPACK_INSTALL_CMAKE_PROJECTS 0 build)
+if(CPACK_GENERATOR STREQUAL "DEB")
+  set(CPACK_INSTALL_CMAKE_PROJECTS "${build};TarnTestTool;system;/")
+  set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+  set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+  set(CPACK_DEBIAN_PACKAGE_SECTION utils)
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-cjk, qtwayland5")
+  set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+else()
+  set(CPACK_INSTALL_CMAKE_PROJECTS "${build};TarnTestTool;portable;/")
+  set(CPACK_PACKAGE_FILE_NAME TarnTestTool-${CPACK_PACKAGE_VERSION}-${CPACK_SYSTEM_NAME}-portable)
+endif()
