@@ -24,7 +24,7 @@ file(INSTALL ${libraries} DESTINATION ${root}/lib FOLLOW_SYMLINK_CHAIN)
 file(INSTALL ${fonts} DESTINATION ${root}/fonts)
 
 foreach(file IN LISTS libraries fonts)
-  file(REAL_PATH ${file} real)
+  get_filename_component(real ${file} REALPATH)
   execute_process(COMMAND dpkg-query -S */${real} OUTPUT_VARIABLE owner ERROR_QUIET)
   string(REGEX REPLACE ":.*" "" owner "${owner}")
   if(owner)
