@@ -1,4 +1,5 @@
 #include "mainwindowrig.h"
+#include "rows.h"
 #include "titlebar.h"
 
 #include <QAbstractButton>
@@ -111,13 +112,12 @@ QVector<QWidget *> TestAccessibility::focusOrder(QWidget *panel)
 
 void TestAccessibility::focusOrder_followsTheEye_data()
 {
-    QTest::addColumn<int>("tab");
-    QTest::addColumn<int>("controls");
-    QTest::newRow("placement") << 0 << 10;
-    QTest::newRow("purity") << 1 << 15;
-    QTest::newRow("gradient") << 2 << 11;
-    QTest::newRow("grid") << 3 << 20;
-    QTest::newRow("cabinet") << 4 << 15;
+    const Table<int, int> row("tab", "controls");
+    row("placement", 0, 10);
+    row("purity", 1, 15);
+    row("gradient", 2, 11);
+    row("grid", 3, 20);
+    row("cabinet", 4, 15);
 }
 
 // In rows from the top, each from the left. Controls of one row overlap in height.

@@ -1,4 +1,5 @@
 #include "commonhelper.h"
+#include "rows.h"
 
 #include <QKeyEvent>
 #include <QSignalSpy>
@@ -24,23 +25,19 @@ private slots:
 
 void tst_CommonHelper_layouts::shortcut_isFoundOnEveryLayout_data()
 {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<quint32>("position");
-    QTest::addColumn<int>("fullScreens");
-    QTest::addColumn<int>("hides");
-
-    QTest::newRow("US F") << int(Qt::Key_F) << positionOfF << 1 << 0;
-    QTest::newRow("US H") << int(Qt::Key_H) << positionOfH << 0 << 1;
-    QTest::newRow("Russian F") << 0x0410 << positionOfF << 1 << 0;
-    QTest::newRow("Russian H") << 0x0420 << positionOfH << 0 << 1;
-    QTest::newRow("Russian D") << 0x0412 << positionOfD << 0 << 0;
-    QTest::newRow("Greek F") << 0x03a6 << positionOfF << 1 << 0;
-    QTest::newRow("Arabic F, a bracket") << int(Qt::Key_BracketLeft) << positionOfF << 1 << 0;
-    QTest::newRow("Dvorak, U where F is") << int(Qt::Key_U) << positionOfF << 0 << 0;
-    QTest::newRow("Dvorak, D where H is") << int(Qt::Key_D) << positionOfH << 0 << 0;
-    QTest::newRow("Dvorak, H where J is") << int(Qt::Key_H) << quint32(44) << 0 << 1;
-    QTest::newRow("Turkish, a letter beyond Z") << int(Qt::Key_Udiaeresis) << positionOfH << 0 << 0;
-    QTest::newRow("an arrow key") << int(Qt::Key_PageUp) << quint32(112) << 0 << 0;
+    const Table<int, quint32, int, int> row("key", "position", "fullScreens", "hides");
+    row("US F", Qt::Key_F, positionOfF, 1, 0);
+    row("US H", Qt::Key_H, positionOfH, 0, 1);
+    row("Russian F", 0x0410, positionOfF, 1, 0);
+    row("Russian H", 0x0420, positionOfH, 0, 1);
+    row("Russian D", 0x0412, positionOfD, 0, 0);
+    row("Greek F", 0x03a6, positionOfF, 1, 0);
+    row("Arabic F, a bracket", Qt::Key_BracketLeft, positionOfF, 1, 0);
+    row("Dvorak, U where F is", Qt::Key_U, positionOfF, 0, 0);
+    row("Dvorak, D where H is", Qt::Key_D, positionOfH, 0, 0);
+    row("Dvorak, H where J is", Qt::Key_H, quint32(44), 0, 1);
+    row("Turkish, a letter beyond Z", Qt::Key_Udiaeresis, positionOfH, 0, 0);
+    row("an arrow key", Qt::Key_PageUp, quint32(112), 0, 0);
 }
 
 void tst_CommonHelper_layouts::shortcut_isFoundOnEveryLayout()

@@ -1,4 +1,5 @@
 #include "customerqlabel.h"
+#include "rows.h"
 
 #include <QMouseEvent>
 #include <QSignalSpy>
@@ -49,14 +50,13 @@ void TestCustomerQlabel::constructors_passTheirArgumentsOn()
 
 void TestCustomerQlabel::release_isAClick_data()
 {
-    QTest::addColumn<int>("button");
-    QTest::addColumn<QPoint>("position");
-    QTest::newRow("left inside") << int(Qt::LeftButton) << QPoint(10, 10);
-    QTest::newRow("right inside") << int(Qt::RightButton) << QPoint(10, 10);
-    QTest::newRow("middle inside") << int(Qt::MiddleButton) << QPoint(10, 10);
-    QTest::newRow("back inside") << int(Qt::BackButton) << QPoint(10, 10);
-    QTest::newRow("left outside") << int(Qt::LeftButton) << QPoint(500, -20);
-    QTest::newRow("right outside") << int(Qt::RightButton) << QPoint(-1, 0);
+    const Table<int, QPoint> row("button", "position");
+    row("left inside", Qt::LeftButton, {10, 10});
+    row("right inside", Qt::RightButton, {10, 10});
+    row("middle inside", Qt::MiddleButton, {10, 10});
+    row("back inside", Qt::BackButton, {10, 10});
+    row("left outside", Qt::LeftButton, {500, -20});
+    row("right outside", Qt::RightButton, {-1, 0});
 }
 
 void TestCustomerQlabel::release_isAClick()

@@ -1,4 +1,5 @@
 #include "desktopscale.h"
+#include "rows.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -21,19 +22,17 @@ private slots:
 
 void tst_DesktopScale::factor_isInSteps_data()
 {
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<qreal>("factor");
-
     // The screen of these tests has 96 dots per inch.
-    QTest::newRow("nothing") << QString() << 1.0;
-    QTest::newRow("no number") << QStringLiteral("big") << 1.0;
-    QTest::newRow("infinite") << QStringLiteral("inf") << 1.0;
-    QTest::newRow("negative") << QStringLiteral("-2") << 1.0;
-    QTest::newRow("below one") << QStringLiteral("0.5") << 1.0;
-    QTest::newRow("just below a step") << QStringLiteral("1.12") << 1.0;
-    QTest::newRow("a step") << QStringLiteral("1.13") << 1.25;
-    QTest::newRow("two") << QStringLiteral("2") << 2.0;
-    QTest::newRow("too large") << QStringLiteral("9") << 4.0;
+    const Table<QString, qreal> row("asked", "factor");
+    row("nothing", QString(), 1.0);
+    row("no number", QStringLiteral("big"), 1.0);
+    row("infinite", QStringLiteral("inf"), 1.0);
+    row("negative", QStringLiteral("-2"), 1.0);
+    row("below one", QStringLiteral("0.5"), 1.0);
+    row("just below a step", QStringLiteral("1.12"), 1.0);
+    row("a step", QStringLiteral("1.13"), 1.25);
+    row("two", QStringLiteral("2"), 2.0);
+    row("too large", QStringLiteral("9"), 4.0);
 }
 
 void tst_DesktopScale::factor_isInSteps()
@@ -45,19 +44,15 @@ void tst_DesktopScale::factor_isInSteps()
 
 void tst_DesktopScale::styleSheet_scalesItsLengths_data()
 {
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("scaled");
-
     const QString rule = QStringLiteral("QLabel#a12px { padding: 2px -1px 0px; image: "
                                         "url(:/Resource/Image/up.png); color: #101010 }");
-    QTest::newRow("one") << QStringLiteral("1") << rule << rule;
-    QTest::newRow("one and a half")
-        << QStringLiteral("1.5") << rule
-        << QStringLiteral("QLabel#a12px { padding: 3px -1px 0px; "
-                          "image: url(:/Resource/Image4x/up.png); color: #101010 }");
-    QTest::newRow("three") << QStringLiteral("3") << QStringLiteral("width:12px;height:7px")
-                           << QStringLiteral("width:36px;height:21px");
+    const Table<const char *, QString, QString> row("asked", "text", "scaled");
+    row("one", "1", rule, rule);
+    row("one and a half", "1.5", rule,
+        QStringLiteral("QLabel#a12px { padding: 3px -1px 0px; "
+                       "image: url(:/Resource/Image4x/up.png); color: #101010 }"));
+    row("three", "3", QStringLiteral("width:12px;height:7px"),
+        QStringLiteral("width:36px;height:21px"));
 }
 
 void tst_DesktopScale::styleSheet_scalesItsLengths()

@@ -1,4 +1,5 @@
 #include "displayenvironment.h"
+#include "rows.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -25,11 +26,9 @@ void TestDisplayEnvironment::init()
 
 void TestDisplayEnvironment::scaling_isSwitchedOff_data()
 {
-    QTest::addColumn<QByteArray>("variable");
-    for (const char *variable :
-         {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_AUTO_SCREEN_SCALE_FACTOR",
-          "QT_ENABLE_HIGHDPI_SCALING", "QT_DEVICE_PIXEL_RATIO"})
-        QTest::newRow(variable) << QByteArray(variable);
+    addNames<QByteArray>("variable", {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
+                                      "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_ENABLE_HIGHDPI_SCALING",
+                                      "QT_DEVICE_PIXEL_RATIO"});
 }
 
 void TestDisplayEnvironment::scaling_isSwitchedOff()
@@ -43,10 +42,9 @@ void TestDisplayEnvironment::scaling_isSwitchedOff()
 
 void TestDisplayEnvironment::waylandSession_asksForItsXServerFirst_data()
 {
-    QTest::addColumn<QByteArray>("variable");
-    QTest::addColumn<QByteArray>("value");
-    QTest::newRow("display") << QByteArray("WAYLAND_DISPLAY") << QByteArray("wayland-0");
-    QTest::newRow("session") << QByteArray("XDG_SESSION_TYPE") << QByteArray("wayland");
+    const Table<QByteArray, QByteArray> row("variable", "value");
+    row("display", "WAYLAND_DISPLAY", "wayland-0");
+    row("session", "XDG_SESSION_TYPE", "wayland");
 }
 
 void TestDisplayEnvironment::waylandSession_asksForItsXServerFirst()

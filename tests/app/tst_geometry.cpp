@@ -5,6 +5,7 @@
 #include "griddrawer.h"
 #include "mainwindowrig.h"
 #include "mixsetting.h"
+#include "rows.h"
 #include "scrgrid.h"
 #include "shippedtranslation.h"
 #include "testsettings.h"
@@ -38,7 +39,7 @@ private slots:
     void initTestCase();
 
     void titleBar_standsAboveTheMarkedFrame();
-    void waylandLine_isNotCut_data();
+    void waylandLine_isNotCut_data() { ShippedTranslation::addRows(); }
     void waylandLine_isNotCut();
     void controlsAndTexts_haveTheirRoom_data();
     void controlsAndTexts_haveTheirRoom();
@@ -208,14 +209,6 @@ void TestGeometry::titleBar_standsAboveTheMarkedFrame()
     QCOMPARE(m_rig.window().titleBar()->geometry(), QRect(0, 0, window.width(), barHeight));
 }
 
-void TestGeometry::waylandLine_isNotCut_data()
-{
-    QTest::addColumn<QString>("language");
-    const QStringList languages = ShippedTranslation::languages();
-    for (const QString &language : languages)
-        QTest::newRow(qPrintable(language)) << language;
-}
-
 void TestGeometry::waylandLine_isNotCut()
 {
     QFETCH(const QString, language);
@@ -274,20 +267,20 @@ void TestGeometry::controlsAndTexts_haveTheirRoom()
 
 void TestGeometry::faults_areFound_data()
 {
-    QTest::addColumn<Spoil>("spoil");
-    QTest::addColumn<QString>("fault");
-    QTest::newRow("nothing") << Spoil([](QLabel *, QCheckBox *) {}) << QString();
-    QTest::newRow("outside") << Spoil([](QLabel *label, QCheckBox *) { label->move(-1, 0); })
-                             << QStringLiteral("stands out of its parent");
-    QTest::newRow("overlapping") << Spoil([](QLabel *, QCheckBox *box) { box->move(99, 0); })
-                                 << QStringLiteral("overlaps");
-    QTest::newRow("wide text") << Spoil([](QLabel *label, QCheckBox *) {
-        label->setText(QString(60, QLatin1Char('W')));
-    }) << QStringLiteral("needs");
-    QTest::newRow("wide text beside the indicator") << Spoil([](QLabel *, QCheckBox *box) {
-        while (textWidth(box->fontMetrics(), box->text()) <= box->width() - 20)
-            box->setText(box->text() + QLatin1Char('i'));
-    }) << QStringLiteral("needs");
+    const Table<Spoil, QString> row("spoil", "fault");
+    row("nothing", Spoil([](QLabel *, QCheckBox *) {}), QString());
+    row("outside", Spoil([](QLabel *label, QCheckBox *) { label->move(-1, 0); }),
+        QStringLiteral("stands out of its parent"));
+    row("overlapping", Spoil([](QLabel *, QCheckBox *box) { box->move(99, 0); }),
+        QStringLiteral("overlaps"));
+    row("wide text",
+        Spoil([](QLabel *label, QCheckBox *) { label->setText(QString(60, QLatin1Char('W'))); }),
+        QStringLiteral("needs"));
+    row("wide text beside the indicator", Spoil([](QLabel *, QCheckBox *box) {
+            while (textWidth(box->fontMetrics(), box->text()) <= box->width() - 20)
+                box->setText(box->text() + QLatin1Char('i'));
+        }),
+        QStringLiteral("needs"));
 }
 
 void TestGeometry::faults_areFound()

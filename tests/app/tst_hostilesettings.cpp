@@ -1,6 +1,7 @@
 #include "drawcontainer.h"
 #include "mainwindowrig.h"
 #include "permissions.h"
+#include "rows.h"
 #include "startinspection.h"
 
 #include <QDir>
@@ -89,17 +90,15 @@ void TestHostileSettings::cleanup()
 
 void TestHostileSettings::strangeFile_startsWithDefaults_data()
 {
-    QTest::addColumn<bool>("exists");
-    QTest::addColumn<QByteArray>("content");
-
-    QTest::newRow("missing") << false << QByteArray();
-    QTest::newRow("empty") << true << QByteArray();
-    QTest::newRow("zeros") << true << QByteArray(4096, '\0');
-    QTest::newRow("megabytes of garbage") << true << garbage(4 << 20);
-    QTest::newRow("a line of megabytes") << true << QByteArray(4 << 20, 'x');
-    QTest::newRow("megabytes of sections") << true << QByteArray("[a]\n").repeated(1 << 20);
-    QTest::newRow("a section that does not end") << true << QByteArray("[setting");
-    QTest::newRow("half a character") << true << QByteArray("[setting]\ncurrentTabIndex=\xe5\xae");
+    const Table<bool, QByteArray> row("exists", "content");
+    row("missing", false, QByteArray());
+    row("empty", true, QByteArray());
+    row("zeros", true, QByteArray(4096, '\0'));
+    row("megabytes of garbage", true, garbage(4 << 20));
+    row("a line of megabytes", true, QByteArray(4 << 20, 'x'));
+    row("megabytes of sections", true, QByteArray("[a]\n").repeated(1 << 20));
+    row("a section that does not end", true, "[setting");
+    row("half a character", true, "[setting]\ncurrentTabIndex=\xe5\xae");
 }
 
 void TestHostileSettings::strangeFile_startsWithDefaults()

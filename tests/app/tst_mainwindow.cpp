@@ -5,6 +5,7 @@
 #include "drawctrlform.h"
 #include "griddrawer.h"
 #include "mainwindowrig.h"
+#include "rows.h"
 #include "savesoon.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
@@ -124,13 +125,12 @@ void TestMainWindow::automaticMode_sendsTheAutomaticGrey()
 
 void TestMainWindow::savedTab_comesBack_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("shown");
+    const Table<QVariant, int> row("stored", "shown");
     for (int tab = 0; tab <= 4; ++tab)
         QTest::addRow("tab %d", tab) << QVariant(tab) << tab;
-    QTest::newRow("too large") << QVariant(70) << 0;
-    QTest::newRow("negative") << QVariant(-3) << 0;
-    QTest::newRow("text") << QVariant(QStringLiteral("first")) << 0;
+    row("too large", 70, 0);
+    row("negative", -3, 0);
+    row("text", QStringLiteral("first"), 0);
 }
 
 void TestMainWindow::savedTab_comesBack()

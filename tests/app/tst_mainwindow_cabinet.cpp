@@ -2,6 +2,7 @@
 #include "drawcontainer.h"
 #include "mainwindowrig.h"
 #include "pictureloader.h"
+#include "rows.h"
 #include "scrgrid.h"
 #include "scrgridctrldialog.h"
 #include "tarntool.h"
@@ -131,9 +132,7 @@ void TestMainWindowCabinet::returningToTheTab_showsTheLayoutOnceAControlIsTouche
 
 void TestMainWindowCabinet::changedLayout_stopsTheGridsRun_data()
 {
-    QTest::addColumn<bool>("changed");
-    QTest::newRow("changed") << true;
-    QTest::newRow("only visited") << false;
+    addRows<bool>("changed", {{"changed", true}, {"only visited", false}});
 }
 
 void TestMainWindowCabinet::changedLayout_stopsTheGridsRun()

@@ -2,6 +2,7 @@
 #include "drawctrlform.h"
 #include "gradualchangectrlwidget.h"
 #include "mainwindowrig.h"
+#include "rows.h"
 #include "scrgridctrldialog.h"
 #include "scriptedpointer.h"
 #include "scrpurityctrldialog.h"
@@ -150,9 +151,8 @@ void TestMainWindowConnections::chosenColour_reachesTheOtherPanels()
 
 void TestMainWindowConnections::overlay_listensToTheTabsPanel_data()
 {
-    QTest::addColumn<QVector<int>>("visited");
-    QTest::addColumn<QVector<int>>("heard");
-    QTest::newRow("before any change of the tab") << QVector<int>{} << QVector<int>{1, 2, 3};
+    const Table<QVector<int>, QVector<int>> row("visited", "heard");
+    row("before any change of the tab", QVector<int>{}, QVector<int>{1, 2, 3});
     for (int tab = 1; tab <= 3; ++tab) {
         QTest::addRow("tab %d", tab) << QVector<int>{tab} << QVector<int>{tab};
         QTest::addRow("tab %d again", tab)
@@ -192,8 +192,7 @@ void TestMainWindowConnections::overlay_listensToTheGridsTestsOnAnyTab()
 
 void TestMainWindowConnections::arrowKeys_belongToTheTab_data()
 {
-    QTest::addColumn<int>("saved");
-    QTest::addColumn<QVector<int>>("visited");
+    const Table<int, QVector<int>> row("saved", "visited");
     for (int tab = 0; tab <= 4; ++tab)
         QTest::addRow("saved %d", tab) << tab << QVector<int>{};
     for (int tab = 0; tab <= 6; ++tab) {
@@ -202,8 +201,8 @@ void TestMainWindowConnections::arrowKeys_belongToTheTab_data()
                 QTest::addRow("%d after %d", tab, before) << 0 << QVector<int>{before, tab};
         }
     }
-    QTest::newRow("0 after a saved 1") << 1 << QVector<int>{0};
-    QTest::newRow("0 after a saved 3") << 3 << QVector<int>{0};
+    row("0 after a saved 1", 1, QVector<int>{0});
+    row("0 after a saved 3", 3, QVector<int>{0});
 }
 
 void TestMainWindowConnections::arrowKeys_belongToTheTab()
@@ -227,17 +226,15 @@ void TestMainWindowConnections::arrowKeys_belongToTheTab()
 
 void TestMainWindowConnections::shiftAndCtrlArrows_stepTheTestWindow_data()
 {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("shift");
-    QTest::addColumn<QRect>("placement");
-    QTest::newRow("lower") << int(Qt::Key_Up) << true << QRect(50, 60, 200, 199);
-    QTest::newRow("higher") << int(Qt::Key_Down) << true << QRect(50, 60, 200, 201);
-    QTest::newRow("narrower") << int(Qt::Key_Left) << true << QRect(50, 60, 199, 200);
-    QTest::newRow("wider") << int(Qt::Key_Right) << true << QRect(50, 60, 201, 200);
-    QTest::newRow("up") << int(Qt::Key_Up) << false << QRect(50, 59, 200, 200);
-    QTest::newRow("down") << int(Qt::Key_Down) << false << QRect(50, 61, 200, 200);
-    QTest::newRow("left") << int(Qt::Key_Left) << false << QRect(49, 60, 200, 200);
-    QTest::newRow("right") << int(Qt::Key_Right) << false << QRect(51, 60, 200, 200);
+    const Table<int, bool, QRect> row("key", "shift", "placement");
+    row("lower", Qt::Key_Up, true, {50, 60, 200, 199});
+    row("higher", Qt::Key_Down, true, {50, 60, 200, 201});
+    row("narrower", Qt::Key_Left, true, {50, 60, 199, 200});
+    row("wider", Qt::Key_Right, true, {50, 60, 201, 200});
+    row("up", Qt::Key_Up, false, {50, 59, 200, 200});
+    row("down", Qt::Key_Down, false, {50, 61, 200, 200});
+    row("left", Qt::Key_Left, false, {49, 60, 200, 200});
+    row("right", Qt::Key_Right, false, {51, 60, 200, 200});
 }
 
 void TestMainWindowConnections::shiftAndCtrlArrows_stepTheTestWindow()

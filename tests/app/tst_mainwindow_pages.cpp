@@ -1,6 +1,7 @@
 #include "gradualchangectrlwidget.h"
 #include "griddrawer.h"
 #include "mainwindowrig.h"
+#include "rows.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
 
@@ -43,7 +44,7 @@ private slots:
     void pageUp_walksTheSameWayBack();
     void pageDownFromOtherTabs_jumpsToTab1_data();
     void pageDownFromOtherTabs_jumpsToTab1();
-    void pageUpFromOtherTabs_jumpsToTab3_data();
+    void pageUpFromOtherTabs_jumpsToTab3_data() { pageDownFromOtherTabs_jumpsToTab1_data(); }
     void pageUpFromOtherTabs_jumpsToTab3();
     void pageUpIntoTheGrid_stepsBackFromWhereItStood();
     void pageKeys_showGradientsOf256Levels_data();
@@ -143,11 +144,6 @@ void TestMainWindowPages::pageDownFromOtherTabs_jumpsToTab1()
     QCOMPARE(MainWindowRig::shownPixel(), qRgb(0, 255, 0));
 }
 
-void TestMainWindowPages::pageUpFromOtherTabs_jumpsToTab3_data()
-{
-    pageDownFromOtherTabs_jumpsToTab1_data();
-}
-
 // From its first step the grid is left again by the same key press.
 void TestMainWindowPages::pageUpFromOtherTabs_jumpsToTab3()
 {
@@ -173,13 +169,10 @@ void TestMainWindowPages::pageUpIntoTheGrid_stepsBackFromWhereItStood()
 
 void TestMainWindowPages::pageKeys_showGradientsOf256Levels_data()
 {
-    QTest::addColumn<int>("tab");
-    QTest::addColumn<Key>("key");
-    QTest::addColumn<int>("steps");
-    QTest::addColumn<int>("color");
-    QTest::newRow("entered downwards") << 1 << &MainWindow::slot_SwitchDownTabControl << 4 << 0;
-    QTest::newRow("downwards") << 2 << &MainWindow::slot_SwitchDownTabControl << 1 << 1;
-    QTest::newRow("entered upwards") << 3 << &MainWindow::slot_SwitchUpTabControl << 1 << 3;
+    const Table<int, Key, int, int> row("tab", "key", "steps", "color");
+    row("entered downwards", 1, &MainWindow::slot_SwitchDownTabControl, 4, 0);
+    row("downwards", 2, &MainWindow::slot_SwitchDownTabControl, 1, 1);
+    row("entered upwards", 3, &MainWindow::slot_SwitchUpTabControl, 1, 3);
 }
 
 void TestMainWindowPages::pageKeys_showGradientsOf256Levels()
@@ -198,10 +191,9 @@ void TestMainWindowPages::pageKeys_showGradientsOf256Levels()
 
 void TestMainWindowPages::leavingTheGrid_releasesHorizontalAndSlantRight_data()
 {
-    QTest::addColumn<Key>("key");
-    QTest::addColumn<int>("index");
-    QTest::newRow("upwards") << &MainWindow::slot_SwitchUpTabControl << 0;
-    QTest::newRow("downwards") << &MainWindow::slot_SwitchDownTabControl << 3;
+    const Table<Key, int> row("key", "index");
+    row("upwards", &MainWindow::slot_SwitchUpTabControl, 0);
+    row("downwards", &MainWindow::slot_SwitchDownTabControl, 3);
 }
 
 void TestMainWindowPages::leavingTheGrid_releasesHorizontalAndSlantRight()
@@ -223,10 +215,9 @@ void TestMainWindowPages::leavingTheGrid_releasesHorizontalAndSlantRight()
 
 void TestMainWindowPages::betweenPurityAndGradient_whiteIsReleased_data()
 {
-    QTest::addColumn<int>("tab");
-    QTest::addColumn<Key>("key");
-    QTest::newRow("downwards") << 1 << &MainWindow::slot_SwitchDownTabControl;
-    QTest::newRow("upwards") << 2 << &MainWindow::slot_SwitchUpTabControl;
+    const Table<int, Key> row("tab", "key");
+    row("downwards", 1, &MainWindow::slot_SwitchDownTabControl);
+    row("upwards", 2, &MainWindow::slot_SwitchUpTabControl);
 }
 
 // Colour buttons are exclusive, and of those the checked one stays; so they are not, here.

@@ -3,6 +3,7 @@
 #include "gradualchangectrlwidget.h"
 #include "mainwindowrig.h"
 #include "paintcounter.h"
+#include "rows.h"
 #include "scrgridctrldialog.h"
 #include "scrpurityctrldialog.h"
 
@@ -131,9 +132,7 @@ void TestMainWindowTabs::changedPattern_stopsTheGridsRun()
 
 void TestMainWindowTabs::changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain_data()
 {
-    QTest::addColumn<bool>("paused");
-    QTest::newRow("paused") << true;
-    QTest::newRow("running") << false;
+    addRows<bool>("paused", {{"paused", true}, {"running", false}});
 }
 
 void TestMainWindowTabs::changeOfTheTab_pressesTheFamiliesOfAPausedGridAgain()

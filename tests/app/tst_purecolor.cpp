@@ -1,5 +1,6 @@
 #include "dictionary.h"
 #include "purecolor.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -22,17 +23,17 @@ constexpr Entry entries[] = {
 
 void addOtherColors()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("black") << QColor(Qt::black);
-    QTest::newRow("invalid") << QColor();
-    QTest::newRow("transparent") << QColor(Qt::transparent);
-    QTest::newRow("red with alpha 254") << QColor(255, 0, 0, 254);
-    QTest::newRow("red with alpha 128") << QColor(255, 0, 0, 128);
-    QTest::newRow("red, one step darker") << QColor(254, 0, 0);
-    QTest::newRow("red in another colour model") << QColor::fromHsv(0, 255, 255);
-    QTest::newRow("cyan in another colour model") << QColor::fromCmyk(255, 0, 0, 0);
-    QTest::newRow("dark green") << QColor(Qt::darkGreen);
-    QTest::newRow("grey") << QColor(Qt::gray);
+    const Table<QColor> row("color");
+    row("black", Qt::black);
+    row("invalid", QColor());
+    row("transparent", Qt::transparent);
+    row("red with alpha 254", {255, 0, 0, 254});
+    row("red with alpha 128", {255, 0, 0, 128});
+    row("red, one step darker", {254, 0, 0});
+    row("red in another colour model", QColor::fromHsv(0, 255, 255));
+    row("cyan in another colour model", QColor::fromCmyk(255, 0, 0, 0));
+    row("dark green", Qt::darkGreen);
+    row("grey", Qt::gray);
 }
 
 } // namespace
@@ -45,14 +46,14 @@ private slots:
     void table_isNumberedInItsOrder();
     void indexOutsideTheTable_givesNothing_data();
     void indexOutsideTheTable_givesNothing();
-    void otherColour_hasNoIndex_data();
+    void otherColour_hasNoIndex_data() { addOtherColors(); }
     void otherColour_hasNoIndex();
     void equalColour_isFoundHoweverItWasMade();
     void name_isTranslatedInTheHelpersContext();
     void pageColours_areTheFirstFour();
 
     void greyScale_setsTheLitChannels();
-    void greyScale_leavesOtherColoursAlone_data();
+    void greyScale_leavesOtherColoursAlone_data() { addOtherColors(); }
     void greyScale_leavesOtherColoursAlone();
     void greyScale_isClamped_data();
     void greyScale_isClamped();
@@ -73,12 +74,11 @@ void TestPureColor::table_isNumberedInItsOrder()
 
 void TestPureColor::indexOutsideTheTable_givesNothing_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::newRow("one too few") << -1;
-    QTest::newRow("one too many") << 7;
-    QTest::newRow("none selected") << 256;
-    QTest::newRow("smallest") << std::numeric_limits<int>::min();
-    QTest::newRow("largest") << std::numeric_limits<int>::max();
+    addRows<int>("index", {{"one too few", -1},
+                           {"one too many", 7},
+                           {"none selected", 256},
+                           {"smallest", std::numeric_limits<int>::min()},
+                           {"largest", std::numeric_limits<int>::max()}});
 }
 
 void TestPureColor::indexOutsideTheTable_givesNothing()
@@ -87,11 +87,6 @@ void TestPureColor::indexOutsideTheTable_givesNothing()
     QVERIFY(!PureColor::at(index).isValid());
     QVERIFY(PureColor::sourceName(index).isNull());
     QVERIFY(PureColor::translatedName(index).isNull());
-}
-
-void TestPureColor::otherColour_hasNoIndex_data()
-{
-    addOtherColors();
 }
 
 void TestPureColor::otherColour_hasNoIndex()
@@ -134,11 +129,6 @@ void TestPureColor::greyScale_setsTheLitChannels()
     }
 }
 
-void TestPureColor::greyScale_leavesOtherColoursAlone_data()
-{
-    addOtherColors();
-}
-
 void TestPureColor::greyScale_leavesOtherColoursAlone()
 {
     QFETCH(const QColor, color);
@@ -148,12 +138,11 @@ void TestPureColor::greyScale_leavesOtherColoursAlone()
 
 void TestPureColor::greyScale_isClamped_data()
 {
-    QTest::addColumn<int>("grey");
-    QTest::addColumn<int>("level");
-    QTest::newRow("below") << -1 << 0;
-    QTest::newRow("far below") << std::numeric_limits<int>::min() << 0;
-    QTest::newRow("above") << 256 << 255;
-    QTest::newRow("far above") << std::numeric_limits<int>::max() << 255;
+    const Table<int, int> row("grey", "level");
+    row("below", -1, 0);
+    row("far below", std::numeric_limits<int>::min(), 0);
+    row("above", 256, 255);
+    row("far above", std::numeric_limits<int>::max(), 255);
 }
 
 void TestPureColor::greyScale_isClamped()

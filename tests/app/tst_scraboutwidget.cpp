@@ -1,4 +1,5 @@
 #include "mainwindowrig.h"
+#include "rows.h"
 #include "scraboutwidget.h"
 #include "shippedtranslation.h"
 
@@ -18,7 +19,7 @@ private slots:
     void content_isBannerThreeNumberedLinesAndATelephone_data();
     void content_isBannerThreeNumberedLinesAndATelephone();
     void height_isAtMost192();
-    void everyText_fitsWithTheFontOfTheStyleSheet_data();
+    void everyText_fitsWithTheFontOfTheStyleSheet_data() { ShippedTranslation::addRows(); }
     void everyText_fitsWithTheFontOfTheStyleSheet();
 
 private:
@@ -57,17 +58,13 @@ void TestScrAboutWidget::fiveLabels_standOneUnderTheOther()
 
 void TestScrAboutWidget::content_isBannerThreeNumberedLinesAndATelephone_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("telephone");
-    const auto row = [](const char *language, const char *telephone) {
-        QTest::newRow(language) << QString::fromLatin1(language) << QString::fromUtf8(telephone);
-    };
-    row("zh_CN", "电话");
-    row("en", "telephone");
-    row("fr", "téléphone");
-    row("de", "Telefon");
-    row("es", "teléfono");
-    row("ru", "телефон");
+    const Table<const char *, const char *> row("language", "telephone");
+    row("zh_CN", "zh_CN", "电话");
+    row("en", "en", "telephone");
+    row("fr", "fr", "téléphone");
+    row("de", "de", "Telefon");
+    row("es", "es", "teléfono");
+    row("ru", "ru", "телефон");
 }
 
 void TestScrAboutWidget::content_isBannerThreeNumberedLinesAndATelephone()
@@ -96,14 +93,6 @@ void TestScrAboutWidget::height_isAtMost192()
     card.resize(585, 400);
     card.show();
     QCOMPARE(card.height(), 192);
-}
-
-void TestScrAboutWidget::everyText_fitsWithTheFontOfTheStyleSheet_data()
-{
-    QTest::addColumn<QString>("language");
-    const QStringList languages = ShippedTranslation::languages();
-    for (const QString &language : languages)
-        QTest::newRow(qPrintable(language)) << language;
 }
 
 void TestScrAboutWidget::everyText_fitsWithTheFontOfTheStyleSheet()

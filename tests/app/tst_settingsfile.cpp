@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "settingsfile.h"
 
 #include <QColor>
@@ -100,15 +101,14 @@ void TestSettingsFile::harmlessLines_takesOutWhatQtWouldTrust()
 
 void TestSettingsFile::harmlessLines_leavesTheRestAsItIs_data()
 {
-    QTest::addColumn<QByteArray>("text");
-
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("numbers") << QByteArray("[setting]\na=1\nb=-2");
-    QTest::newRow("colours") << "[setting]\na=" + color + "\nb=" + color + '\n';
-    QTest::newRow("quoted colour") << "[setting]\na=\"" + color + "\"\n";
-    QTest::newRow("quoted number") << QByteArray("a=\"1\"\nb=\"\"");
-    QTest::newRow("lines of another system") << "[setting]\r\na=1\r\nb=" + color + "\r\nc=2\r\n";
-    QTest::newRow("zeros") << QByteArray(100, '\0');
+    const Table<QByteArray> row("text");
+    row("empty", QByteArray());
+    row("numbers", "[setting]\na=1\nb=-2");
+    row("colours", "[setting]\na=" + color + "\nb=" + color + '\n');
+    row("quoted colour", "[setting]\na=\"" + color + "\"\n");
+    row("quoted number", "a=\"1\"\nb=\"\"");
+    row("lines of another system", "[setting]\r\na=1\r\nb=" + color + "\r\nc=2\r\n");
+    row("zeros", QByteArray(100, '\0'));
 }
 
 void TestSettingsFile::harmlessLines_leavesTheRestAsItIs()
@@ -157,10 +157,8 @@ void TestSettingsFile::open_takesHarmfulValuesOutOnTheDisk()
 
 void TestSettingsFile::open_whereSavingWouldWait_readsAndSavesNothing_data()
 {
-    QTest::addColumn<bool>("isPipe");
-
-    QTest::newRow("a pipe in the file's place") << true;
-    QTest::newRow("a folder in the lock's place") << false;
+    addRows<bool>("isPipe",
+                  {{"a pipe in the file's place", true}, {"a folder in the lock's place", false}});
 }
 
 void TestSettingsFile::open_whereSavingWouldWait_readsAndSavesNothing()

@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "settingsrules.h"
 #include "testsettings.h"
 
@@ -41,54 +42,49 @@ private slots:
 
 void TestSettingsRules::positiveInt_data()
 {
-    QTest::addColumn<QByteArray>("spelled");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("a value") << QByteArray("12") << 12;
-    QTest::newRow("the smallest") << QByteArray("1") << 1;
-    QTest::newRow("the largest") << QByteArray("2147483647") << 2147483647;
-    QTest::newRow("quoted") << QByteArray("\"12\"") << 12;
-    QTest::newRow("zero cannot be stored") << QByteArray("0") << 50;
-    QTest::newRow("negative") << QByteArray("-1") << 50;
-    QTest::newRow("very negative") << QByteArray("-2147483648") << 50;
-    QTest::newRow("empty") << QByteArray() << 50;
-    QTest::newRow("text") << QByteArray("fast") << 50;
-    QTest::newRow("number and text") << QByteArray("12px") << 50;
-    QTest::newRow("list") << QByteArray("12, 13") << 50;
-    QTest::newRow("more than any integer") << QByteArray("99999999999999999999999") << 50;
-    QTest::newRow("binary") << QByteArray(R"(@ByteArray(\0\x1\xff))") << 50;
-    QTest::newRow("invalid") << QByteArray("@Invalid()") << 50;
-    QTest::newRow("size") << QByteArray("@Size(12 12)") << 50;
+    const Table<QByteArray, int> row("spelled", "expected");
+    row("a value", "12", 12);
+    row("the smallest", "1", 1);
+    row("the largest", "2147483647", 2147483647);
+    row("quoted", "\"12\"", 12);
+    row("zero cannot be stored", "0", 50);
+    row("negative", "-1", 50);
+    row("very negative", "-2147483648", 50);
+    row("empty", QByteArray(), 50);
+    row("text", "fast", 50);
+    row("number and text", "12px", 50);
+    row("list", "12, 13", 50);
+    row("more than any integer", "99999999999999999999999", 50);
+    row("binary", R"(@ByteArray(\0\x1\xff))", 50);
+    row("invalid", "@Invalid()", 50);
+    row("size", "@Size(12 12)", 50);
 }
 
 void TestSettingsRules::positiveInt()
 {
     QFETCH(const QByteArray, spelled);
-    QFETCH(const int, expected);
     const TestSettings settings(withValue(spelled));
-    QCOMPARE(SettingsRules::positiveInt(*settings.get(), key, 50), expected);
+    QTEST(SettingsRules::positiveInt(*settings.get(), key, 50), "expected");
 }
 
 void TestSettingsRules::nonZeroInt_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("zero") << QVariant(0) << 50;
-    QTest::newRow("one") << QVariant(1) << 1;
-    QTest::newRow("negative") << QVariant(-7) << -7;
-    QTest::newRow("greatest") << QVariant(2147483647) << 2147483647;
-    QTest::newRow("too great") << QVariant(QStringLiteral("2147483648")) << 50;
-    QTest::newRow("too small") << QVariant(QStringLiteral("-2147483649")) << 50;
-    QTest::newRow("text") << QVariant(QStringLiteral("x")) << 50;
-    QTest::newRow("list") << QVariant(QStringList({QStringLiteral("1"), QStringLiteral("2")}))
-                          << 50;
+    const Table<QVariant, int> row("stored", "expected");
+    row("zero", 0, 50);
+    row("one", 1, 1);
+    row("negative", -7, -7);
+    row("greatest", 2147483647, 2147483647);
+    row("too great", QStringLiteral("2147483648"), 50);
+    row("too small", QStringLiteral("-2147483649"), 50);
+    row("text", QStringLiteral("x"), 50);
+    row("list", QStringList({QStringLiteral("1"), QStringLiteral("2")}), 50);
 }
 
 void TestSettingsRules::nonZeroInt()
 {
     QFETCH(const QVariant, stored);
-    QFETCH(const int, expected);
     TestSettings settings({{QStringLiteral("key"), stored}});
-    QCOMPARE(SettingsRules::nonZeroInt(*settings.get(), latin1("/setting/key"), 50), expected);
+    QTEST(SettingsRules::nonZeroInt(*settings.get(), latin1("/setting/key"), 50), "expected");
 }
 
 void TestSettingsRules::missingValue_isTheDefault()
@@ -101,20 +97,18 @@ void TestSettingsRules::missingValue_isTheDefault()
 
 void TestSettingsRules::color_data()
 {
-    QTest::addColumn<QByteArray>("spelled");
-    QTest::addColumn<QColor>("expected");
-    QTest::newRow("hexadecimal") << QByteArray("#00ff00") << QColor(Qt::green);
-    QTest::newRow("name") << QByteArray("magenta") << QColor(Qt::magenta);
-    QTest::newRow("name of another colour") << QByteArray("gold") << QColor(255, 215, 0);
-    QTest::newRow("empty") << QByteArray() << QColor();
-    QTest::newRow("text") << QByteArray("no colour") << QColor();
-    QTest::newRow("list") << QByteArray("1, 2, 3") << QColor();
-    QTest::newRow("number") << QByteArray("12") << QColor();
-    QTest::newRow("binary") << QByteArray(R"(@ByteArray(\0\x1\xff))") << QColor();
-    QTest::newRow("invalid") << QByteArray("@Invalid()") << QColor();
-    QTest::newRow("size") << QByteArray("@Size(12 12)") << QColor();
-    QTest::newRow("invalid colour")
-        << QByteArray(R"(@Variant(\0\0\0\x43\0\xff\xff\0\0\0\0\0\0\0\0))") << QColor();
+    const Table<QByteArray, QColor> row("spelled", "expected");
+    row("hexadecimal", "#00ff00", Qt::green);
+    row("name", "magenta", Qt::magenta);
+    row("name of another colour", "gold", {255, 215, 0});
+    row("empty", QByteArray(), QColor());
+    row("text", "no colour", QColor());
+    row("list", "1, 2, 3", QColor());
+    row("number", "12", QColor());
+    row("binary", R"(@ByteArray(\0\x1\xff))", QColor());
+    row("invalid", "@Invalid()", QColor());
+    row("size", "@Size(12 12)", QColor());
+    row("invalid colour", R"(@Variant(\0\0\0\x43\0\xff\xff\0\0\0\0\0\0\0\0))", QColor());
 }
 
 void TestSettingsRules::color()
@@ -139,33 +133,30 @@ void TestSettingsRules::colorWrittenAsAColor_isReadBack()
 
 void TestSettingsRules::store_writesTheValue_data()
 {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("inFile");
-    QTest::newRow("int") << QVariant(12) << QStringLiteral("12");
-    QTest::newRow("zero") << QVariant(0) << QStringLiteral("0");
-    QTest::newRow("true") << QVariant(true) << QStringLiteral("true");
-    QTest::newRow("false") << QVariant(false) << QStringLiteral("false");
-    QTest::newRow("text") << QVariant(QStringLiteral("灰度")) << QStringLiteral("灰度");
+    const Table<QVariant, const char *> row("value", "inFile");
+    row("int", 12, "12");
+    row("zero", 0, "0");
+    row("true", true, "true");
+    row("false", false, "false");
+    row("text", QStringLiteral("灰度"), "灰度");
 }
 
 void TestSettingsRules::store_writesTheValue()
 {
     QFETCH(const QVariant, value);
-    QFETCH(const QString, inFile);
     TestSettings settings;
     SettingsRules::store(*settings.get(), key, value);
-    QCOMPARE(settings.stored().value(QStringLiteral("value")).toString(), inFile);
+    QTEST(settings.stored().value(QStringLiteral("value")).toString(), "inFile");
 }
 
 void TestSettingsRules::store_ofWhatTheFileHoldsLeavesItAlone_data()
 {
-    QTest::addColumn<QByteArray>("spelled");
-    QTest::addColumn<QVariant>("value");
     // With blanks, so that a rewrite shows.
-    QTest::newRow("int") << QByteArray("  12") << QVariant(12);
-    QTest::newRow("true") << QByteArray("  true") << QVariant(true);
-    QTest::newRow("false") << QByteArray("  false") << QVariant(false);
-    QTest::newRow("text") << QByteArray("  fast") << QVariant(QStringLiteral("fast"));
+    const Table<QByteArray, QVariant> row("spelled", "value");
+    row("int", "  12", 12);
+    row("true", "  true", true);
+    row("false", "  false", false);
+    row("text", "  fast", QStringLiteral("fast"));
 }
 
 void TestSettingsRules::store_ofWhatTheFileHoldsLeavesItAlone()
@@ -182,29 +173,23 @@ void TestSettingsRules::store_ofWhatTheFileHoldsLeavesItAlone()
 
 void TestSettingsRules::store_ofAnotherValueReplacesIt_data()
 {
-    QTest::addColumn<QByteArray>("spelled");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("inFile");
-    QTest::newRow("another int") << QByteArray("12") << QVariant(13) << QStringLiteral("13");
-    QTest::newRow("zero for text") << QByteArray("fast") << QVariant(0) << QStringLiteral("0");
-    QTest::newRow("zero for nothing") << QByteArray() << QVariant(0) << QStringLiteral("0");
-    QTest::newRow("zero for invalid")
-        << QByteArray("@Invalid()") << QVariant(0) << QStringLiteral("0");
-    QTest::newRow("zero for a list") << QByteArray("1, 2") << QVariant(0) << QStringLiteral("0");
-    QTest::newRow("false for true")
-        << QByteArray("true") << QVariant(false) << QStringLiteral("false");
-    QTest::newRow("false for text")
-        << QByteArray("fast") << QVariant(false) << QStringLiteral("false");
+    const Table<QByteArray, QVariant, const char *> row("spelled", "value", "inFile");
+    row("another int", "12", 13, "13");
+    row("zero for text", "fast", 0, "0");
+    row("zero for nothing", QByteArray(), 0, "0");
+    row("zero for invalid", "@Invalid()", 0, "0");
+    row("zero for a list", "1, 2", 0, "0");
+    row("false for true", "true", false, "false");
+    row("false for text", "fast", false, "false");
 }
 
 void TestSettingsRules::store_ofAnotherValueReplacesIt()
 {
     QFETCH(const QByteArray, spelled);
     QFETCH(const QVariant, value);
-    QFETCH(const QString, inFile);
     const TestSettings settings(withValue(spelled));
     SettingsRules::store(*settings.get(), key, value);
-    QCOMPARE(settings.stored().value(QStringLiteral("value")).toString(), inFile);
+    QTEST(settings.stored().value(QStringLiteral("value")).toString(), "inFile");
 }
 
 void TestSettingsRules::store_ofWhatIsPendingChangesNothing()

@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "terminationsignals.h"
 
 #include <QSignalSpy>
@@ -30,10 +31,7 @@ void countCaught(int /*signal*/)
 
 void TestTerminationSignals::signal_reachesTheEventLoop_data()
 {
-    QTest::addColumn<int>("signal");
-    QTest::newRow("SIGINT") << SIGINT;
-    QTest::newRow("SIGTERM") << SIGTERM;
-    QTest::newRow("SIGHUP") << SIGHUP;
+    addRows<int>("signal", {{"SIGINT", SIGINT}, {"SIGTERM", SIGTERM}, {"SIGHUP", SIGHUP}});
 }
 
 void TestTerminationSignals::signal_reachesTheEventLoop()

@@ -1,6 +1,7 @@
 #include "advancedsetup.h"
 #include "cabinetrig.h"
 #include "dictionary.h"
+#include "rows.h"
 #include "scrgridrig.h"
 #include "titlebar.h"
 
@@ -152,18 +153,15 @@ void TestAdvancedSetup::storedFontShapeOf5OrMinus1_selectsNormal()
 
 void TestAdvancedSetup::storedValue_isShownClampedAndDrawnAsItIs_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("drawn"); // -1: the default
-    QTest::newRow("within") << QVariant(7) << 7;
-    QTest::newRow("beyond") << QVariant(5000) << 5000;
-    QTest::newRow("negative") << QVariant(-70) << -70;
-    QTest::newRow("greatest") << QVariant(std::numeric_limits<int>::max())
-                              << std::numeric_limits<int>::max();
-    QTest::newRow("text") << QVariant(QStringLiteral("x")) << 0;
-    QTest::newRow("beyond an int") << QVariant(QStringLiteral("99999999999")) << 0;
-    QTest::newRow("empty") << QVariant(QString()) << -1;
-    QTest::newRow("list") << QVariant(QStringList({QStringLiteral("3"), QStringLiteral("4")}))
-                          << -1;
+    const Table<QVariant, int> row("stored", "drawn");
+    row("within", 7, 7);
+    row("beyond", 5000, 5000);
+    row("negative", -70, -70);
+    row("greatest", std::numeric_limits<int>::max(), std::numeric_limits<int>::max());
+    row("text", QStringLiteral("x"), 0);
+    row("beyond an int", QStringLiteral("99999999999"), 0);
+    row("empty", QString(), -1);
+    row("list", QStringList({QStringLiteral("3"), QStringLiteral("4")}), -1);
 }
 
 void TestAdvancedSetup::storedValue_isShownClampedAndDrawnAsItIs()

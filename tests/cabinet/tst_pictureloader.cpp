@@ -1,6 +1,7 @@
 #include "permissions.h"
 #include "picturefolder.h"
 #include "pictureloader.h"
+#include "rows.h"
 
 #include <QDateTime>
 #include <QImage>
@@ -87,7 +88,7 @@ class TestPictureLoader : public QObject
     Q_OBJECT
 
 private slots:
-    void picture_isReadAsQtReadsItEvenIfCutOff_data();
+    void picture_isReadAsQtReadsItEvenIfCutOff_data() { addPictures(); }
     void picture_isReadAsQtReadsItEvenIfCutOff();
     void bmpFromTopToBottom_isReadAsQtReadsIt();
     void missingRowsOfABmp_areBlack();
@@ -110,11 +111,6 @@ private:
 
     PictureFolder m_folder;
 };
-
-void TestPictureLoader::picture_isReadAsQtReadsItEvenIfCutOff_data()
-{
-    addPictures();
-}
 
 void TestPictureLoader::picture_isReadAsQtReadsItEvenIfCutOff()
 {
@@ -194,26 +190,26 @@ void TestPictureLoader::veryLargeJpeg_isReducedWhileItIsDecoded()
 
 void TestPictureLoader::pictureWithTooManyPixels_isNone_data()
 {
-    QTest::addColumn<QByteArray>("data");
     QByteArray header = PictureFolder::encoded(noise(QImage::Format_RGB32), "BMP");
     header.replace(18, 8, QByteArray::fromHex("0040000001400000"));
-    QTest::newRow("BMP that declares them") << header;
+    const Table<QByteArray> row("data");
+    row("BMP that declares them", header);
     header.replace(18, 8, QByteArray::fromHex("00400000ffbfffff"));
-    QTest::newRow("BMP that declares them from top to bottom") << header;
+    row("BMP that declares them from top to bottom", header);
     header.replace(18, 8, QByteArray::fromHex("ffffff7fffffff7f"));
-    QTest::newRow("BMP that declares the most") << header;
+    row("BMP that declares the most", header);
     header.replace(18, 8, QByteArray::fromHex("0100000000000080"));
-    QTest::newRow("BMP that declares the least height") << header;
+    row("BMP that declares the least height", header);
     header.replace(18, 8, QByteArray::fromHex("ffffffff01000000"));
-    QTest::newRow("BMP of a negative width") << header;
-    QTest::newRow("PPM that declares them") << QByteArray("P6 16384 16385 255\n") + header;
+    row("BMP of a negative width", header);
+    row("PPM that declares them", QByteArray("P6 16384 16385 255\n") + header);
     QByteArray wide = gif();
     for (const int place : {6, 24}) // the screen and the picture on it
         wide.replace(place, 4, QByteArray::fromHex("ffffffff"));
-    QTest::newRow("GIF that declares them") << wide;
-    QTest::newRow("PNG that declares them") << png("000040000000400108060000006294c321");
+    row("GIF that declares them", wide);
+    row("PNG that declares them", png("000040000000400108060000006294c321"));
     // 16 bits a colour: half as many pixels, 16384 x 8192.
-    QTest::newRow("deep PNG that declares them") << png("00004000000020011006000000b9b25387");
+    row("deep PNG that declares them", png("00004000000020011006000000b9b25387"));
 }
 
 void TestPictureLoader::pictureWithTooManyPixels_isNone()
@@ -228,13 +224,13 @@ void TestPictureLoader::pictureWithTooManyPixels_isNone()
 
 void TestPictureLoader::dataThatIsNoPicture_isNone_data()
 {
-    QTest::addColumn<QByteArray>("data");
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("zeros") << QByteArray(5000, '\0');
-    QTest::newRow("text") << QByteArray("no picture");
-    QTest::newRow("only the start of a PNG") << QByteArray("\x89PNG\r\n\x1a\n");
-    QTest::newRow("drawing instructions")
-        << QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>");
+    const Table<QByteArray> row("data");
+    row("nothing", QByteArray());
+    row("zeros", QByteArray(5000, '\0'));
+    row("text", "no picture");
+    row("only the start of a PNG", "\x89PNG\r\n\x1a\n");
+    row("drawing instructions",
+        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>");
 }
 
 void TestPictureLoader::dataThatIsNoPicture_isNone()
@@ -306,22 +302,22 @@ void TestPictureLoader::header_isReadWithoutDecoding()
 
 void TestPictureLoader::whatIsNoReadableFile_isNone_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::newRow("empty path") << QString();
-    QTest::newRow("missing") << m_folder.path() + QStringLiteral("/missing");
-    QTest::newRow("folder") << m_folder.path();
+    const Table<QString> row("path");
+    row("empty path", QString());
+    row("missing", m_folder.path() + QStringLiteral("/missing"));
+    row("folder", m_folder.path());
 #ifdef Q_OS_UNIX
     const QString pipe = m_folder.path() + QStringLiteral("/pipe");
     QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    QTest::newRow("pipe") << pipe;
+    row("pipe", pipe);
     const QString link = m_folder.path() + QStringLiteral("/link");
     QVERIFY(QFile::link(pipe, link));
-    QTest::newRow("link to a pipe") << link;
-    QTest::newRow("device without end") << QStringLiteral("/dev/zero");
+    row("link to a pipe", link);
+    row("device without end", QStringLiteral("/dev/zero"));
 #endif
     QFile locked(m_folder.add(Qt::red));
     QVERIFY(locked.setPermissions(QFileDevice::Permissions()));
-    QTest::newRow("unreadable") << locked.fileName();
+    row("unreadable", locked.fileName());
 }
 
 void TestPictureLoader::whatIsNoReadableFile_isNone()

@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "scrgridrig.h"
 
 #include <QPainter>
@@ -127,12 +128,11 @@ void TestScrGrid::newOrDisabledDrawer_paintsNothing()
 
 void TestScrGrid::firstStart_showsModulesBoardsAndNumbers_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("leftToRight");
-    QTest::newRow("left to right") << QSize(256, 256) << true;
-    QTest::newRow("right to left") << QSize(256, 256) << false;
-    QTest::newRow("with parts, left to right") << QSize(250, 247) << true;
-    QTest::newRow("with parts, right to left") << QSize(250, 247) << false;
+    const Table<QSize, bool> row("size", "leftToRight");
+    row("left to right", {256, 256}, true);
+    row("right to left", {256, 256}, false);
+    row("with parts, left to right", {250, 247}, true);
+    row("with parts, right to left", {250, 247}, false);
 }
 
 void TestScrGrid::firstStart_showsModulesBoardsAndNumbers()
@@ -196,22 +196,15 @@ void TestScrGrid::windowOfWholeCells_numbersOneMoreColumnBeyond()
 
 void TestScrGrid::numbers_growInTheOrderOfTheColumns_data()
 {
-    QTest::addColumn<bool>("leftToRight");
-    QTest::addColumn<int>("beginRow");
-    QTest::addColumn<int>("beginColumn");
-    QTest::addColumn<QPoint>("place"); // of a cell in a window of 3 cells and a part
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char *name, bool leftToRight, int beginRow, int beginColumn,
-                        const QPoint &place, const char *text) {
-        QTest::newRow(name) << leftToRight << beginRow << beginColumn << place
-                            << QString::fromLatin1(text);
-    };
-    row("from zero at the left", true, 0, 0, QPoint(0, 0), "0000");
-    row("from zero at the right", false, 0, 0, QPoint(136, 0), "0000");
-    row("second from the left", true, 11, 104, QPoint(64, 32), "12105");
-    row("second from the right", false, 11, 104, QPoint(72, 32), "12105");
-    row("third from the left", true, 11, 104, QPoint(128, 0), "11106");
-    row("third from the right", false, 11, 104, QPoint(8, 0), "11106");
+    // The place is that of a cell in a window of 3 cells and a part.
+    const Table<bool, int, int, QPoint, const char *> row("leftToRight", "beginRow", "beginColumn",
+                                                          "place", "text");
+    row("from zero at the left", true, 0, 0, {0, 0}, "0000");
+    row("from zero at the right", false, 0, 0, {136, 0}, "0000");
+    row("second from the left", true, 11, 104, {64, 32}, "12105");
+    row("second from the right", false, 11, 104, {72, 32}, "12105");
+    row("third from the left", true, 11, 104, {128, 0}, "11106");
+    row("third from the right", false, 11, 104, {8, 0}, "11106");
 }
 
 void TestScrGrid::numbers_growInTheOrderOfTheColumns()

@@ -1,5 +1,6 @@
 #include "griddrawer.h"
 #include "picturefolder.h"
+#include "rows.h"
 #include "scrgridwindow.h"
 #include "scrpurity.h"
 
@@ -101,12 +102,11 @@ void TestScrGridBackground::window_isCoveredByTheLayout()
 
 void TestScrGridBackground::unchangedBackground_asksForNoPaint_data()
 {
-    QTest::addColumn<bool>("picture");
-    QTest::addColumn<bool>("oldTest");
-    QTest::newRow("colour") << false << false;
-    QTest::newRow("picture") << true << false;
-    QTest::newRow("old test over a colour") << false << true;
-    QTest::newRow("old test over a picture") << true << true;
+    const Table<bool, bool> row("picture", "oldTest");
+    row("colour", false, false);
+    row("picture", true, false);
+    row("old test over a colour", false, true);
+    row("old test over a picture", true, true);
 }
 
 void TestScrGridBackground::unchangedBackground_asksForNoPaint()

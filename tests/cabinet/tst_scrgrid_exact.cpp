@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "scrgridrig.h"
 
 #include <QPainter>
@@ -123,11 +124,10 @@ private slots:
 
 void TestScrGridExact::layoutsByLot_matchCallByCall_data()
 {
-    QTest::addColumn<qreal>("scale");
-    QTest::addColumn<int>("combinations");
-    QTest::newRow("plain") << qreal(1) << 600;
-    QTest::newRow("twofold") << qreal(2) << 60;
-    QTest::newRow("one and a half") << qreal(1.5) << 60;
+    const Table<qreal, int> row("scale", "combinations");
+    row("plain", qreal(1), 600);
+    row("twofold", qreal(2), 60);
+    row("one and a half", qreal(1.5), 60);
 }
 
 void TestScrGridExact::layoutsByLot_matchCallByCall()
@@ -179,8 +179,7 @@ Q_DECLARE_METATYPE(Change)
 
 void TestScrGridExact::everyField_isNoticed_data()
 {
-    QTest::addColumn<Change>("change");
-    const auto row = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
+    const Table<Change> row("change");
     row("background colour", [](ScrGrid &d) { d.m_bgColor = Qt::darkGray; });
     row("picture", [](ScrGrid &d) {
         d.m_bgPicturePath = QStringLiteral("picture");

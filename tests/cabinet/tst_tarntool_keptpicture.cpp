@@ -14,7 +14,7 @@ private slots:
     void keptPictureThatIsNotSeen_isNotDecoded();
     void damagedKeptPicture_countsAsNoneOnceItIsSeen();
     void damagedKeptPicture_isAskedForAgain();
-    void whatIsKeptAndIsNoPicture_countsAsNone_data();
+    void whatIsKeptAndIsNoPicture_countsAsNone_data() { addWhatIsNoPicture(); }
     void whatIsKeptAndIsNoPicture_countsAsNone();
     void pictureButton_takesTheKeptPicture();
 };
@@ -103,11 +103,6 @@ void TestTarnToolKeptPicture::damagedKeptPicture_isAskedForAgain()
     DialogAnswers::file(pictures.add(QColor(Qt::blue)));
     rig.click("radioPicture");
     QCOMPARE(cornerOf(rig), qRgb(0, 0, 255));
-}
-
-void TestTarnToolKeptPicture::whatIsKeptAndIsNoPicture_countsAsNone_data()
-{
-    addWhatIsNoPicture();
 }
 
 void TestTarnToolKeptPicture::whatIsKeptAndIsNoPicture_countsAsNone()

@@ -1,6 +1,7 @@
 #include "cabinetrig.h"
 #include "colordialog.h"
 #include "picturefolder.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -42,7 +43,7 @@ private slots:
     void storedAdvancedValue_reachesTheDrawer();
     void colour_isChosenStoredAndShown_data();
     void colour_isChosenStoredAndShown();
-    void cancelledColour_changesNothing_data();
+    void cancelledColour_changesNothing_data() { colour_isChosenStoredAndShown_data(); }
     void cancelledColour_changesNothing();
     void clickOnTheColourLabelWhilePictureIsSelected_doesNothing();
     void spaceKey_opensTheColourOfTheLabel();
@@ -77,17 +78,14 @@ void TestTarnToolSettings::withoutAKeptPicture_theStoredChoiceOfOneIsIgnored()
 
 void TestTarnToolSettings::storedCount_isShownWithinItsLimits_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("count");
-    QTest::newRow("zero") << QVariant(0) << 32 << 16 << 2;
-    QTest::newRow("five") << QVariant(5) << 16 << 16 << 5;
-    QTest::newRow("within") << QVariant(64) << 64 << 64 << 64;
-    QTest::newRow("greatest") << QVariant(100) << 100 << 100 << 100;
-    QTest::newRow("beyond") << QVariant(101) << 100 << 100 << 100;
-    QTest::newRow("huge") << QVariant(std::numeric_limits<int>::max()) << 100 << 100 << 100;
-    QTest::newRow("negative") << QVariant(-5) << 16 << 16 << 1;
+    const Table<QVariant, int, int, int> row("stored", "width", "height", "count");
+    row("zero", 0, 32, 16, 2);
+    row("five", 5, 16, 16, 5);
+    row("within", 64, 64, 64, 64);
+    row("greatest", 100, 100, 100, 100);
+    row("beyond", 101, 100, 100, 100);
+    row("huge", std::numeric_limits<int>::max(), 100, 100, 100);
+    row("negative", -5, 16, 16, 1);
 }
 
 void TestTarnToolSettings::storedCount_isShownWithinItsLimits()
@@ -105,15 +103,13 @@ void TestTarnToolSettings::storedCount_isShownWithinItsLimits()
 
 void TestTarnToolSettings::storedAdvancedValue_reachesTheDrawer_data()
 {
-    QTest::addColumn<int>("field");
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("value");
+    const Table<int, QVariant, int> row("field", "stored", "value");
     for (int field = 0; field < 6; ++field) {
         const QByteArray name(advancedKeys[field]);
-        QTest::newRow(name + ", int") << field << QVariant(7) << 7;
-        QTest::newRow(name + ", text") << field << QVariant(QStringLiteral("7")) << 7;
-        QTest::newRow(name + ", no number") << field << QVariant(QStringLiteral("x")) << 0;
-        QTest::newRow(name + ", unclamped") << field << QVariant(-12345) << -12345;
+        row(name + ", int", field, 7, 7);
+        row(name + ", text", field, QStringLiteral("7"), 7);
+        row(name + ", no number", field, QStringLiteral("x"), 0);
+        row(name + ", unclamped", field, -12345, -12345);
     }
 }
 
@@ -165,11 +161,6 @@ void TestTarnToolSettings::colour_isChosenStoredAndShown()
     QVERIFY(rig.drawer->active);
 }
 
-void TestTarnToolSettings::cancelledColour_changesNothing_data()
-{
-    colour_isChosenStoredAndShown_data();
-}
-
 void TestTarnToolSettings::cancelledColour_changesNothing()
 {
     QFETCH(const int, index);
@@ -217,17 +208,15 @@ void TestTarnToolSettings::spaceKey_opensTheColourOfTheLabel()
 
 void TestTarnToolSettings::storedColour_countsOnlyWithItsStyle_data()
 {
-    QTest::addColumn<QString>("style");
-    QTest::addColumn<QVariant>("color");
-    QTest::addColumn<bool>("counts");
     const QString style = QStringLiteral("background-color: rgb(1,2,3)");
-    QTest::newRow("both") << style << QVariant(QColor(1, 2, 3)) << true;
-    QTest::newRow("colour by name") << style << QVariant(QStringLiteral("#010203")) << true;
-    QTest::newRow("without style") << QString() << QVariant(QColor(1, 2, 3)) << false;
-    QTest::newRow("without colour") << style << QVariant() << false;
-    QTest::newRow("no colour") << style << QVariant(QStringLiteral("x")) << false;
-    QTest::newRow("invalid colour") << style << QVariant(QColor()) << false;
-    QTest::newRow("number") << style << QVariant(77) << false;
+    const Table<QString, QVariant, bool> row("style", "color", "counts");
+    row("both", style, QColor(1, 2, 3), true);
+    row("colour by name", style, QStringLiteral("#010203"), true);
+    row("without style", QString(), QColor(1, 2, 3), false);
+    row("without colour", style, QVariant(), false);
+    row("no colour", style, QStringLiteral("x"), false);
+    row("invalid colour", style, QColor(), false);
+    row("number", style, 77, false);
 }
 
 void TestTarnToolSettings::storedColour_countsOnlyWithItsStyle()

@@ -1,4 +1,5 @@
 #include "displayfaults.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -34,21 +35,19 @@ private slots:
 
 void tst_DisplayFaults::isGammaAltered_data()
 {
-    QTest::addColumn<QVector<quint16>>("levels");
-    QTest::addColumn<bool>("altered");
-
-    QTest::newRow("straight") << ramp(256, 1) << false;
-    QTest::newRow("straight, of 10 bits") << ramp(1024, 1) << false;
-    QTest::newRow("straight, without the lower 8 bits") << ramp(256, 1, 65280) << false;
-    QTest::newRow("darker in the middle") << ramp(256, 1.02) << true;
-    QTest::newRow("brighter in the middle") << ramp(256, 0.98) << true;
-    QTest::newRow("one level below white") << ramp(256, 1, 65535 - 256) << true;
-    QTest::newRow("two levels only") << QVector<quint16>{0, 40000} << true;
-    QTest::newRow("falling, inverted colours") << QVector<quint16>{65535, 32768, 0} << true;
-    QTest::newRow("level") << QVector<quint16>(256, 0) << false;
-    QTest::newRow("up and down") << QVector<quint16>{0, 16224, 8, 53872, 30062} << false;
-    QTest::newRow("not told") << QVector<quint16>() << false;
-    QTest::newRow("a single level") << QVector<quint16>{65535} << false;
+    const Table<QVector<quint16>, bool> row("levels", "altered");
+    row("straight", ramp(256, 1), false);
+    row("straight, of 10 bits", ramp(1024, 1), false);
+    row("straight, without the lower 8 bits", ramp(256, 1, 65280), false);
+    row("darker in the middle", ramp(256, 1.02), true);
+    row("brighter in the middle", ramp(256, 0.98), true);
+    row("one level below white", ramp(256, 1, 65535 - 256), true);
+    row("two levels only", QVector<quint16>{0, 40000}, true);
+    row("falling, inverted colours", QVector<quint16>{65535, 32768, 0}, true);
+    row("level", QVector<quint16>(256, 0), false);
+    row("up and down", QVector<quint16>{0, 16224, 8, 53872, 30062}, false);
+    row("not told", QVector<quint16>(), false);
+    row("a single level", QVector<quint16>{65535}, false);
 }
 
 void tst_DisplayFaults::isGammaAltered()
@@ -59,18 +58,15 @@ void tst_DisplayFaults::isGammaAltered()
 
 void tst_DisplayFaults::isScaled_data()
 {
-    QTest::addColumn<QVector<QSize>>("outputs");
-    QTest::addColumn<QVector<QSize>>("screens");
-    QTest::addColumn<bool>("scaled");
+    const Table<QVector<QSize>, QVector<QSize>, bool> row("outputs", "screens", "scaled");
 
     const QSize hd(1920, 1080);
     const QSize uhd(3840, 2160);
-    QTest::newRow("as they are") << QVector<QSize>{hd, uhd} << QVector<QSize>{uhd, hd} << false;
-    QTest::newRow("one and a half") << QVector<QSize>{uhd} << QVector<QSize>{{2560, 1440}} << true;
-    QTest::newRow("one of two") << QVector<QSize>{hd, uhd} << QVector<QSize>{hd, {2560, 1440}}
-                                << true;
-    QTest::newRow("turned") << QVector<QSize>{hd} << QVector<QSize>{{1080, 1920}} << false;
-    QTest::newRow("no compositor") << QVector<QSize>() << QVector<QSize>{hd} << false;
+    row("as they are", QVector<QSize>{hd, uhd}, QVector<QSize>{uhd, hd}, false);
+    row("one and a half", QVector<QSize>{uhd}, QVector<QSize>{{2560, 1440}}, true);
+    row("one of two", QVector<QSize>{hd, uhd}, QVector<QSize>{hd, {2560, 1440}}, true);
+    row("turned", QVector<QSize>{hd}, QVector<QSize>{{1080, 1920}}, false);
+    row("no compositor", QVector<QSize>(), QVector<QSize>{hd}, false);
 }
 
 void tst_DisplayFaults::isScaled()
@@ -82,14 +78,12 @@ void tst_DisplayFaults::isScaled()
 
 void tst_DisplayFaults::isDepthTooLow_data()
 {
-    QTest::addColumn<int>("bits");
-    QTest::addColumn<bool>("tooLow");
-
-    QTest::newRow("16") << 16 << true;
-    QTest::newRow("18") << 18 << true;
-    QTest::newRow("24") << 24 << false;
-    QTest::newRow("30") << 30 << false;
-    QTest::newRow("32") << 32 << false;
+    const Table<int, bool> row("bits", "tooLow");
+    row("16", 16, true);
+    row("18", 18, true);
+    row("24", 24, false);
+    row("30", 30, false);
+    row("32", 32, false);
 }
 
 void tst_DisplayFaults::isDepthTooLow()
@@ -100,15 +94,13 @@ void tst_DisplayFaults::isDepthTooLow()
 
 void tst_DisplayFaults::isPartlyOffScreen_data()
 {
-    QTest::addColumn<QRect>("window");
-    QTest::addColumn<bool>("off");
-
-    QTest::newRow("on the first") << QRect(0, 0, 1920, 1080) << false;
-    QTest::newRow("across both") << QRect(1900, 0, 100, 1080) << false;
-    QTest::newRow("one column left of the first") << QRect(-1, 0, 100, 100) << true;
-    QTest::newRow("one row below the second") << QRect(1920, 981, 100, 100) << true;
-    QTest::newRow("across both, below the second") << QRect(1900, 1000, 100, 200) << true;
-    QTest::newRow("on none") << QRect(5000, 0, 10, 10) << true;
+    const Table<QRect, bool> row("window", "off");
+    row("on the first", {0, 0, 1920, 1080}, false);
+    row("across both", {1900, 0, 100, 1080}, false);
+    row("one column left of the first", {-1, 0, 100, 100}, true);
+    row("one row below the second", {1920, 981, 100, 100}, true);
+    row("across both, below the second", {1900, 1000, 100, 200}, true);
+    row("on none", {5000, 0, 10, 10}, true);
 }
 
 void tst_DisplayFaults::isPartlyOffScreen()

@@ -1,5 +1,6 @@
 #include "endtoendtest.h"
 #include "gridimage.h"
+#include "rows.h"
 #include "waiting.h"
 
 #include <QImage>
@@ -107,10 +108,9 @@ QStringList tst_e2e_gridrun::collect(int changes)
 
 void tst_e2e_gridrun::runInTheMiddle_isResumedAndGoesThroughItsPictures_data()
 {
-    QTest::addColumn<QPoint>("button");
-    QTest::addColumn<QString>("cycle");
-    QTest::newRow("aging") << agingButton << QStringLiteral("red green blue white");
-    QTest::newRow("merged") << mergedButton << QStringLiteral("red blue horizontal slant-right");
+    const Table<QPoint, const char *> row("button", "cycle");
+    row("aging", agingButton, "red green blue white");
+    row("merged", mergedButton, "red blue horizontal slant-right");
 }
 
 void tst_e2e_gridrun::runInTheMiddle_isResumedAndGoesThroughItsPictures()

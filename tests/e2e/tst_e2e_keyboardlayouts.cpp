@@ -1,4 +1,5 @@
 #include "endtoendtest.h"
+#include "rows.h"
 #include "waiting.h"
 
 #include <QProcess>
@@ -16,18 +17,12 @@ private slots:
 
 void tst_e2e_keyboardlayouts::shortcuts_workOnEveryLayout_data()
 {
-    QTest::addColumn<QStringList>("layout");
-    QTest::addColumn<QByteArray>("f");
-    QTest::addColumn<QByteArray>("h");
+    const Table<QStringList, QByteArray, QByteArray> row("layout", "f", "h");
 
-    QTest::newRow("Russian") << QStringList{QStringLiteral("ru")} << QByteArray("Cyrillic_a")
-                             << QByteArray("Cyrillic_er");
-    QTest::newRow("Greek") << QStringList{QStringLiteral("gr")} << QByteArray("Greek_phi")
-                           << QByteArray("Greek_eta");
-    QTest::newRow("French") << QStringList{QStringLiteral("fr")} << QByteArray("f")
-                            << QByteArray("h");
-    QTest::newRow("Dvorak") << QStringList{QStringLiteral("us"), QStringLiteral("dvorak")}
-                            << QByteArray("f") << QByteArray("h");
+    row("Russian", QStringList{QStringLiteral("ru")}, "Cyrillic_a", "Cyrillic_er");
+    row("Greek", QStringList{QStringLiteral("gr")}, "Greek_phi", "Greek_eta");
+    row("French", QStringList{QStringLiteral("fr")}, "f", "h");
+    row("Dvorak", QStringList{QStringLiteral("us"), QStringLiteral("dvorak")}, "f", "h");
 }
 
 void tst_e2e_keyboardlayouts::shortcuts_workOnEveryLayout()

@@ -1,4 +1,5 @@
 #include "endtoendtest.h"
+#include "rows.h"
 #include "waiting.h"
 
 #include <QDir>
@@ -39,15 +40,13 @@ bool tst_e2e_language::titleIs(const QString &title)
 
 void tst_e2e_language::firstArgument_choosesTheLanguage_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("title");
+    const Table<QStringList, QString> row("arguments", "title");
 
-    QTest::newRow("none: Chinese") << QStringList() << chineseTitle();
-    QTest::newRow("en: English") << QStringList(QStringLiteral("en"))
-                                 << QStringLiteral("LED Screen Test Tool - Tarn");
-    QTest::newRow("a second argument is ignored")
-        << QStringList{QStringLiteral("ru"), QStringLiteral("fr")}
-        << QStringLiteral("Инструмент проверки LED-экранов - Tarn");
+    row("none: Chinese", QStringList(), chineseTitle());
+    row("en: English", QStringList(QStringLiteral("en")),
+        QStringLiteral("LED Screen Test Tool - Tarn"));
+    row("a second argument is ignored", QStringList{QStringLiteral("ru"), QStringLiteral("fr")},
+        QStringLiteral("Инструмент проверки LED-экранов - Tarn"));
 }
 
 void tst_e2e_language::firstArgument_choosesTheLanguage()

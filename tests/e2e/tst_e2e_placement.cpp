@@ -1,4 +1,5 @@
 #include "endtoendtest.h"
+#include "rows.h"
 #include "waiting.h"
 
 #include <QTest>
@@ -97,18 +98,15 @@ void tst_e2e_placement::shiftH()
 
 void tst_e2e_placement::arrows_moveAndResizeByOnePixel_data()
 {
-    QTest::addColumn<QByteArray>("key");
-    QTest::addColumn<bool>("shift");
-    QTest::addColumn<QRect>("place");
-
-    QTest::newRow("Ctrl+Left") << QByteArray("Left") << false << Start.translated(-1, 0);
-    QTest::newRow("Ctrl+Right") << QByteArray("Right") << false << Start.translated(1, 0);
-    QTest::newRow("Ctrl+Up") << QByteArray("Up") << false << Start.translated(0, -1);
-    QTest::newRow("Ctrl+Down") << QByteArray("Down") << false << Start.translated(0, 1);
-    QTest::newRow("Shift+Left") << QByteArray("Left") << true << Start.adjusted(0, 0, -1, 0);
-    QTest::newRow("Shift+Right") << QByteArray("Right") << true << Start.adjusted(0, 0, 1, 0);
-    QTest::newRow("Shift+Up") << QByteArray("Up") << true << Start.adjusted(0, 0, 0, -1);
-    QTest::newRow("Shift+Down") << QByteArray("Down") << true << Start.adjusted(0, 0, 0, 1);
+    const Table<QByteArray, bool, QRect> row("key", "shift", "place");
+    row("Ctrl+Left", "Left", false, Start.translated(-1, 0));
+    row("Ctrl+Right", "Right", false, Start.translated(1, 0));
+    row("Ctrl+Up", "Up", false, Start.translated(0, -1));
+    row("Ctrl+Down", "Down", false, Start.translated(0, 1));
+    row("Shift+Left", "Left", true, Start.adjusted(0, 0, -1, 0));
+    row("Shift+Right", "Right", true, Start.adjusted(0, 0, 1, 0));
+    row("Shift+Up", "Up", true, Start.adjusted(0, 0, 0, -1));
+    row("Shift+Down", "Down", true, Start.adjusted(0, 0, 0, 1));
 }
 
 void tst_e2e_placement::arrows_moveAndResizeByOnePixel()
@@ -126,20 +124,18 @@ void tst_e2e_placement::arrows_moveAndResizeByOnePixel()
 
 void tst_e2e_placement::drag_movesOrResizes_andThePanelFollows_data()
 {
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<QRect>("place");
     const QPoint c = Start.center();
-
     // By 23 pixels to the left and 17 down.
-    QTest::newRow("inside") << c << Start.translated(-23, 17);
-    QTest::newRow("left") << QPoint(Start.left(), c.y()) << Start.adjusted(-23, 0, 0, 0);
-    QTest::newRow("right") << QPoint(Start.right(), c.y()) << Start.adjusted(0, 0, -23, 0);
-    QTest::newRow("top") << QPoint(c.x(), Start.top()) << Start.adjusted(0, 17, 0, 0);
-    QTest::newRow("bottom") << QPoint(c.x(), Start.bottom()) << Start.adjusted(0, 0, 0, 17);
-    QTest::newRow("top left") << Start.topLeft() << Start.adjusted(-23, 17, 0, 0);
-    QTest::newRow("top right") << Start.topRight() << Start.adjusted(0, 17, -23, 0);
-    QTest::newRow("bottom left") << Start.bottomLeft() << Start.adjusted(-23, 0, 0, 17);
-    QTest::newRow("bottom right") << Start.bottomRight() << Start.adjusted(0, 0, -23, 17);
+    const Table<QPoint, QRect> row("from", "place");
+    row("inside", c, Start.translated(-23, 17));
+    row("left", {Start.left(), c.y()}, Start.adjusted(-23, 0, 0, 0));
+    row("right", {Start.right(), c.y()}, Start.adjusted(0, 0, -23, 0));
+    row("top", {c.x(), Start.top()}, Start.adjusted(0, 17, 0, 0));
+    row("bottom", {c.x(), Start.bottom()}, Start.adjusted(0, 0, 0, 17));
+    row("top left", Start.topLeft(), Start.adjusted(-23, 17, 0, 0));
+    row("top right", Start.topRight(), Start.adjusted(0, 17, -23, 0));
+    row("bottom left", Start.bottomLeft(), Start.adjusted(-23, 0, 0, 17));
+    row("bottom right", Start.bottomRight(), Start.adjusted(0, 0, -23, 17));
 }
 
 void tst_e2e_placement::drag_movesOrResizes_andThePanelFollows()
@@ -165,11 +161,8 @@ void tst_e2e_placement::drag_movesOrResizes_andThePanelFollows()
 
 void tst_e2e_placement::hidingAndShowing_keepTheButtonsRight_data()
 {
-    QTest::addColumn<QByteArray>("hider");
-
-    QTest::newRow("button") << QByteArray("button");
-    QTest::newRow("Shift+H") << QByteArray("key");
-    QTest::newRow("context menu") << QByteArray("menu");
+    addRows<QByteArray>("hider",
+                        {{"button", "button"}, {"Shift+H", "key"}, {"context menu", "menu"}});
 }
 
 /// A disabled button does nothing, so each click shows that its button was right.
@@ -234,10 +227,8 @@ void tst_e2e_placement::restart_bringsPlaceSizeAndVisibilityBack()
 
 void tst_e2e_placement::placeBeyondTheScreensEdge_isKept_data()
 {
-    QTest::addColumn<QRect>("place");
-
-    QTest::newRow("left and above") << QRect(-50, -30, 256, 256);
-    QTest::newRow("right and below") << QRect(1200, 700, 256, 256);
+    addRows<QRect>("place", {{"left and above", {-50, -30, 256, 256}},
+                             {"right and below", {1200, 700, 256, 256}}});
 }
 
 /// Window managers like to pull a new window on to the screen.

@@ -1,5 +1,6 @@
 #include "damagecounter.h"
 #include "endtoendtest.h"
+#include "rows.h"
 #include "waiting.h"
 
 #include <QTest>
@@ -16,10 +17,7 @@ private slots:
 
 void tst_e2e_repaint::idleWindow_isPaintedTenTimesASecond_data()
 {
-    QTest::addColumn<bool>("showsPattern");
-
-    QTest::newRow("no pattern yet") << false;
-    QTest::newRow("a pattern") << true;
+    addRows<bool>("showsPattern", {{"no pattern yet", false}, {"a pattern", true}});
 }
 
 void tst_e2e_repaint::idleWindow_isPaintedTenTimesASecond()

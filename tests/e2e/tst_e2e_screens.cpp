@@ -1,5 +1,6 @@
 #include "dummyserver.h"
 #include "endtoendtest.h"
+#include "rows.h"
 #include "waiting.h"
 
 #include <QTest>
@@ -104,30 +105,17 @@ bool tst_e2e_screens::isStored(const char *name, int value)
 
 void tst_e2e_screens::sideBySide_rangesAreTheSumsOfBothScreens_data()
 {
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<QByteArray>("inward");
-    QTest::addColumn<QByteArray>("outward");
-    QTest::addColumn<bool>("shift");
-    QTest::addColumn<int>("end");
-
     const int step = 1;
-    QTest::newRow("X maximum") << QByteArray("PointX") << 99999 << QByteArray("Left")
-                               << QByteArray("Right") << false << 3839;
-    QTest::newRow("X minimum") << QByteArray("PointX") << -99999 << QByteArray("Right")
-                               << QByteArray("Left") << false << -3839;
-    QTest::newRow("Y maximum") << QByteArray("PointY") << 99999 << QByteArray("Up")
-                               << QByteArray("Down") << false << 2159;
-    QTest::newRow("Y minimum") << QByteArray("PointY") << -99999 << QByteArray("Down")
-                               << QByteArray("Up") << false << -2159;
-    QTest::newRow("width maximum") << QByteArray("Width") << 99999 << QByteArray("Left")
-                                   << QByteArray("Right") << true << 3840;
-    QTest::newRow("width minimum")
-        << QByteArray("Width") << step << QByteArray("Right") << QByteArray("Left") << true << 1;
-    QTest::newRow("height maximum")
-        << QByteArray("Height") << 99999 << QByteArray("Up") << QByteArray("Down") << true << 2160;
-    QTest::newRow("height minimum")
-        << QByteArray("Height") << step << QByteArray("Down") << QByteArray("Up") << true << 1;
+    const Table<QByteArray, int, QByteArray, QByteArray, bool, int> row("name", "start", "inward",
+                                                                        "outward", "shift", "end");
+    row("X maximum", "PointX", 99999, "Left", "Right", false, 3839);
+    row("X minimum", "PointX", -99999, "Right", "Left", false, -3839);
+    row("Y maximum", "PointY", 99999, "Up", "Down", false, 2159);
+    row("Y minimum", "PointY", -99999, "Down", "Up", false, -2159);
+    row("width maximum", "Width", 99999, "Left", "Right", true, 3840);
+    row("width minimum", "Width", step, "Right", "Left", true, 1);
+    row("height maximum", "Height", 99999, "Up", "Down", true, 2160);
+    row("height minimum", "Height", step, "Down", "Up", true, 1);
 }
 
 /// What is stored beyond the range is cut to its end: a key steps from there,
@@ -212,15 +200,12 @@ void tst_e2e_screens::negativePlace_isObeyed()
 
 void tst_e2e_screens::fullScreen_coversTheScreenOfTheTestWindow_data()
 {
-    QTest::addColumn<QByteArray>("relation");
-    QTest::addColumn<QRect>("place");
-    QTest::addColumn<QRect>("screen");
-
     const QRect onTheLeft(100, 100, 256, 256);
-    QTest::newRow("primary, left") << QByteArray("--right-of") << onTheLeft << Left;
-    QTest::newRow("other, right") << QByteArray("--right-of") << OnTheRight << Right;
-    QTest::newRow("other, left") << QByteArray("--left-of") << onTheLeft << Left;
-    QTest::newRow("primary, right") << QByteArray("--left-of") << OnTheRight << Right;
+    const Table<QByteArray, QRect, QRect> row("relation", "place", "screen");
+    row("primary, left", "--right-of", onTheLeft, Left);
+    row("other, right", "--right-of", OnTheRight, Right);
+    row("other, left", "--left-of", onTheLeft, Left);
+    row("primary, right", "--left-of", OnTheRight, Right);
 }
 
 void tst_e2e_screens::fullScreen_coversTheScreenOfTheTestWindow()

@@ -13,7 +13,7 @@ class tst_e2e_windowkit : public EndToEndTest
 private slots:
     void cleanupTestCase() { m_program.reset(); }
 
-    void clickOnTheWindowOnTop_leavesTheDialogInFront_data();
+    void clickOnTheWindowOnTop_leavesTheDialogInFront_data() { addModalities(); }
     void clickOnTheWindowOnTop_leavesTheDialogInFront();
     void modalDialog_blocksTheMainWindow_data() { addModalities(); }
     void modalDialog_blocksTheMainWindow();
@@ -83,11 +83,6 @@ bool tst_e2e_windowkit::isDialogInFront()
     return dialog.id != 0 && onTop.geometry.contains(place)
            && desktop().screen().pixel(place) == DialogGround
            && desktop().screen().pixel(onTop.geometry.topLeft()) == qRgb(0, 255, 0);
-}
-
-void tst_e2e_windowkit::clickOnTheWindowOnTop_leavesTheDialogInFront_data()
-{
-    addModalities();
 }
 
 void tst_e2e_windowkit::clickOnTheWindowOnTop_leavesTheDialogInFront()

@@ -1,4 +1,5 @@
 #include "commonhelper.h"
+#include "rows.h"
 
 #include <QImage>
 #include <QLabel>
@@ -178,14 +179,14 @@ void TestStyleSheet::plainWidget_hasTheDefaultBackground()
 
 void TestStyleSheet::swatch_isAFieldOfItsColour_checkedInARing_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("radioButtonRed") << QColor(Qt::red);
-    QTest::newRow("radioButtonGreen") << QColor(Qt::green);
-    QTest::newRow("radioButtonBlue") << QColor(Qt::blue);
-    QTest::newRow("radioButtonWhite") << QColor(Qt::white);
-    QTest::newRow("radioButtonYellow") << QColor(Qt::yellow);
-    QTest::newRow("radioButtonCyan") << QColor(Qt::cyan);
-    QTest::newRow("radioButtonPurple") << QColor(Qt::magenta);
+    const Table<QColor> row("color");
+    row("radioButtonRed", Qt::red);
+    row("radioButtonGreen", Qt::green);
+    row("radioButtonBlue", Qt::blue);
+    row("radioButtonWhite", Qt::white);
+    row("radioButtonYellow", Qt::yellow);
+    row("radioButtonCyan", Qt::cyan);
+    row("radioButtonPurple", Qt::magenta);
 }
 
 void TestStyleSheet::swatch_isAFieldOfItsColour_checkedInARing()
@@ -214,11 +215,9 @@ void TestStyleSheet::swatch_isAFieldOfItsColour_checkedInARing()
 
 void TestStyleSheet::lamp_isRoundAndLit_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QColor>("color");
-
-    QTest::newRow("green") << QStringLiteral("signalGreenButton") << QColor(36, 255, 36);
-    QTest::newRow("grey") << QStringLiteral("signalGreyButton") << QColor(99, 99, 99);
+    const Table<const char *, QColor> row("name", "color");
+    row("green", "signalGreenButton", {36, 255, 36});
+    row("grey", "signalGreyButton", {99, 99, 99});
 }
 
 void TestStyleSheet::lamp_isRoundAndLit()
@@ -239,23 +238,20 @@ void TestStyleSheet::lamp_isRoundAndLit()
 
 void TestStyleSheet::roundedButton_keepsItsLimits_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("widest");
-
-    QTest::newRow("dialog") << QStringLiteral("DialogPushBtn") << QWIDGETSIZE_MAX;
-    QTest::newRow("content") << QStringLiteral("normalContentPushBtn") << 70;
-    QTest::newRow("begin") << QStringLiteral("beginPushBtn") << 60;
-    QTest::newRow("level") << QStringLiteral("levelPushBtn") << 80;
+    const Table<const char *, int> row("name", "widest");
+    row("dialog", "DialogPushBtn", QWIDGETSIZE_MAX);
+    row("content", "normalContentPushBtn", 70);
+    row("begin", "beginPushBtn", 60);
+    row("level", "levelPushBtn", 80);
 }
 
 void TestStyleSheet::roundedButton_keepsItsLimits()
 {
     QFETCH(QString, name);
-    QFETCH(int, widest);
 
     StyledControl<QPushButton> button(m_sheet, name);
     QVERIFY(button.control->minimumHeight() >= 30);
-    QCOMPARE(button.control->maximumWidth(), widest);
+    QTEST(button.control->maximumWidth(), "widest");
     button.control->resize(70, 30);
     button.window.resize(70, 30);
     const QImage image = button.image();

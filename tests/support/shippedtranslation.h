@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 #include <QTranslator>
+#include <QtTest>
 
 // One of the program's own translations, in force from its creation to its end.
 class ShippedTranslation
@@ -21,6 +22,15 @@ public:
     {
         return {QStringLiteral("zh_CN"), QStringLiteral("en"), QStringLiteral("fr"),
                 QStringLiteral("de"),    QStringLiteral("es"), QStringLiteral("ru")};
+    }
+
+    // Adds the column "language" with a row for each.
+    static void addRows()
+    {
+        QTest::addColumn<QString>("language");
+        const QStringList all = languages();
+        for (const QString &language : all)
+            QTest::newRow(qPrintable(language)) << language;
     }
 
 private:

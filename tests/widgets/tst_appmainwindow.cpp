@@ -1,4 +1,5 @@
 #include "appmainwindow.h"
+#include "rows.h"
 #include "titlebar.h"
 #include "windowdrag.h"
 
@@ -76,14 +77,12 @@ void TestAppMainWindow::buttons_minimiseAndClose()
 
 void TestAppMainWindow::drag_movesTheWindowByItsTitleBar_data()
 {
-    QTest::addColumn<QPoint>("grip");
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::addColumn<bool>("moves");
-    QTest::newRow("empty part") << QPoint(2, 2) << Qt::LeftButton << true;
-    QTest::newRow("logo") << QPoint(14, 14) << Qt::LeftButton << true;
-    QTest::newRow("title") << QPoint(60, 14) << Qt::LeftButton << true;
-    QTest::newRow("right button") << QPoint(60, 14) << Qt::RightButton << false;
-    QTest::newRow("content") << QPoint(60, titleBarHeight + 1) << Qt::LeftButton << false;
+    const Table<QPoint, Qt::MouseButton, bool> row("grip", "button", "moves");
+    row("empty part", {2, 2}, Qt::LeftButton, true);
+    row("logo", {14, 14}, Qt::LeftButton, true);
+    row("title", {60, 14}, Qt::LeftButton, true);
+    row("right button", {60, 14}, Qt::RightButton, false);
+    row("content", {60, titleBarHeight + 1}, Qt::LeftButton, false);
 }
 
 void TestAppMainWindow::drag_movesTheWindowByItsTitleBar()

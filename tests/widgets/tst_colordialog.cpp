@@ -1,4 +1,5 @@
 #include "colordialog.h"
+#include "rows.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -33,9 +34,7 @@ void TestColorDialog::answer_isAskedWithTheInitialColour()
 
 void TestColorDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows_data()
 {
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("chosen") << true;
-    QTest::newRow("cancelled") << false;
+    addRows<bool>("accepted", {{"chosen", true}, {"cancelled", false}});
 }
 
 void TestColorDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows()

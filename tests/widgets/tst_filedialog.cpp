@@ -1,4 +1,5 @@
 #include "filedialog.h"
+#include "rows.h"
 
 #include <QApplication>
 #include <QFile>
@@ -33,9 +34,7 @@ void TestFileDialog::answer_isAskedWithWhereTheDialogBegins()
 
 void TestFileDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows_data()
 {
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("chosen") << true;
-    QTest::newRow("cancelled") << false;
+    addRows<bool>("accepted", {{"chosen", true}, {"cancelled", false}});
 }
 
 void TestFileDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows()

@@ -1,4 +1,5 @@
 #include "framelessdialog.h"
+#include "rows.h"
 #include "titlebar.h"
 #include "windowdrag.h"
 
@@ -68,9 +69,9 @@ private slots:
 
 void TestFramelessDialog::dialog_isFramelessWhateverTheFlags_data()
 {
-    QTest::addColumn<Qt::WindowFlags>("flags");
-    QTest::newRow("none") << Qt::WindowFlags();
-    QTest::newRow("dialog") << Qt::WindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    addRows<Qt::WindowFlags>(
+        "flags", {{"none", Qt::WindowFlags()},
+                  {"dialog", Qt::WindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint)}});
 }
 
 void TestFramelessDialog::dialog_isFramelessWhateverTheFlags()
@@ -132,9 +133,7 @@ void TestFramelessDialog::buttons_areVisibleAndNamed()
 
 void TestFramelessDialog::okButton_acceptsAndTheOthersReject_data()
 {
-    QTest::addColumn<QByteArray>("button");
-    for (const char *button : {"OK", "Cancel", "Close"})
-        QTest::newRow(button) << QByteArray(button);
+    addNames<QByteArray>("button", {"OK", "Cancel", "Close"});
 }
 
 void TestFramelessDialog::okButton_acceptsAndTheOthersReject()
@@ -153,12 +152,11 @@ void TestFramelessDialog::okButton_acceptsAndTheOthersReject()
 
 void TestFramelessDialog::buttonRow_goesWithTheLastButton_data()
 {
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<bool>("cancel");
-    QTest::newRow("both") << true << true;
-    QTest::newRow("OK alone") << true << false;
-    QTest::newRow("Cancel alone") << false << true;
-    QTest::newRow("none") << false << false;
+    const Table<bool, bool> row("ok", "cancel");
+    row("both", true, true);
+    row("OK alone", true, false);
+    row("Cancel alone", false, true);
+    row("none", false, false);
 }
 
 void TestFramelessDialog::buttonRow_goesWithTheLastButton()
@@ -183,11 +181,10 @@ void TestFramelessDialog::buttonRow_goesWithTheLastButton()
 
 void TestFramelessDialog::focus_isOnTheDefaultButton_data()
 {
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<bool>("set");
-    QTest::newRow("OK") << true << false;
-    QTest::newRow("Cancel, without OK") << false << false;
-    QTest::newRow("where the subclass has set it") << true << true;
+    const Table<bool, bool> row("ok", "set");
+    row("OK", true, false);
+    row("Cancel, without OK", false, false);
+    row("where the subclass has set it", true, true);
 }
 
 void TestFramelessDialog::focus_isOnTheDefaultButton()
@@ -275,11 +272,9 @@ void TestFramelessDialog::firstShow_centresOnTheParentWindow()
 void TestFramelessDialog::firstShow_staysOnTheScreen_data()
 {
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-    QTest::addColumn<QPoint>("parentPlace");
-    QTest::addColumn<QPoint>("expected");
-    QTest::newRow("top left") << area.topLeft() << area.topLeft();
-    QTest::newRow("bottom right") << area.bottomRight() - QPoint(60, 60)
-                                  << area.bottomRight() - QPoint(299, 199);
+    const Table<QPoint, QPoint> row("parentPlace", "expected");
+    row("top left", area.topLeft(), area.topLeft());
+    row("bottom right", area.bottomRight() - QPoint(60, 60), area.bottomRight() - QPoint(299, 199));
 }
 
 void TestFramelessDialog::firstShow_staysOnTheScreen()

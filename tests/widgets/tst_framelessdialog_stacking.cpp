@@ -1,4 +1,5 @@
 #include "framelessdialog.h"
+#include "rows.h"
 #include "titlebar.h"
 
 #include <QTest>
@@ -27,9 +28,7 @@ private slots:
 
 void TestFramelessDialogStacking::dialog_staysAboveAnOnTopWindow_data()
 {
-    QTest::addColumn<bool>("isParent");
-    QTest::newRow("its parent") << true;
-    QTest::newRow("another window") << false;
+    addRows<bool>("isParent", {{"its parent", true}, {"another window", false}});
 }
 
 void TestFramelessDialogStacking::dialog_staysAboveAnOnTopWindow()
@@ -61,23 +60,20 @@ void TestFramelessDialogStacking::dialog_isOrdinaryWithoutAnOnTopWindow()
 
 void TestFramelessDialogStacking::owner_dependsOnTheModality_data()
 {
-    QTest::addColumn<Qt::WindowModality>("modality");
-    QTest::addColumn<bool>("hasOnTopWindow");
-    QTest::addColumn<QString>("owner");
     const QString main = QStringLiteral("main");
-    QTest::newRow("not modal") << Qt::NonModal << true << QStringLiteral("on top");
-    QTest::newRow("window modal") << Qt::WindowModal << true << main;
-    QTest::newRow("program modal") << Qt::ApplicationModal << true << QString();
-    QTest::newRow("not modal, alone") << Qt::NonModal << false << main;
-    QTest::newRow("window modal, alone") << Qt::WindowModal << false << main;
-    QTest::newRow("program modal, alone") << Qt::ApplicationModal << false << main;
+    const Table<Qt::WindowModality, bool, QString> row("modality", "hasOnTopWindow", "owner");
+    row("not modal", Qt::NonModal, true, QStringLiteral("on top"));
+    row("window modal", Qt::WindowModal, true, main);
+    row("program modal", Qt::ApplicationModal, true, QString());
+    row("not modal, alone", Qt::NonModal, false, main);
+    row("window modal, alone", Qt::WindowModal, false, main);
+    row("program modal, alone", Qt::ApplicationModal, false, main);
 }
 
 void TestFramelessDialogStacking::owner_dependsOnTheModality()
 {
     QFETCH(const Qt::WindowModality, modality);
     QFETCH(const bool, hasOnTopWindow);
-    QFETCH(const QString, owner);
     QWidget main;
     main.setWindowTitle(QStringLiteral("main"));
     main.show();
@@ -89,15 +85,13 @@ void TestFramelessDialogStacking::owner_dependsOnTheModality()
     dialog.show();
 
     const QWindow *found = dialog.windowHandle()->transientParent();
-    QCOMPARE(found ? found->title() : QString(), owner);
+    QTEST(found ? found->title() : QString(), "owner");
     QCOMPARE(dialog.parentWidget(), &main);
 }
 
 void TestFramelessDialogStacking::ownerOfAWindowModalDialog_isOnTopForItsTime_data()
 {
-    QTest::addColumn<bool>("byDestruction");
-    QTest::newRow("closed") << false;
-    QTest::newRow("destroyed") << true;
+    addRows<bool>("byDestruction", {{"closed", false}, {"destroyed", true}});
 }
 
 void TestFramelessDialogStacking::ownerOfAWindowModalDialog_isOnTopForItsTime()

@@ -1,4 +1,5 @@
 #include "framelessmessagebox.h"
+#include "rows.h"
 #include "titlebar.h"
 
 #include <QDialogButtonBox>
@@ -77,14 +78,12 @@ void TestFramelessMessageBox::box_isModalAndShowsTitleTextAndIcon()
 
 void TestFramelessMessageBox::icon_followsItsKind_data()
 {
-    QTest::addColumn<QMessageBox::Icon>("icon");
-    QTest::addColumn<int>("standardPixmap");
-    QTest::newRow("none") << QMessageBox::NoIcon << -1;
-    QTest::newRow("information") << QMessageBox::Information
-                                 << int(QStyle::SP_MessageBoxInformation);
-    QTest::newRow("warning") << QMessageBox::Warning << int(QStyle::SP_MessageBoxWarning);
-    QTest::newRow("critical") << QMessageBox::Critical << int(QStyle::SP_MessageBoxCritical);
-    QTest::newRow("question") << QMessageBox::Question << int(QStyle::SP_MessageBoxQuestion);
+    const Table<QMessageBox::Icon, int> row("icon", "standardPixmap");
+    row("none", QMessageBox::NoIcon, -1);
+    row("information", QMessageBox::Information, int(QStyle::SP_MessageBoxInformation));
+    row("warning", QMessageBox::Warning, int(QStyle::SP_MessageBoxWarning));
+    row("critical", QMessageBox::Critical, int(QStyle::SP_MessageBoxCritical));
+    row("question", QMessageBox::Question, int(QStyle::SP_MessageBoxQuestion));
 }
 
 void TestFramelessMessageBox::icon_followsItsKind()
@@ -122,9 +121,8 @@ void TestFramelessMessageBox::noButtons_givesOk()
 
 void TestFramelessMessageBox::click_isTheResult_data()
 {
-    QTest::addColumn<QMessageBox::StandardButton>("which");
-    QTest::newRow("yes") << QMessageBox::Yes;
-    QTest::newRow("cancel") << QMessageBox::Cancel;
+    addRows<QMessageBox::StandardButton>(
+        "which", {{"yes", QMessageBox::Yes}, {"cancel", QMessageBox::Cancel}});
 }
 
 void TestFramelessMessageBox::click_isTheResult()
@@ -138,9 +136,7 @@ void TestFramelessMessageBox::click_isTheResult()
 
 void TestFramelessMessageBox::closing_isNoButton_data()
 {
-    QTest::addColumn<bool>("byKey");
-    QTest::newRow("close button") << false;
-    QTest::newRow("escape key") << true;
+    addRows<bool>("byKey", {{"close button", false}, {"escape key", true}});
 }
 
 void TestFramelessMessageBox::closing_isNoButton()

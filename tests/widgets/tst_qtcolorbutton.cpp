@@ -1,6 +1,7 @@
 #include "colordialog.h"
 #include "paintcounter.h"
 #include "qtcolorbutton.h"
+#include "rows.h"
 
 #include <QColorDialog>
 #include <QDrag>
@@ -140,9 +141,7 @@ void TestQtColorButton::setters_emitNothingAndRepaintOnlyAChange()
 
 void TestQtColorButton::click_asksForAColourWithAlphaOrWithout_data()
 {
-    QTest::addColumn<bool>("alphaAllowed");
-    QTest::newRow("with alpha") << true;
-    QTest::newRow("without alpha") << false;
+    addRows<bool>("alphaAllowed", {{"with alpha", true}, {"without alpha", false}});
 }
 
 void TestQtColorButton::click_asksForAColourWithAlphaOrWithout()
@@ -173,14 +172,12 @@ void TestQtColorButton::click_asksForAColourWithAlphaOrWithout()
 
 void TestQtColorButton::cancellingTheDialogOrChoosingTheSameColour_emitsNothing_data()
 {
-    QTest::addColumn<bool>("alphaAllowed");
-    QTest::addColumn<QColor>("answer");
+    const Table<bool, QColor> row("alphaAllowed", "answer");
     for (const bool alphaAllowed : {true, false}) {
         const QByteArray suffix = alphaAllowed ? ", with alpha" : ", without alpha";
-        QTest::newRow("cancelled" + suffix) << alphaAllowed << QColor();
-        QTest::newRow("the same" + suffix) << alphaAllowed << QColor(Qt::green);
-        QTest::newRow("the same, in other words" + suffix)
-            << alphaAllowed << QColor::fromHsv(120, 255, 255);
+        row("cancelled" + suffix, alphaAllowed, QColor());
+        row("the same" + suffix, alphaAllowed, Qt::green);
+        row("the same, in other words" + suffix, alphaAllowed, QColor::fromHsv(120, 255, 255));
     }
 }
 
@@ -198,13 +195,12 @@ void TestQtColorButton::cancellingTheDialogOrChoosingTheSameColour_emitsNothing(
 
 void TestQtColorButton::moveOfExactlyTheStartDragDistance_doesNotStartADrag_data()
 {
-    QTest::addColumn<QPoint>("move");
-    QTest::addColumn<bool>("starts");
     const int distance = QApplication::startDragDistance();
-    QTest::newRow("exactly, along one axis") << QPoint(distance, 0) << false;
-    QTest::newRow("exactly, along both axes") << QPoint(-3, distance - 3) << false;
-    QTest::newRow("one pixel more") << QPoint(0, -distance - 1) << true;
-    QTest::newRow("one pixel more, along both axes") << QPoint(-3, distance - 2) << true;
+    const Table<QPoint, bool> row("move", "starts");
+    row("exactly, along one axis", {distance, 0}, false);
+    row("exactly, along both axes", {-3, distance - 3}, false);
+    row("one pixel more", {0, -distance - 1}, true);
+    row("one pixel more, along both axes", {-3, distance - 2}, true);
 }
 
 void TestQtColorButton::moveOfExactlyTheStartDragDistance_doesNotStartADrag()
@@ -225,9 +221,7 @@ void TestQtColorButton::moveWithAnotherButton_doesNotStartADrag()
 
 void TestQtColorButton::drag_carriesTheColour_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("opaque") << QColor(Qt::blue);
-    QTest::newRow("translucent") << translucent;
+    addRows<QColor>("color", {{"opaque", Qt::blue}, {"translucent", translucent}});
 }
 
 void TestQtColorButton::drag_carriesTheColour()
@@ -257,9 +251,8 @@ void TestQtColorButton::dragOverTheButton_showsTheDraggedColourAndLeavingRestore
 
 void TestQtColorButton::dragWithoutAColour_isRefused_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::newRow("text") << QStringLiteral("text/plain");
-    QTest::newRow("a colour that is none") << QStringLiteral("application/x-color");
+    addRows<const char *>(
+        "type", {{"text", "text/plain"}, {"a colour that is none", "application/x-color"}});
 }
 
 void TestQtColorButton::dragWithoutAColour_isRefused()

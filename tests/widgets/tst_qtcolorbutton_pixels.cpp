@@ -1,4 +1,5 @@
 #include "qtcolorbutton.h"
+#include "rows.h"
 
 #include <QDrag>
 #include <QMouseEvent>
@@ -166,9 +167,7 @@ void TestQtColorButtonPixels::tinyButton_paintsNoSwatch()
 
 void TestQtColorButtonPixels::dragPicture_isPaintedToThePixel_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("opaque") << QColor(Qt::blue);
-    QTest::newRow("translucent") << translucent;
+    addRows<QColor>("color", {{"opaque", Qt::blue}, {"translucent", translucent}});
 }
 
 void TestQtColorButtonPixels::dragPicture_isPaintedToThePixel()

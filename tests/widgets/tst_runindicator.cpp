@@ -1,4 +1,5 @@
 #include "dictionary.h"
+#include "rows.h"
 #include "runindicator.h"
 
 #include <QWidget>
@@ -35,9 +36,7 @@ private slots:
 
 void TestRunIndicator::exactlyOneLamp_isShown_data()
 {
-    QTest::addColumn<bool>("panelShown");
-    QTest::newRow("hidden panel") << false;
-    QTest::newRow("shown panel") << true;
+    addRows<bool>("panelShown", {{"hidden panel", false}, {"shown panel", true}});
 }
 
 void TestRunIndicator::exactlyOneLamp_isShown()

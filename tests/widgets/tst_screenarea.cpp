@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "screenarea.h"
 
 #include <QGuiApplication>
@@ -29,15 +30,14 @@ void TestScreenArea::around_isThePrimaryScreenForAPointOnNone()
 
 void TestScreenArea::movedInto_movesAsLittleAsNeeded_data()
 {
-    QTest::addColumn<QRect>("rectangle");
-    QTest::addColumn<QPoint>("topLeft");
-    QTest::newRow("inside") << QRect(100, 100, 50, 40) << QPoint(100, 100);
-    QTest::newRow("at the corner") << QRect(150, 160, 50, 40) << QPoint(150, 160);
-    QTest::newRow("one column beyond") << QRect(151, 160, 50, 40) << QPoint(150, 160);
-    QTest::newRow("one row beyond") << QRect(150, 161, 50, 40) << QPoint(150, 160);
-    QTest::newRow("left and above") << QRect(-30, -1, 50, 40) << QPoint(0, 0);
-    QTest::newRow("far away") << QRect(9000, 9000, 50, 40) << QPoint(150, 160);
-    QTest::newRow("larger than the area") << QRect(20, 20, 300, 300) << QPoint(0, 0);
+    const Table<QRect, QPoint> row("rectangle", "topLeft");
+    row("inside", {100, 100, 50, 40}, {100, 100});
+    row("at the corner", {150, 160, 50, 40}, {150, 160});
+    row("one column beyond", {151, 160, 50, 40}, {150, 160});
+    row("one row beyond", {150, 161, 50, 40}, {150, 160});
+    row("left and above", {-30, -1, 50, 40}, {0, 0});
+    row("far away", {9000, 9000, 50, 40}, {150, 160});
+    row("larger than the area", {20, 20, 300, 300}, {0, 0});
 }
 
 void TestScreenArea::movedInto_movesAsLittleAsNeeded()

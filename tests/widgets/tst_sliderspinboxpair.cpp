@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "sliderspinboxpair.h"
 
 #include <QSignalSpy>
@@ -93,11 +94,10 @@ void TestSliderSpinBoxPair::typedNumber_reachesTheSlider()
 
 void TestSliderSpinBoxPair::range_isSetOnBoth_data()
 {
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::newRow("speeds") << 1 << 100;
-    QTest::newRow("negative") << -20 << -3;
-    QTest::newRow("one value") << 5 << 5;
+    const Table<int, int> row("minimum", "maximum");
+    row("speeds", 1, 100);
+    row("negative", -20, -3);
+    row("one value", 5, 5);
 }
 
 void TestSliderSpinBoxPair::range_isSetOnBoth()

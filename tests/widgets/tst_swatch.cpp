@@ -1,4 +1,5 @@
 #include "customerqlabel.h"
+#include "rows.h"
 #include "swatch.h"
 
 #include <QColor>
@@ -25,16 +26,15 @@ void TestSwatch::style_hasItsOneForm()
 
 void TestSwatch::style_isRecognised_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("isStyle");
     const QString style = QStringLiteral("background-color: rgb(1,20,255)");
-    QTest::newRow("whole") << style << true;
-    QTest::newRow("with more behind") << style + QStringLiteral("; border: 9px") << false;
-    QTest::newRow("with a new line behind") << style + QLatin1Char('\n') << false;
-    QTest::newRow("with more before") << QStringLiteral("x") + style << false;
-    QTest::newRow("too many digits") << QStringLiteral("background-color: rgb(1,2,3000)") << false;
-    QTest::newRow("a file") << QStringLiteral("background-image: url(x)") << false;
-    QTest::newRow("empty") << QString() << false;
+    const Table<QString, bool> row("text", "isStyle");
+    row("whole", style, true);
+    row("with more behind", style + QStringLiteral("; border: 9px"), false);
+    row("with a new line behind", style + QLatin1Char('\n'), false);
+    row("with more before", QStringLiteral("x") + style, false);
+    row("too many digits", QStringLiteral("background-color: rgb(1,2,3000)"), false);
+    row("a file", QStringLiteral("background-image: url(x)"), false);
+    row("empty", QString(), false);
 }
 
 void TestSwatch::style_isRecognised()

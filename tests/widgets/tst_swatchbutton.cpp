@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "swatchbutton.h"
 
 #include <QSignalSpy>
@@ -121,9 +122,7 @@ void TestSwatchButton::fieldOfTheStyleSheet_leavesItsGap()
 
 void TestSwatchButton::text_standsInTheMiddle_data()
 {
-    QTest::addColumn<bool>("checked");
-    QTest::newRow("unchecked") << false;
-    QTest::newRow("checked") << true;
+    addRows<bool>("checked", {{"unchecked", false}, {"checked", true}});
 }
 
 void TestSwatchButton::text_standsInTheMiddle()

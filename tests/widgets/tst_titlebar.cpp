@@ -1,15 +1,13 @@
 #include "dictionary.h"
+#include "rows.h"
 #include "titlebar.h"
 
 #include <QDialog>
 #include <QLabel>
-#include <QSignalSpy>
 #include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QtTest>
-
-#include <memory>
 
 using UX::Widgets::TitleBar;
 
@@ -113,14 +111,12 @@ void TestTitleBar::titleThatDoesNotFit_isElidedAndWholeAsToolTip()
 
 void TestTitleBar::parts_carryTheStyleProperties_data()
 {
-    QTest::addColumn<int>("id");
-    QTest::addColumn<QByteArray>("property");
-
-    QTest::newRow("logo") << 0 << QByteArray("isTitleBarLogoButton");
-    QTest::newRow("minimise") << 1 << QByteArray("isTitleBarMinButton");
-    QTest::newRow("maximise") << 2 << QByteArray("isTitleBarMaxButton");
-    QTest::newRow("restore") << 3 << QByteArray("isTitleBarRestoreButton");
-    QTest::newRow("close") << 4 << QByteArray("isTitleBarCloseButton");
+    const Table<int, QByteArray> row("id", "property");
+    row("logo", 0, "isTitleBarLogoButton");
+    row("minimise", 1, "isTitleBarMinButton");
+    row("maximise", 2, "isTitleBarMaxButton");
+    row("restore", 3, "isTitleBarRestoreButton");
+    row("close", 4, "isTitleBarCloseButton");
 }
 
 void TestTitleBar::parts_carryTheStyleProperties()
@@ -154,9 +150,7 @@ void TestTitleBar::buttons_standInTheOrderOfTheirIds()
 
 void TestTitleBar::unknownId_isIgnored_data()
 {
-    QTest::addColumn<int>("id");
-    QTest::newRow("before the first") << -1;
-    QTest::newRow("after the last") << 5;
+    addRows<int>("id", {{"before the first", -1}, {"after the last", 5}});
 }
 
 void TestTitleBar::unknownId_isIgnored()

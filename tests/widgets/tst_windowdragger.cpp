@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "windowdragger.h"
 
 #include <QMouseEvent>
@@ -67,11 +68,10 @@ private slots:
 
 void TestWindowDragger::drag_movesByTheMouseDelta_data()
 {
-    QTest::addColumn<QPoint>("delta");
-    QTest::newRow("one pixel") << QPoint(1, 0);
-    QTest::newRow("right and down") << QPoint(130, 57);
-    QTest::newRow("left and up") << QPoint(-41, -63);
-    QTest::newRow("beyond the edge of the screen") << QPoint(-400, -250);
+    addRows<QPoint>("delta", {{"one pixel", {1, 0}},
+                              {"right and down", {130, 57}},
+                              {"left and up", {-41, -63}},
+                              {"beyond the edge of the screen", {-400, -250}}});
 }
 
 void TestWindowDragger::drag_movesByTheMouseDelta()
@@ -107,9 +107,7 @@ void TestWindowDragger::drag_endsWhenTheReleaseWasMissed()
 
 void TestWindowDragger::otherButtons_doNotDrag_data()
 {
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::newRow("right") << Qt::RightButton;
-    QTest::newRow("middle") << Qt::MiddleButton;
+    addRows<Qt::MouseButton>("button", {{"right", Qt::RightButton}, {"middle", Qt::MiddleButton}});
 }
 
 void TestWindowDragger::otherButtons_doNotDrag()
