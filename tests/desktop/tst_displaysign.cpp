@@ -2,15 +2,18 @@
 
 #include <QtTest>
 
-// Where it is asked to be, to the pixel.
-class Window : public QWidget
+// The sign on a bar for a window that is where it is asked to be, to the pixel.
+struct SignRig
 {
-public:
-    explicit Window(const QRect &place)
+    explicit SignRig(const QPoint &place)
     {
-        setWindowFlags(Qt::FramelessWindowHint);
-        setGeometry(place);
+        window.setGeometry({place, QSize(100, 100)});
+        bar.show();
     }
+
+    QWidget window{nullptr, Qt::FramelessWindowHint};
+    QWidget bar;
+    DisplaySign sign{&window, &bar};
 };
 
 class tst_DisplaySign : public QObject
@@ -26,50 +29,38 @@ private slots:
 
 void tst_DisplaySign::windowOnTheScreen_showsNoSign()
 {
-    Window window({0, 0, 100, 100});
-    QWidget bar;
-    DisplaySign sign(&window, &bar);
-    window.show();
-    bar.show();
-    sign.check();
-    QVERIFY(!sign.isVisible());
+    SignRig rig({0, 0});
+    rig.window.show();
+    rig.sign.check();
+    QVERIFY(!rig.sign.isVisible());
 }
 
 void tst_DisplaySign::windowPartlyOff_showsTheSignThatSaysSo()
 {
-    Window window({-1, 0, 100, 100});
-    QWidget bar;
-    DisplaySign sign(&window, &bar);
-    window.show();
-    bar.show();
-    sign.check();
-    QVERIFY(sign.isVisible());
-    QVERIFY(sign.sizeHint().width() >= 16);
-    QCOMPARE(sign.toolTip(), QStringLiteral("测试窗口有一部分不在任何屏幕上"));
-    QCOMPARE(sign.accessibleName(), sign.toolTip());
+    SignRig rig({-1, 0});
+    rig.window.show();
+    rig.sign.check();
+    QVERIFY(rig.sign.isVisible());
+    QVERIFY(rig.sign.sizeHint().width() >= 16);
+    QCOMPARE(rig.sign.toolTip(), QStringLiteral("测试窗口有一部分不在任何屏幕上"));
+    QCOMPARE(rig.sign.accessibleName(), rig.sign.toolTip());
 }
 
 void tst_DisplaySign::hiddenWindow_showsNoSign()
 {
-    Window window({-1, 0, 100, 100});
-    QWidget bar;
-    DisplaySign sign(&window, &bar);
-    bar.show();
-    sign.check();
-    QVERIFY(!sign.isVisible());
+    SignRig rig({-1, 0});
+    rig.sign.check();
+    QVERIFY(!rig.sign.isVisible());
 }
 
 void tst_DisplaySign::faultThatComesAndGoes_isNoticedByItself()
 {
-    Window window({-1, 0, 100, 100});
-    QWidget bar;
-    DisplaySign sign(&window, &bar);
-    window.show();
-    bar.show();
-    QTRY_VERIFY(sign.isVisible());
-    window.move(0, 0);
-    QTRY_VERIFY(!sign.isVisible());
-    QVERIFY(sign.toolTip().isEmpty());
+    SignRig rig({-1, 0});
+    rig.window.show();
+    QTRY_VERIFY(rig.sign.isVisible());
+    rig.window.move(0, 0);
+    QTRY_VERIFY(!rig.sign.isVisible());
+    QVERIFY(rig.sign.toolTip().isEmpty());
 }
 
 QTEST_MAIN(tst_DisplaySign)

@@ -1,4 +1,5 @@
 #include "dictionary.h"
+#include "rows.h"
 #include "swatchbutton.h"
 #include "swatchrow.h"
 
@@ -6,7 +7,6 @@
 #include <QtTest>
 
 #include <memory>
-#include <utility>
 
 namespace {
 
@@ -55,16 +55,12 @@ class TestSwatchRow : public QObject
     Q_OBJECT
 
 private slots:
-    void button_isFoundByItsColour_data();
     void button_isFoundByItsColour();
     void otherColour_hasNoButton_data();
     void otherColour_hasNoButton();
 
-    void checking_saysItOnce_data();
     void checking_saysItOnce();
-    void click_onAnUncheckedButtonSaysItTwice_data();
-    void click_onAnUncheckedButtonSaysItTwice();
-    void click_onTheCheckedButtonSaysItOnce();
+    void click_saysItTwiceOfAnUncheckedButtonAndOnceOfAChecked();
     void row_isExclusive();
     void row_leavesOtherButtonsOfThePanelAlone();
 
@@ -72,32 +68,19 @@ private slots:
     void nameThatDoesNotFit_isToldByToolTipAndAccessibleName();
 };
 
-void TestSwatchRow::button_isFoundByItsColour_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::newRow("red") << 0;
-    QTest::newRow("green") << 1;
-    QTest::newRow("blue") << 2;
-    QTest::newRow("white") << 3;
-    QTest::newRow("yellow") << 4;
-    QTest::newRow("cyan") << 5;
-    QTest::newRow("purple") << 6;
-}
-
 void TestSwatchRow::button_isFoundByItsColour()
 {
-    QFETCH(const int, index);
     const Row row;
-    QCOMPARE(row.row->button(colors[index]), row.all.at(index));
+    for (int index = 0; index < count; ++index)
+        QCOMPARE(row.row->button(colors[index]), row.all.at(index));
 }
 
 void TestSwatchRow::otherColour_hasNoButton_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("black") << QColor(Qt::black);
-    QTest::newRow("translucent red") << QColor(255, 0, 0, 254);
-    QTest::newRow("invalid") << QColor();
-    QTest::newRow("dark cyan") << QColor(Qt::darkCyan);
+    addRows<QColor>("color", {{"black", Qt::black},
+                              {"translucent red", {255, 0, 0, 254}},
+                              {"invalid", QColor()},
+                              {"dark cyan", Qt::darkCyan}});
 }
 
 void TestSwatchRow::otherColour_hasNoButton()
@@ -107,49 +90,29 @@ void TestSwatchRow::otherColour_hasNoButton()
     QVERIFY(!row.row->button(color));
 }
 
-void TestSwatchRow::checking_saysItOnce_data()
-{
-    button_isFoundByItsColour_data();
-}
-
 void TestSwatchRow::checking_saysItOnce()
 {
-    QFETCH(const int, index);
-    const Row row;
-    row.all.at((index + 1) % count)->setChecked(true);
-    QSignalSpy selected(row.row.get(), &SwatchRow::selected);
-    row.all.at(index)->setChecked(true);
-
-    QCOMPARE(selected.count(), 1);
-    QCOMPARE(selected.first().first().toInt(), index);
-}
-
-void TestSwatchRow::click_onAnUncheckedButtonSaysItTwice_data()
-{
-    button_isFoundByItsColour_data();
-}
-
-void TestSwatchRow::click_onAnUncheckedButtonSaysItTwice()
-{
-    QFETCH(const int, index);
     const Row row;
     QSignalSpy selected(row.row.get(), &SwatchRow::selected);
-    QTest::mouseClick(row.all.at(index), Qt::LeftButton);
-
-    QCOMPARE(selected.count(), 2);
-    QCOMPARE(selected.at(0).first().toInt(), index);
-    QCOMPARE(selected.at(1).first().toInt(), index);
+    for (int index = 0; index < count; ++index) {
+        row.all.at(index)->setChecked(true);
+        QCOMPARE(selected, (QList<QVariantList>{{index}}));
+        selected.clear();
+    }
 }
 
-void TestSwatchRow::click_onTheCheckedButtonSaysItOnce()
+void TestSwatchRow::click_saysItTwiceOfAnUncheckedButtonAndOnceOfAChecked()
 {
     const Row row;
-    row.all.at(4)->setChecked(true);
     QSignalSpy selected(row.row.get(), &SwatchRow::selected);
-    QTest::mouseClick(row.all.at(4), Qt::LeftButton);
-
-    QCOMPARE(selected.count(), 1);
-    QCOMPARE(selected.first().first().toInt(), 4);
+    for (int index = 0; index < count; ++index) {
+        QTest::mouseClick(row.all.at(index), Qt::LeftButton);
+        QCOMPARE(selected, (QList<QVariantList>{{index}, {index}}));
+        selected.clear();
+        QTest::mouseClick(row.all.at(index), Qt::LeftButton);
+        QCOMPARE(selected, (QList<QVariantList>{{index}}));
+        selected.clear();
+    }
 }
 
 void TestSwatchRow::row_isExclusive()
