@@ -3,6 +3,7 @@
 #include "dictionary.h"
 #include "paneltest.h"
 #include "picturefolder.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -68,9 +69,9 @@ QByteArray TestTarnTool::stored() const
 
 QString TestTarnTool::texts() const
 {
-    return QStringLiteral("模块宽度 模块宽度 模块高度 模块高度 从左到右 模块行数 模块行数 模块列数 "
-                          "模块列数 从右到左 字体颜色 字体颜色 模块线颜色 模块线颜色 扫描板颜色 "
-                          "扫描板颜色 纯色背景 纯色背景 背景图 背景图 高级设置 定位");
+    return QStringLiteral("模块宽度|模块宽度|模块高度|模块高度|从左到右|模块行数|模块行数|模块列数|"
+                          "模块列数|从右到左|字体颜色|字体颜色|模块线颜色|模块线颜色|扫描板颜色|"
+                          "扫描板颜色|纯色背景|纯色背景|背景图|背景图|高级设置|定位");
 }
 
 void TestTarnTool::addEdits() const
@@ -209,11 +210,9 @@ void TestTarnTool::order_reachesTheDrawerAtOnce()
 
 void TestTarnTool::operatorsChange_showsAndRaisesTheFlag_data()
 {
-    QTest::addColumn<QByteArray>("control");
-    for (const char *name : {"layout", "boxWidth", "boxHight", "boxRow", "boxColumn",
-                             "radioBeginLeft", "radioBeginRight", "radioBackground", "radioPicture",
-                             "buttonFont", "buttonModeLine", "buttonScan"})
-        QTest::newRow(name) << QByteArray(name);
+    addNames<QByteArray>("control", {"layout", "boxWidth", "boxHight", "boxRow", "boxColumn",
+                                     "radioBeginLeft", "radioBeginRight", "radioBackground",
+                                     "radioPicture", "buttonFont", "buttonModeLine", "buttonScan"});
 }
 
 void TestTarnTool::operatorsChange_showsAndRaisesTheFlag()

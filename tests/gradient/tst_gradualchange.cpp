@@ -1,5 +1,6 @@
 #include "drawerrig.h"
 #include "gradientrig.h"
+#include "rows.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -48,14 +49,14 @@ void TestGradualChange::everyColumn_hasTheColourOfItsPlaceInTheRamp()
 
 void TestGradualChange::anySizeAndLevel_isExact_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("one pixel") << QSize(1, 1);
-    QTest::newRow("one row") << QSize(301, 1);
-    QTest::newRow("one column") << QSize(1, 203);
-    QTest::newRow("two by two") << QSize(2, 2);
-    QTest::newRow("one ramp and the outline") << QSize(257, 33);
-    QTest::newRow("high") << QSize(600, 1100);
-    QTest::newRow("four ramps") << QSize(1024, 50);
+    const Table<QSize> row("size");
+    row("one pixel", {1, 1});
+    row("one row", {301, 1});
+    row("one column", {1, 203});
+    row("two by two", {2, 2});
+    row("one ramp and the outline", {257, 33});
+    row("high", {600, 1100});
+    row("four ramps", {1024, 50});
 }
 
 void TestGradualChange::anySizeAndLevel_isExact()

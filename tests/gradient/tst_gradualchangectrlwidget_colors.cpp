@@ -1,7 +1,7 @@
 #include "gradientrig.h"
+#include "rows.h"
 #include "scrpurityctrldialog.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
 namespace {
@@ -21,6 +21,11 @@ int otherThan(int index)
     return index == 1 ? 2 : 1;
 }
 
+QString announced(int colorIndex)
+{
+    return QStringLiteral("signal_selectColorChanged(%1)").arg(QColor(colors[colorIndex]).name());
+}
+
 QVariantMap stored(int colorIndex, int level = 256)
 {
     return {{colorKey, QColor(colors[colorIndex])}, {levelKey, level}};
@@ -33,42 +38,35 @@ class TestGradualChangeCtrlWidgetColors : public QObject
     Q_OBJECT
 
 private slots:
-    void storedWhite_checksItsButtonAndTheDrawerShowsGreyRamps();
     void pageDownFromWhite_doesNotChangeTheColour();
 
-    void colourClick_showsTheColourAndAnnouncesItOnce_data();
+    void colourClick_showsTheColourAndAnnouncesItOnce_data() { addColorRows(); }
     void colourClick_showsTheColourAndAnnouncesItOnce();
     void colourClick_onTheCheckedButtonAnnouncesItAgain();
-    void colourSlots_setTheColour_data();
+    void colourSlots_setTheColour_data() { addColorRows(); }
     void colourSlots_setTheColour();
     void updateSelectedColor_announcesTheColour();
-    void selectingAColour_checksItsButtonAndAnnouncesNothing_data();
+    void selectingAColour_checksItsButtonAndAnnouncesNothing_data() { addColorRows(); }
     void selectingAColour_checksItsButtonAndAnnouncesNothing();
     void colourOutsideTheTable_isIgnored_data();
     void colourOutsideTheTable_isIgnored();
 
     void veryFirstColour_doesNotSetUserChanged();
     void restoredColour_doesNotSetUserChanged_theNextColourDoes();
-    void pageKeys_showAndAnnounceTheFirstFourWithTheLevelsOfThePanel_data();
+    void pageKeys_showAndAnnounceTheFirstFourWithTheLevelsOfThePanel_data() { addColorRows(4); }
     void pageKeys_showAndAnnounceTheFirstFourWithTheLevelsOfThePanel();
     void pageKeys_showAColourThatIsCheckedAlready();
     void pageKeys_neverReachYellowCyanAndPurple_data();
     void pageKeys_neverReachYellowCyanAndPurple();
-    void sharedColour_settlesBetweenTwoPanels_data();
+    void sharedColour_settlesBetweenTwoPanels_data() { addColorRows(); }
     void sharedColour_settlesBetweenTwoPanels();
 };
-
-void TestGradualChangeCtrlWidgetColors::storedWhite_checksItsButtonAndTheDrawerShowsGreyRamps()
-{
-    GradientRig rig(stored(3));
-    QCOMPARE(rig.checkedColor(), 3);
-    QCOMPARE(rig.panel->m_colorIndex, 3);
-    QVERIFY(rig.shows(256, Qt::white));
-}
 
 void TestGradualChangeCtrlWidgetColors::pageDownFromWhite_doesNotChangeTheColour()
 {
     GradientRig rig(stored(3));
+    QCOMPARE(rig.panel->m_colorIndex, 3);
+    QVERIFY(rig.shows(256, Qt::white));
     // The page keys step the index to 4 at most, and then go to the next tab.
     for (const int index : {3, 4}) {
         rig.panel->m_colorIndex = index;
@@ -78,17 +76,10 @@ void TestGradualChangeCtrlWidgetColors::pageDownFromWhite_doesNotChangeTheColour
     }
 }
 
-void TestGradualChangeCtrlWidgetColors::colourClick_showsTheColourAndAnnouncesItOnce_data()
-{
-    addColorRows();
-}
-
 void TestGradualChangeCtrlWidgetColors::colourClick_showsTheColourAndAnnouncesItOnce()
 {
     QFETCH(const int, index);
     GradientRig rig(stored(otherThan(index), 64));
-    QSignalSpy announced(rig.panel.get(), &Panel::signal_selectColorChanged);
-    QSignalSpy grey(rig.panel.get(), &Panel::signal_greyChanged);
     rig.panel->getDrawer()->active = false;
     rig.click(rig.colorButton(index));
 
@@ -97,77 +88,58 @@ void TestGradualChangeCtrlWidgetColors::colourClick_showsTheColourAndAnnouncesIt
     QVERIFY(rig.panel->m_userChanged);
     QVERIFY(rig.panel->getDrawer()->active);
     QVERIFY(rig.shows(64, colors[index]));
-    QCOMPARE(announced.count(), 1);
-    QCOMPARE(announced.first().first().value<QColor>(), QColor(colors[index]));
-    QCOMPARE(grey.count(), 0);
+    QCOMPARE(rig.emitted(), announced(index));
 }
 
 void TestGradualChangeCtrlWidgetColors::colourClick_onTheCheckedButtonAnnouncesItAgain()
 {
     const GradientRig rig(stored(2));
-    QSignalSpy announced(rig.panel.get(), &Panel::signal_selectColorChanged);
     rig.click(rig.colorButton(2));
 
-    QCOMPARE(announced.count(), 1);
-    QCOMPARE(announced.first().first().value<QColor>(), QColor(Qt::blue));
+    QCOMPARE(rig.emitted(), announced(2));
     QCOMPARE(rig.checkedColor(), 2);
     QVERIFY(!rig.panel->m_userChanged);
-}
-
-void TestGradualChangeCtrlWidgetColors::colourSlots_setTheColour_data()
-{
-    addColorRows();
 }
 
 void TestGradualChangeCtrlWidgetColors::colourSlots_setTheColour()
 {
     QFETCH(const int, index);
     GradientRig rig(stored(otherThan(index), 128));
-    QSignalSpy announced(rig.panel.get(), &Panel::signal_selectColorChanged);
     (rig.panel.get()->*colorSlots[index])();
 
     QCOMPARE(rig.panel->m_colorIndex, index);
     QVERIFY(rig.panel->m_userChanged);
     QVERIFY(rig.shows(128, colors[index]));
-    QCOMPARE(announced.count(), 0);
+    QCOMPARE(rig.emitted(), QString());
 }
 
 void TestGradualChangeCtrlWidgetColors::updateSelectedColor_announcesTheColour()
 {
     const GradientRig rig(stored(5));
-    QSignalSpy announced(rig.panel.get(), &Panel::signal_selectColorChanged);
     rig.panel->slot_updateSelectedColor();
 
-    QCOMPARE(announced.count(), 1);
-    QCOMPARE(announced.first().first().value<QColor>(), QColor(Qt::cyan));
-}
-
-void TestGradualChangeCtrlWidgetColors::selectingAColour_checksItsButtonAndAnnouncesNothing_data()
-{
-    addColorRows();
+    QCOMPARE(rig.emitted(), announced(5));
 }
 
 void TestGradualChangeCtrlWidgetColors::selectingAColour_checksItsButtonAndAnnouncesNothing()
 {
     QFETCH(const int, index);
     GradientRig rig(stored(otherThan(index)));
-    QSignalSpy announced(rig.panel.get(), &Panel::signal_selectColorChanged);
     rig.panel->slot_changeSelectedGradualColor(colors[index]);
 
     QCOMPARE(rig.checkedColor(), index);
     QCOMPARE(rig.panel->m_colorIndex, index);
     QVERIFY(rig.panel->m_userChanged);
     QVERIFY(rig.shows(256, colors[index]));
-    QCOMPARE(announced.count(), 0);
+    QCOMPARE(rig.emitted(), QString());
 }
 
 void TestGradualChangeCtrlWidgetColors::colourOutsideTheTable_isIgnored_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("black") << QColor(Qt::black);
-    QTest::newRow("invalid") << QColor();
-    QTest::newRow("translucent red") << QColor(255, 0, 0, 254);
-    QTest::newRow("red of the other colour model") << QColor::fromHsv(0, 255, 255);
+    addRows<QColor>("color", {{"black", Qt::black},
+                              {"invalid", QColor()},
+                              {"translucent red", {255, 0, 0, 254}},
+                              {"red of the other colour model", QColor::fromHsv(0, 255, 255)}});
 }
 
 void TestGradualChangeCtrlWidgetColors::colourOutsideTheTable_isIgnored()
@@ -206,24 +178,12 @@ void TestGradualChangeCtrlWidgetColors::restoredColour_doesNotSetUserChanged_the
 }
 
 void TestGradualChangeCtrlWidgetColors::
-    pageKeys_showAndAnnounceTheFirstFourWithTheLevelsOfThePanel_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::newRow("red") << 0;
-    QTest::newRow("green") << 1;
-    QTest::newRow("blue") << 2;
-    QTest::newRow("white") << 3;
-}
-
-void TestGradualChangeCtrlWidgetColors::
     pageKeys_showAndAnnounceTheFirstFourWithTheLevelsOfThePanel()
 {
     QFETCH(const int, index);
     GradientRig rig(stored(6, 32));
-    QSignalSpy announced(rig.panel.get(), &Panel::signal_selectColorChanged);
-    QSignalSpy grey(rig.panel.get(), &Panel::signal_greyChanged);
     rig.click(rig.levelButton(0));
-    grey.clear();
+    rig.emitted();
     rig.panel->m_level = 256;
     rig.panel->m_colorIndex = index;
     rig.panel->slot_changeColorByPageDown();
@@ -231,9 +191,7 @@ void TestGradualChangeCtrlWidgetColors::
     QCOMPARE(rig.checkedColor(), index);
     QCOMPARE(rig.panel->m_colorIndex, index);
     QVERIFY(rig.shows(256, colors[index]));
-    QCOMPARE(announced.count(), 1);
-    QCOMPARE(announced.constFirst().constFirst().value<QColor>(), QColor(colors[index]));
-    QCOMPARE(grey.count(), 0);
+    QCOMPARE(rig.emitted(), announced(index));
 }
 
 void TestGradualChangeCtrlWidgetColors::pageKeys_showAColourThatIsCheckedAlready()
@@ -252,19 +210,15 @@ void TestGradualChangeCtrlWidgetColors::pageKeys_showAColourThatIsCheckedAlready
 
 void TestGradualChangeCtrlWidgetColors::pageKeys_neverReachYellowCyanAndPurple_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::newRow("yellow") << 4;
-    QTest::newRow("cyan") << 5;
-    QTest::newRow("purple") << 6;
-    QTest::newRow("one too few") << -1;
-    QTest::newRow("one too many") << 7;
+    addRows<int>(
+        "index",
+        {{"yellow", 4}, {"cyan", 5}, {"purple", 6}, {"one too few", -1}, {"one too many", 7}});
 }
 
 void TestGradualChangeCtrlWidgetColors::pageKeys_neverReachYellowCyanAndPurple()
 {
     QFETCH(const int, index);
     GradientRig rig(stored(2));
-    QSignalSpy announced(rig.panel.get(), &Panel::signal_selectColorChanged);
     rig.panel->getDrawer()->active = false;
     rig.panel->m_colorIndex = index;
     rig.panel->slot_changeColorByPageDown();
@@ -273,12 +227,7 @@ void TestGradualChangeCtrlWidgetColors::pageKeys_neverReachYellowCyanAndPurple()
     QCOMPARE(rig.panel->m_colorIndex, index);
     QVERIFY(!rig.panel->getDrawer()->active);
     QVERIFY(rig.shows(256, Qt::blue));
-    QVERIFY(announced.isEmpty());
-}
-
-void TestGradualChangeCtrlWidgetColors::sharedColour_settlesBetweenTwoPanels_data()
-{
-    addColorRows();
+    QCOMPARE(rig.emitted(), QString());
 }
 
 void TestGradualChangeCtrlWidgetColors::sharedColour_settlesBetweenTwoPanels()
@@ -291,19 +240,18 @@ void TestGradualChangeCtrlWidgetColors::sharedColour_settlesBetweenTwoPanels()
             &Panel::slot_changeSelectedGradualColor);
     connect(rig.panel.get(), &Panel::signal_selectColorChanged, &purity,
             &ScrPurityCtrlDialog::slot_changeSelectedPurityColor);
-    QSignalSpy announced(rig.panel.get(), &Panel::signal_selectColorChanged);
 
     rig.click(rig.colorButton(index));
     QCOMPARE(purity.colorIndex, index);
     QCOMPARE(rig.checkedColor(), index);
-    QCOMPARE(announced.count(), 1);
+    QCOMPARE(rig.emitted(), announced(index));
 
     const int other = otherThan(index);
     purity.slot_changeSelectedPurityColor(colors[other]);
     QCOMPARE(purity.colorIndex, other);
     QCOMPARE(rig.checkedColor(), other);
     QVERIFY(rig.shows(256, colors[other]));
-    QCOMPARE(announced.count(), 1);
+    QCOMPARE(rig.emitted(), QString());
 }
 
 QTEST_MAIN(TestGradualChangeCtrlWidgetColors)

@@ -1,4 +1,5 @@
 #include "gradientrig.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -9,7 +10,7 @@ class TestGradualChangeCtrlWidgetSettings : public QObject
     Q_OBJECT
 
 private slots:
-    void colourIndex_isThatOfThePageKeysAfterAStart_data();
+    void colourIndex_isThatOfThePageKeysAfterAStart_data() { addColorRows(); }
     void colourIndex_isThatOfThePageKeysAfterAStart();
     void storedLevel_reachesTheTestWindowWithTheNextColour();
     void storedColour_isReadAsAName_data();
@@ -21,11 +22,6 @@ private slots:
     void storedNonsense_neverCrashesOrHangs();
     void pageKeys_areSaved();
 };
-
-void TestGradualChangeCtrlWidgetSettings::colourIndex_isThatOfThePageKeysAfterAStart_data()
-{
-    addColorRows();
-}
 
 // Yellow, cyan and purple count as red there.
 void TestGradualChangeCtrlWidgetSettings::colourIndex_isThatOfThePageKeysAfterAStart()
@@ -47,14 +43,13 @@ void TestGradualChangeCtrlWidgetSettings::storedLevel_reachesTheTestWindowWithTh
 
 void TestGradualChangeCtrlWidgetSettings::storedColour_isReadAsAName_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("index");
-    QTest::newRow("colour") << QVariant(QColor(Qt::yellow)) << 4;
-    QTest::newRow("hexadecimal") << QVariant(QStringLiteral("#ffff00")) << 4;
-    QTest::newRow("upper case") << QVariant(QStringLiteral("#00FFFF")) << 5;
-    QTest::newRow("name") << QVariant(QStringLiteral("blue")) << 2;
-    QTest::newRow("of the other colour model") << QVariant(QColor::fromHsv(300, 255, 255)) << 6;
-    QTest::newRow("empty") << QVariant(QString()) << 0;
+    const Table<QVariant, int> row("stored", "index");
+    row("colour", QColor(Qt::yellow), 4);
+    row("hexadecimal", QStringLiteral("#ffff00"), 4);
+    row("upper case", QStringLiteral("#00FFFF"), 5);
+    row("name", QStringLiteral("blue"), 2);
+    row("of the other colour model", QColor::fromHsv(300, 255, 255), 6);
+    row("empty", QString(), 0);
 }
 
 void TestGradualChangeCtrlWidgetSettings::storedColour_isReadAsAName()
@@ -68,13 +63,13 @@ void TestGradualChangeCtrlWidgetSettings::storedColour_isReadAsAName()
 
 void TestGradualChangeCtrlWidgetSettings::storedColourThatIsNoneOfTheSeven_selectsNothing_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::newRow("another colour") << QVariant(QColor(1, 2, 3));
-    QTest::newRow("translucent red") << QVariant(QColor(255, 0, 0, 128));
-    QTest::newRow("invalid colour") << QVariant(QColor());
-    QTest::newRow("no colour") << QVariant(QStringLiteral("nonsense"));
-    QTest::newRow("number") << QVariant(3);
-    QTest::newRow("the Chinese name") << QVariant(QStringLiteral("红"));
+    const Table<QVariant> row("stored");
+    row("another colour", QColor(1, 2, 3));
+    row("translucent red", QColor(255, 0, 0, 128));
+    row("invalid colour", QColor());
+    row("no colour", QStringLiteral("nonsense"));
+    row("number", 3);
+    row("the Chinese name", QStringLiteral("红"));
 }
 
 void TestGradualChangeCtrlWidgetSettings::storedColourThatIsNoneOfTheSeven_selectsNothing()
@@ -94,20 +89,19 @@ void TestGradualChangeCtrlWidgetSettings::storedColourThatIsNoneOfTheSeven_selec
 
 void TestGradualChangeCtrlWidgetSettings::storedLevelOutOfRange_givesTheDefault_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("level");
-    QTest::newRow("least") << QVariant(1) << 1;
-    QTest::newRow("not of the four") << QVariant(100) << 100;
-    QTest::newRow("text of a number") << QVariant(QStringLiteral("64")) << 64;
-    QTest::newRow("greatest") << QVariant(32767) << 32767;
-    QTest::newRow("one too many") << QVariant(32768) << 256;
-    QTest::newRow("zero in sixteen bits") << QVariant(65536) << 256;
-    QTest::newRow("64 in sixteen bits") << QVariant(65600) << 256;
-    QTest::newRow("huge") << QVariant(2147483647) << 256;
-    QTest::newRow("zero") << QVariant(0) << 256;
-    QTest::newRow("negative") << QVariant(-1) << 256;
-    QTest::newRow("64 in sixteen bits, negative") << QVariant(-65472) << 256;
-    QTest::newRow("least int") << QVariant(-2147483647 - 1) << 256;
+    const Table<QVariant, int> row("stored", "level");
+    row("least", 1, 1);
+    row("not of the four", 100, 100);
+    row("text of a number", QStringLiteral("64"), 64);
+    row("greatest", 32767, 32767);
+    row("one too many", 32768, 256);
+    row("zero in sixteen bits", 65536, 256);
+    row("64 in sixteen bits", 65600, 256);
+    row("huge", 2147483647, 256);
+    row("zero", 0, 256);
+    row("negative", -1, 256);
+    row("64 in sixteen bits, negative", -65472, 256);
+    row("least int", -2147483647 - 1, 256);
 }
 
 void TestGradualChangeCtrlWidgetSettings::storedLevelOutOfRange_givesTheDefault()

@@ -7,6 +7,15 @@
 #include <QRadioButton>
 #include <QTimer>
 
+// Texts of the button that starts and pauses the run.
+const QString begin = QStringLiteral("开始");
+const QString pause = QStringLiteral("暂停");
+
+inline QVariantMap automaticMode()
+{
+    return {{QStringLiteral("AutoTest"), true}};
+}
+
 // The purity panel with its controls at hand.
 class PurityRig : public PanelRig<ScrPurityCtrlDialog>
 {
@@ -26,6 +35,13 @@ public:
 
     // The running timer of the automatic run, null when there is none.
     QTimer *timer() const;
+
+    // An automatic panel's run begins at a grey level.
+    void startRun(int grey) const
+    {
+        autoSpinBox()->setValue(grey);
+        panel->slot_PauseResume();
+    }
 
     // One step of the automatic run; returns the grey level that follows.
     int tick() const;

@@ -1,7 +1,8 @@
 #include "canvas.h"
+#include "rows.h"
 #include "scrpurity.h"
+#include "signallog.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
 namespace {
@@ -44,6 +45,19 @@ bool everyPixelIs(const QImage &image, QRgb expected)
     return image.width() > 0 && image.height() > 0;
 }
 
+// The drawer on a canvas of its own.
+struct PurityCanvas
+{
+    explicit PurityCanvas(const QSize &size = QSize(33, 17))
+        : canvas(size)
+    {
+        canvas.setDrawer(&drawer);
+    }
+
+    Canvas canvas;
+    ScrPurity drawer{&canvas};
+};
+
 } // namespace
 
 class TestScrPurity : public QObject
@@ -53,8 +67,6 @@ class TestScrPurity : public QObject
 private slots:
     void everyGreyLevelOfEachColour_isExact_data();
     void everyGreyLevelOfEachColour_isExact();
-    void greyZero_paintsBlack_data();
-    void greyZero_paintsBlack();
     void greyAtStart_isFull();
     void otherColours_arePaintedAsTheyAre_data();
     void otherColours_arePaintedAsTheyAre();
@@ -66,38 +78,33 @@ private slots:
     void drawFalse_paintsNothing();
 
     void newDrawer_isInactiveAndHasNoParent();
-    void colour_activatesWithoutASignal();
-    void greyLevel_activatesAndSaysSo();
-    void everyGreyLevel_saysSo();
+    void colourAndGreyLevel_activateAndTheLatterSaysSo();
     void change_asksForARepaint_data();
     void change_asksForARepaint();
 };
 
 void TestScrPurity::everyGreyLevelOfEachColour_isExact_data()
 {
-    QTest::addColumn<int>("row");
-    QTest::newRow("red") << 0;
-    QTest::newRow("green") << 1;
-    QTest::newRow("blue") << 2;
-    QTest::newRow("white") << 3;
-    QTest::newRow("yellow") << 4;
-    QTest::newRow("cyan") << 5;
-    QTest::newRow("magenta") << 6;
+    addRows<int>("row", {{"red", 0},
+                         {"green", 1},
+                         {"blue", 2},
+                         {"white", 3},
+                         {"yellow", 4},
+                         {"cyan", 5},
+                         {"magenta", 6}});
 }
 
 void TestScrPurity::everyGreyLevelOfEachColour_isExact()
 {
     QFETCH(const int, row);
     const Lit &lit = litChannels[row];
-    Canvas canvas(QSize(33, 17));
-    ScrPurity drawer(&canvas);
-    canvas.setDrawer(&drawer);
-    drawer.slot_colorChanged(lit.color);
-    const QVector<QPoint> points = cornersAndCentre(canvas.size());
+    PurityCanvas purity;
+    purity.drawer.slot_colorChanged(lit.color);
+    const QVector<QPoint> points = cornersAndCentre(purity.canvas.size());
 
     for (uint grey = 0; grey < 256; ++grey) {
-        drawer.slot_AlphaChanged(int(grey));
-        const QImage image = canvas.painted(backdrop);
+        purity.drawer.slot_AlphaChanged(int(grey));
+        const QImage image = purity.canvas.painted(backdrop);
         const QRgb expected = pixel(lit.red * grey, lit.green * grey, lit.blue * grey);
         for (const QPoint &point : points) {
             if (image.pixel(point) != expected)
@@ -111,117 +118,85 @@ void TestScrPurity::everyGreyLevelOfEachColour_isExact()
     }
 }
 
-void TestScrPurity::greyZero_paintsBlack_data()
-{
-    everyGreyLevelOfEachColour_isExact_data();
-}
-
-void TestScrPurity::greyZero_paintsBlack()
-{
-    QFETCH(const int, row);
-    Canvas canvas;
-    ScrPurity drawer(&canvas);
-    canvas.setDrawer(&drawer);
-    drawer.slot_AlphaChanged(0);
-    drawer.slot_colorChanged(litChannels[row].color);
-
-    QVERIFY(everyPixelIs(canvas.painted(Qt::white), pixel(0, 0, 0)));
-}
-
 void TestScrPurity::greyAtStart_isFull()
 {
-    Canvas canvas;
-    ScrPurity drawer(&canvas);
-    canvas.setDrawer(&drawer);
-    drawer.slot_colorChanged(Qt::cyan);
+    PurityCanvas purity;
+    purity.drawer.slot_colorChanged(Qt::cyan);
 
-    QVERIFY(everyPixelIs(canvas.painted(), pixel(0, 255, 255)));
+    QVERIFY(everyPixelIs(purity.canvas.painted(), pixel(0, 255, 255)));
 }
 
 void TestScrPurity::otherColours_arePaintedAsTheyAre_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<uint>("expected");
-
-    QTest::newRow("red with alpha 254") << QColor(255, 0, 0, 254) << 0xfeff0000u;
-    QTest::newRow("black") << QColor(Qt::black) << 0xff000000u;
-    QTest::newRow("red one step darker") << QColor(254, 0, 0) << 0xfffe0000u;
-    QTest::newRow("white with a darker blue") << QColor(255, 255, 254) << 0xfffffffeu;
-    QTest::newRow("dark red") << QColor(Qt::darkRed) << 0xff800000u;
-    QTest::newRow("grey") << QColor(Qt::gray) << 0xffa0a0a4u;
-    QTest::newRow("red of the other colour model") << QColor::fromHsv(0, 255, 255) << 0xffff0000u;
-    QTest::newRow("transparent") << QColor(Qt::transparent) << 0x00000000u;
+    const Table<QColor, uint> row("color", "expected");
+    row("red with alpha 254", {255, 0, 0, 254}, 0xfeff0000u);
+    row("black", Qt::black, 0xff000000u);
+    row("red one step darker", {254, 0, 0}, 0xfffe0000u);
+    row("white with a darker blue", {255, 255, 254}, 0xfffffffeu);
+    row("dark red", Qt::darkRed, 0xff800000u);
+    row("grey", Qt::gray, 0xffa0a0a4u);
+    row("red of the other colour model", QColor::fromHsv(0, 255, 255), 0xffff0000u);
+    row("transparent", Qt::transparent, 0x00000000u);
 }
 
 void TestScrPurity::otherColours_arePaintedAsTheyAre()
 {
     QFETCH(const QColor, color);
     QFETCH(const uint, expected);
-    Canvas canvas;
-    ScrPurity drawer(&canvas);
-    canvas.setDrawer(&drawer);
-    drawer.slot_AlphaChanged(7);
-    drawer.slot_colorChanged(color);
+    PurityCanvas purity;
+    purity.drawer.slot_AlphaChanged(7);
+    purity.drawer.slot_colorChanged(color);
 
-    QVERIFY(everyPixelIs(canvas.painted(Qt::transparent), expected));
+    QVERIFY(everyPixelIs(purity.canvas.painted(Qt::transparent), expected));
 }
 
 void TestScrPurity::neverSetColour_paintsWhatAnInvalidOneGives()
 {
-    Canvas canvas;
-    ScrPurity drawer(&canvas);
-    canvas.setDrawer(&drawer);
+    PurityCanvas purity;
 
-    QVERIFY(everyPixelIs(canvas.painted(Qt::white), QColor().rgba()));
+    QVERIFY(everyPixelIs(purity.canvas.painted(Qt::white), QColor().rgba()));
 }
 
 void TestScrPurity::wholeWidget_isPainted_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("one pixel") << QSize(1, 1);
-    QTest::newRow("one row") << QSize(301, 1);
-    QTest::newRow("one column") << QSize(1, 203);
-    QTest::newRow("odd by odd") << QSize(127, 63);
-    QTest::newRow("even by even") << QSize(256, 128);
+    addRows<QSize>("size", {{"one pixel", {1, 1}},
+                            {"one row", {301, 1}},
+                            {"one column", {1, 203}},
+                            {"odd by odd", {127, 63}},
+                            {"even by even", {256, 128}}});
 }
 
 void TestScrPurity::wholeWidget_isPainted()
 {
     QFETCH(const QSize, size);
-    Canvas canvas(size);
-    ScrPurity drawer(&canvas);
-    canvas.setDrawer(&drawer);
-    drawer.slot_colorChanged(Qt::magenta);
-    drawer.slot_AlphaChanged(99);
+    PurityCanvas purity(size);
+    purity.drawer.slot_AlphaChanged(99);
+    purity.drawer.slot_colorChanged(Qt::magenta);
 
-    const QImage image = canvas.painted(backdrop);
+    const QImage image = purity.canvas.painted(backdrop);
     QCOMPARE(image.size(), size);
     QVERIFY(everyPixelIs(image, pixel(99, 0, 99)));
 }
 
 void TestScrPurity::resizedWidget_isPaintedToItsNewEdges()
 {
-    Canvas canvas(QSize(11, 9));
-    ScrPurity drawer(&canvas);
-    canvas.setDrawer(&drawer);
-    drawer.slot_colorChanged(Qt::yellow);
-    QVERIFY(everyPixelIs(canvas.painted(backdrop), pixel(255, 255, 0)));
+    PurityCanvas purity(QSize(11, 9));
+    purity.drawer.slot_colorChanged(Qt::yellow);
+    QVERIFY(everyPixelIs(purity.canvas.painted(backdrop), pixel(255, 255, 0)));
 
-    canvas.resize(53, 31);
-    QVERIFY(everyPixelIs(canvas.painted(backdrop), pixel(255, 255, 0)));
+    purity.canvas.resize(53, 31);
+    QVERIFY(everyPixelIs(purity.canvas.painted(backdrop), pixel(255, 255, 0)));
 }
 
 void TestScrPurity::window_isCoveredByOpaqueColours()
 {
-    Canvas canvas;
-    ScrPurity drawer(&canvas);
-    canvas.setDrawer(&drawer);
-    QVERIFY(canvas.isCovered()); // an invalid colour is black
-    drawer.slot_AlphaChanged(0);
-    drawer.slot_colorChanged(Qt::red);
-    QVERIFY(canvas.isCovered());
-    drawer.slot_colorChanged(QColor(255, 0, 0, 254));
-    QVERIFY(!canvas.isCovered());
+    PurityCanvas purity;
+    QVERIFY(purity.canvas.isCovered()); // an invalid colour is black
+    purity.drawer.slot_AlphaChanged(0);
+    purity.drawer.slot_colorChanged(Qt::red);
+    QVERIFY(purity.canvas.isCovered());
+    purity.drawer.slot_colorChanged(QColor(255, 0, 0, 254));
+    QVERIFY(!purity.canvas.isCovered());
 }
 
 void TestScrPurity::drawFalse_paintsNothing()
@@ -246,64 +221,41 @@ void TestScrPurity::newDrawer_isInactiveAndHasNoParent()
     QVERIFY(!drawer.parent());
 }
 
-void TestScrPurity::colour_activatesWithoutASignal()
+void TestScrPurity::colourAndGreyLevel_activateAndTheLatterSaysSo()
 {
-    Canvas canvas;
-    ScrPurity drawer(&canvas);
-    QSignalSpy selected(&drawer, &ScrPurity::signal_puritySelect);
-    drawer.slot_colorChanged(Qt::green);
+    PurityCanvas purity;
+    SignalLog log(&purity.drawer);
+    purity.drawer.slot_colorChanged(Qt::green);
+    QVERIFY(purity.drawer.active);
+    QCOMPARE(log.take(), QString());
 
-    QVERIFY(drawer.active);
-    QCOMPARE(selected.count(), 0);
-}
-
-void TestScrPurity::greyLevel_activatesAndSaysSo()
-{
-    Canvas canvas;
-    ScrPurity drawer(&canvas);
-    QSignalSpy selected(&drawer, &ScrPurity::signal_puritySelect);
-    drawer.slot_AlphaChanged(12);
-
-    QVERIFY(drawer.active);
-    QCOMPARE(selected.count(), 1);
-    QCOMPARE(selected.first().first().toBool(), true);
-}
-
-void TestScrPurity::everyGreyLevel_saysSo()
-{
-    Canvas canvas;
-    ScrPurity drawer(&canvas);
-    QSignalSpy selected(&drawer, &ScrPurity::signal_puritySelect);
-    drawer.slot_AlphaChanged(12);
-    drawer.slot_AlphaChanged(12);
-    drawer.slot_AlphaChanged(13);
-
-    QCOMPARE(selected.count(), 3);
+    for (const int grey : {12, 12, 13}) {
+        purity.drawer.active = false;
+        purity.drawer.slot_AlphaChanged(grey);
+        QVERIFY(purity.drawer.active);
+        QCOMPARE(log.take(), QStringLiteral("signal_puritySelect(true)"));
+    }
 }
 
 void TestScrPurity::change_asksForARepaint_data()
 {
-    QTest::addColumn<bool>("ofColour");
-    QTest::newRow("colour") << true;
-    QTest::newRow("grey level") << false;
+    addRows<bool>("ofColour", {{"colour", true}, {"grey level", false}});
 }
 
 void TestScrPurity::change_asksForARepaint()
 {
     QFETCH(const bool, ofColour);
-    Canvas canvas;
-    ScrPurity drawer(&canvas);
-    canvas.setDrawer(&drawer);
-    canvas.show();
-    QTRY_VERIFY(canvas.paintCount() > 0);
+    PurityCanvas purity;
+    purity.canvas.show();
+    QTRY_VERIFY(purity.canvas.paintCount() > 0);
 
-    const int before = canvas.paintCount();
+    const int before = purity.canvas.paintCount();
     if (ofColour)
-        drawer.slot_colorChanged(Qt::blue);
+        purity.drawer.slot_colorChanged(Qt::blue);
     else
-        drawer.slot_AlphaChanged(31);
-    QCOMPARE(canvas.paintCount(), before);
-    QTRY_VERIFY(canvas.paintCount() > before);
+        purity.drawer.slot_AlphaChanged(31);
+    QCOMPARE(purity.canvas.paintCount(), before);
+    QTRY_VERIFY(purity.canvas.paintCount() > before);
 }
 
 QTEST_MAIN(TestScrPurity)

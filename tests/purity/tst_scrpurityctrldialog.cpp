@@ -1,29 +1,10 @@
 #include "paneltest.h"
 #include "purityrig.h"
+#include "rows.h"
 
 #include <QLabel>
 #include <QSignalSpy>
 #include <QtTest>
-
-namespace {
-
-void pressArrow(ScrPurityCtrlDialog &panel, int key)
-{
-    switch (key) {
-    case Qt::Key_Up:
-        return panel.slot_keyUpPressed();
-    case Qt::Key_Right:
-        return panel.slot_keyRightPressed();
-    case Qt::Key_Down:
-        return panel.slot_keyDownPressed();
-    case Qt::Key_Left:
-        return panel.slot_keyLeftPressed();
-    default:
-        qFatal("no arrow");
-    }
-}
-
-} // namespace
 
 class TestScrPurityCtrlDialog : public PanelTest<PurityRig>
 {
@@ -41,9 +22,7 @@ private slots:
     void ranges_areThoseOfTheValues();
     void spinBoxes_lookAndBehaveAlike_data();
     void spinBoxes_lookAndBehaveAlike();
-    void pauseButton_isNamedForTheStyleSheet();
-    void rule_hasItsColour();
-    void lamps_startGrey();
+    void form_isNamedAndColouredAsTheStyleSheetNeedsIt();
     void drawer_isTheSameEachTimeAndStaysAsItIs();
 
     void greyEdit_isShownAndSetsPuritySelected_data();
@@ -79,8 +58,8 @@ QList<QByteArray> TestScrPurityCtrlDialog::alsoStored() const
 
 QString TestScrPurityCtrlDialog::texts() const
 {
-    return QStringLiteral("红 绿 蓝 白 黄 青 紫 自动 速度 速度 速度 当前灰度 当前灰度 "
-                          "运行指示灯 运行指示灯 开始 手动 灰度 灰度 灰度");
+    return QStringLiteral("红|绿|蓝|白|黄|青|紫|自动|速度|速度|速度|当前灰度|当前灰度|"
+                          "运行指示灯|运行指示灯|开始|手动|灰度|灰度|灰度");
 }
 
 void TestScrPurityCtrlDialog::addEdits() const
@@ -113,14 +92,12 @@ void TestScrPurityCtrlDialog::addEdits() const
 
 void TestScrPurityCtrlDialog::ranges_areThoseOfTheValues_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::newRow("manual slider") << QStringLiteral("hScrollBarScale") << 0 << 255;
-    QTest::newRow("manual spin box") << QStringLiteral("spinBoxScale") << 0 << 255;
-    QTest::newRow("automatic spin box") << QStringLiteral("spinBoxAutoScale") << 0 << 255;
-    QTest::newRow("speed slider") << QStringLiteral("hScrollBarSpeed") << 1 << 100;
-    QTest::newRow("speed spin box") << QStringLiteral("spinBoxSpeed") << 1 << 100;
+    const Table<const char *, int, int> row("name", "minimum", "maximum");
+    row("manual slider", "hScrollBarScale", 0, 255);
+    row("manual spin box", "spinBoxScale", 0, 255);
+    row("automatic spin box", "spinBoxAutoScale", 0, 255);
+    row("speed slider", "hScrollBarSpeed", 1, 100);
+    row("speed spin box", "spinBoxSpeed", 1, 100);
 }
 
 void TestScrPurityCtrlDialog::ranges_areThoseOfTheValues()
@@ -136,9 +113,7 @@ void TestScrPurityCtrlDialog::ranges_areThoseOfTheValues()
 
 void TestScrPurityCtrlDialog::spinBoxes_lookAndBehaveAlike_data()
 {
-    QTest::addColumn<QString>("name");
-    for (const char *name : {"spinBoxScale", "spinBoxAutoScale", "spinBoxSpeed"})
-        QTest::newRow(name) << QString::fromLatin1(name);
+    addNames("name", {"spinBoxScale", "spinBoxAutoScale", "spinBoxSpeed"});
 }
 
 void TestScrPurityCtrlDialog::spinBoxes_lookAndBehaveAlike()
@@ -154,25 +129,13 @@ void TestScrPurityCtrlDialog::spinBoxes_lookAndBehaveAlike()
     QVERIFY(!spinBox->testAttribute(Qt::WA_MacShowFocusRect));
 }
 
-void TestScrPurityCtrlDialog::pauseButton_isNamedForTheStyleSheet()
+void TestScrPurityCtrlDialog::form_isNamedAndColouredAsTheStyleSheetNeedsIt()
 {
     const PurityRig rig;
-    QVERIFY(rig.beginButton());
     QVERIFY(!rig.child<QPushButton>("buttonPauseResume"));
-    QCOMPARE(rig.beginButton()->text(), QStringLiteral("开始"));
-}
-
-void TestScrPurityCtrlDialog::rule_hasItsColour()
-{
-    const PurityRig rig;
-    QVERIFY(rig.child<QLabel>("label_2"));
+    QCOMPARE(rig.beginButton()->text(), begin);
     QCOMPARE(rig.child<QLabel>("label_2")->styleSheet(),
              QStringLiteral("background:rgb(75,80,87);"));
-}
-
-void TestScrPurityCtrlDialog::lamps_startGrey()
-{
-    const PurityRig rig;
     QVERIFY(rig.greenLamp()->isHidden());
     QVERIFY(!rig.greyLamp()->isHidden());
 }
@@ -192,9 +155,7 @@ void TestScrPurityCtrlDialog::drawer_isTheSameEachTimeAndStaysAsItIs()
 
 void TestScrPurityCtrlDialog::greyEdit_isShownAndSetsPuritySelected_data()
 {
-    QTest::addColumn<QString>("name");
-    for (const char *name : {"hScrollBarScale", "spinBoxScale", "spinBoxAutoScale"})
-        QTest::newRow(name) << QString::fromLatin1(name);
+    addNames("name", {"hScrollBarScale", "spinBoxScale", "spinBoxAutoScale"});
 }
 
 void TestScrPurityCtrlDialog::greyEdit_isShownAndSetsPuritySelected()
@@ -211,39 +172,35 @@ void TestScrPurityCtrlDialog::greyEdit_isShownAndSetsPuritySelected()
 
 void TestScrPurityCtrlDialog::arrows_stepTheManualGrey_data()
 {
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("expected");
-
-    QTest::newRow("Up") << 100 << int(Qt::Key_Up) << 101;
-    QTest::newRow("Right") << 100 << int(Qt::Key_Right) << 101;
-    QTest::newRow("Down") << 100 << int(Qt::Key_Down) << 99;
-    QTest::newRow("Left") << 100 << int(Qt::Key_Left) << 99;
-    QTest::newRow("Up to the maximum") << 254 << int(Qt::Key_Up) << 255;
-    QTest::newRow("Down to the minimum") << 1 << int(Qt::Key_Down) << 0;
-    QTest::newRow("the Up arrow at grey 255 gives 0") << 255 << int(Qt::Key_Up) << 0;
-    QTest::newRow("Right at 255") << 255 << int(Qt::Key_Right) << 0;
-    QTest::newRow("the Down arrow at 0 gives 255") << 0 << int(Qt::Key_Down) << 255;
-    QTest::newRow("Left at 0") << 0 << int(Qt::Key_Left) << 255;
+    const Table<int, QByteArray, int> row("start", "key", "expected");
+    row("Up", 100, "slot_keyUpPressed", 101);
+    row("Right", 100, "slot_keyRightPressed", 101);
+    row("Down", 100, "slot_keyDownPressed", 99);
+    row("Left", 100, "slot_keyLeftPressed", 99);
+    row("Up to the maximum", 254, "slot_keyUpPressed", 255);
+    row("Down to the minimum", 1, "slot_keyDownPressed", 0);
+    row("the Up arrow at grey 255 gives 0", 255, "slot_keyUpPressed", 0);
+    row("Right at 255", 255, "slot_keyRightPressed", 0);
+    row("the Down arrow at 0 gives 255", 0, "slot_keyDownPressed", 255);
+    row("Left at 0", 0, "slot_keyLeftPressed", 255);
 }
 
 void TestScrPurityCtrlDialog::arrows_stepTheManualGrey()
 {
     QFETCH(const int, start);
-    QFETCH(const int, key);
+    QFETCH(const QByteArray, key);
     QFETCH(const int, expected);
     PurityRig rig({{QStringLiteral("testWindowBaseColor"), QColor(Qt::white)}});
     rig.greySlider()->setValue(start);
-    QSignalSpy grey(rig.panel.get(), &ScrPurityCtrlDialog::signal_greyChanged);
+    rig.emitted();
     rig.panel->puritySelected = false;
 
-    pressArrow(*rig.panel, key);
+    QVERIFY(QMetaObject::invokeMethod(rig.panel.get(), key));
 
     QCOMPARE(rig.greySlider()->value(), expected);
     QCOMPARE(rig.greySpinBox()->value(), expected);
     QCOMPARE(rig.shownColor(), qRgb(expected, expected, expected));
-    QCOMPARE(grey.count(), 1);
-    QCOMPARE(grey.first().first().toString(), QString::number(expected));
+    QCOMPARE(rig.emitted(), QStringLiteral("signal_greyChanged(%1)").arg(expected));
     QVERIFY(rig.panel->puritySelected);
 }
 

@@ -1,4 +1,5 @@
 #include "purityrig.h"
+#include "rows.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -10,9 +11,9 @@ constexpr int noColor = 256;
 
 const QString baseColorKey = QStringLiteral("/setting/testWindowBaseColor");
 
-QColor colorAt(const QSignalSpy &spy, int emission)
+QString told(int index)
 {
-    return spy.at(emission).first().value<QColor>();
+    return QStringLiteral("signal_colorChanged(%1)").arg(QColor(colors[index]).name());
 }
 
 // Another colour than the one at the index, and not white.
@@ -28,15 +29,12 @@ class TestScrPurityCtrlDialogColors : public QObject
     Q_OBJECT
 
 private slots:
-    void colourClick_selectsTheColour_data();
+    void colourClick_selectsTheColour_data() { addColorRows(); }
     void colourClick_selectsTheColour();
-    void colourClick_onAnUncheckedButtonSaysItTwice_data();
-    void colourClick_onAnUncheckedButtonSaysItTwice();
     void colourClick_onTheCheckedButtonSaysItOnceMore();
-    void selectingAColour_checksItsButton_data();
+    void selectingAColour_checksItsButton_data() { addColorRows(); }
     void selectingAColour_checksItsButton();
-    void selectingWhite_clicksItsButton();
-    void selectingTheCheckedColour_isSilent();
+    void selectingTheCheckedColour_isSilentUnlessItIsWhite();
     void colourOutsideTheTable_doesNothing_data();
     void colourOutsideTheTable_doesNothing();
 
@@ -46,24 +44,20 @@ private slots:
     void checkedColour_isStoredAgain();
     void puritySelect_setsTheFlag();
     void pageKeys_beforeAnyColourDoNothing();
-    void pageKeys_selectTheFirstFour_data();
+    void pageKeys_selectTheFirstFour_data() { addColorRows(4); }
     void pageKeys_selectTheFirstFour();
     void pageKeys_neverReachYellowCyanAndPurple_data();
     void pageKeys_neverReachYellowCyanAndPurple();
     void leavingThePageKeys_staysSilent_data();
     void leavingThePageKeys_staysSilent();
 };
-void TestScrPurityCtrlDialogColors::colourClick_selectsTheColour_data()
-{
-    addColorRows();
-}
-
 void TestScrPurityCtrlDialogColors::colourClick_selectsTheColour()
 {
     QFETCH(const int, index);
     PurityRig rig({{baseColorKey, QColor(colors[otherThan(index)])}});
     rig.click(rig.colorButton(index));
 
+    QCOMPARE(rig.emitted(), told(index) + QLatin1Char(' ') + told(index)); // checked, and clicked
     QCOMPARE(rig.checkedColor(), index);
     QVERIFY(rig.manual()->isChecked()); // a colour is no mode
     QCOMPARE(rig.panel->colorIndex, index);
@@ -72,92 +66,58 @@ void TestScrPurityCtrlDialogColors::colourClick_selectsTheColour()
     QCOMPARE(rig.settings->value(baseColorKey).value<QColor>(), QColor(colors[index]));
 }
 
-void TestScrPurityCtrlDialogColors::colourClick_onAnUncheckedButtonSaysItTwice_data()
-{
-    addColorRows();
-}
-
-void TestScrPurityCtrlDialogColors::colourClick_onAnUncheckedButtonSaysItTwice()
-{
-    QFETCH(const int, index);
-    const PurityRig rig({{baseColorKey, QColor(colors[otherThan(index)])}});
-    QSignalSpy changed(rig.panel.get(), &ScrPurityCtrlDialog::signal_colorChanged);
-    rig.click(rig.colorButton(index));
-
-    QCOMPARE(changed.count(), 2);
-    QCOMPARE(colorAt(changed, 0), QColor(colors[index]));
-    QCOMPARE(colorAt(changed, 1), QColor(colors[index]));
-}
-
 void TestScrPurityCtrlDialogColors::colourClick_onTheCheckedButtonSaysItOnceMore()
 {
     const PurityRig rig({{baseColorKey, QColor(Qt::blue)}});
-    QSignalSpy changed(rig.panel.get(), &ScrPurityCtrlDialog::signal_colorChanged);
     rig.click(rig.colorButton(2));
 
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(colorAt(changed, 0), QColor(Qt::blue));
+    QCOMPARE(rig.emitted(), told(2));
     QVERIFY(rig.colorButton(2)->isChecked());
-}
-
-void TestScrPurityCtrlDialogColors::selectingAColour_checksItsButton_data()
-{
-    addColorRows();
 }
 
 void TestScrPurityCtrlDialogColors::selectingAColour_checksItsButton()
 {
     QFETCH(const int, index);
     PurityRig rig({{baseColorKey, QColor(colors[otherThan(index)])}});
-    QSignalSpy changed(rig.panel.get(), &ScrPurityCtrlDialog::signal_colorChanged);
     rig.panel->slot_changeSelectedPurityColor(colors[index]);
 
     QVERIFY(rig.colorButton(index)->isChecked());
     QCOMPARE(rig.panel->colorIndex, index);
     QVERIFY(rig.panel->puritySelected);
-    QCOMPARE(changed.count(), index == white ? 2 : 1);
+    QCOMPARE(rig.emitted(), index == white ? told(white) + QLatin1Char(' ') + told(white)
+                                           : told(index)); // it clicks the button of white
     QCOMPARE(rig.shownColor(), QColor(colors[index]).rgba());
     QCOMPARE(rig.settings->value(baseColorKey).value<QColor>(), QColor(colors[index]));
 }
 
-void TestScrPurityCtrlDialogColors::selectingWhite_clicksItsButton()
+void TestScrPurityCtrlDialogColors::selectingTheCheckedColour_isSilentUnlessItIsWhite()
 {
-    const PurityRig rig({{baseColorKey, QColor(Qt::white)}});
-    QSignalSpy clicked(rig.colorButton(white), &QAbstractButton::clicked);
-    QSignalSpy changed(rig.panel.get(), &ScrPurityCtrlDialog::signal_colorChanged);
-    rig.panel->slot_changeSelectedPurityColor(Qt::white);
+    for (const int index : {4, white}) {
+        const PurityRig rig({{baseColorKey, QColor(colors[index])}});
+        QSignalSpy clicked(rig.colorButton(index), &QAbstractButton::clicked);
+        rig.panel->slot_changeSelectedPurityColor(colors[index]);
 
-    QCOMPARE(clicked.count(), 1);
-    QCOMPARE(changed.count(), 1);
-}
-
-void TestScrPurityCtrlDialogColors::selectingTheCheckedColour_isSilent()
-{
-    const PurityRig rig({{baseColorKey, QColor(Qt::yellow)}});
-    QSignalSpy changed(rig.panel.get(), &ScrPurityCtrlDialog::signal_colorChanged);
-    rig.panel->slot_changeSelectedPurityColor(Qt::yellow);
-
-    QCOMPARE(changed.count(), 0);
-    QVERIFY(!rig.panel->puritySelected);
+        QCOMPARE(clicked.count(), index == white ? 1 : 0);
+        QCOMPARE(rig.emitted(), index == white ? told(white) : QString());
+        QVERIFY(index == white || !rig.panel->puritySelected);
+    }
 }
 
 void TestScrPurityCtrlDialogColors::colourOutsideTheTable_doesNothing_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("black") << QColor(Qt::black);
-    QTest::newRow("invalid") << QColor();
-    QTest::newRow("translucent green") << QColor(0, 255, 0, 254);
-    QTest::newRow("green of the other colour model") << QColor::fromHsv(120, 255, 255);
+    addRows<QColor>("color", {{"black", Qt::black},
+                              {"invalid", QColor()},
+                              {"translucent green", {0, 255, 0, 254}},
+                              {"green of the other colour model", QColor::fromHsv(120, 255, 255)}});
 }
 
 void TestScrPurityCtrlDialogColors::colourOutsideTheTable_doesNothing()
 {
     QFETCH(const QColor, color);
     PurityRig rig({{baseColorKey, QColor(Qt::blue)}});
-    QSignalSpy changed(rig.panel.get(), &ScrPurityCtrlDialog::signal_colorChanged);
     rig.panel->slot_changeSelectedPurityColor(color);
 
-    QCOMPARE(changed.count(), 0);
+    QCOMPARE(rig.emitted(), QString());
     QVERIFY(rig.colorButton(2)->isChecked());
     QCOMPARE(rig.panel->colorIndex, 2);
     QVERIFY(!rig.panel->puritySelected);
@@ -168,22 +128,21 @@ void TestScrPurityCtrlDialogColors::colourOutsideTheTable_doesNothing()
 void TestScrPurityCtrlDialogColors::
     restoring_neverSetsPuritySelected_theFirstRealColourClickDoes_data()
 {
-    QTest::addColumn<QVariantMap>("stored");
     const QString mode = QStringLiteral("AutoTest");
-    QTest::newRow("nothing") << QVariantMap();
-    QTest::newRow("red") << QVariantMap{{baseColorKey, QColor(Qt::red)}};
-    QTest::newRow("white") << QVariantMap{{baseColorKey, QColor(Qt::white)}};
-    QTest::newRow("purple") << QVariantMap{{baseColorKey, QColor(Qt::magenta)}};
-    QTest::newRow("none of the seven") << QVariantMap{{baseColorKey, QColor(Qt::gray)}};
-    QTest::newRow("automatic") << QVariantMap{{mode, true}};
-    QTest::newRow("white, automatic, greys")
-        << QVariantMap{{baseColorKey, QColor(Qt::white)},
-                       {mode, true},
-                       {QStringLiteral("testPurityGreyLevel"), 12},
-                       {QStringLiteral("testAutoScale"), 34}};
-    QTest::newRow("manual greys") << QVariantMap{{mode, false},
-                                                 {QStringLiteral("testPurityGreyLevel"), 12},
-                                                 {QStringLiteral("testAutoScale"), 34}};
+    const Table<QVariantMap> row("stored");
+    row("nothing", QVariantMap());
+    row("red", QVariantMap{{baseColorKey, QColor(Qt::red)}});
+    row("white", QVariantMap{{baseColorKey, QColor(Qt::white)}});
+    row("purple", QVariantMap{{baseColorKey, QColor(Qt::magenta)}});
+    row("none of the seven", QVariantMap{{baseColorKey, QColor(Qt::gray)}});
+    row("automatic", QVariantMap{{mode, true}});
+    row("white, automatic, greys", QVariantMap{{baseColorKey, QColor(Qt::white)},
+                                               {mode, true},
+                                               {QStringLiteral("testPurityGreyLevel"), 12},
+                                               {QStringLiteral("testAutoScale"), 34}});
+    row("manual greys", QVariantMap{{mode, false},
+                                    {QStringLiteral("testPurityGreyLevel"), 12},
+                                    {QStringLiteral("testAutoScale"), 34}});
 }
 
 void TestScrPurityCtrlDialogColors::restoring_neverSetsPuritySelected_theFirstRealColourClickDoes()
@@ -231,18 +190,11 @@ void TestScrPurityCtrlDialogColors::pageKeys_beforeAnyColourDoNothing()
     // No button is checked for a stored colour that is none of the seven.
     const PurityRig rig({{baseColorKey, QColor(Qt::gray)}});
     QCOMPARE(rig.panel->colorIndex, noColor);
-    QSignalSpy changed(rig.panel.get(), &ScrPurityCtrlDialog::signal_colorChanged);
     rig.panel->slot_changeColorByPageUpDown();
 
-    QCOMPARE(changed.count(), 0);
+    QCOMPARE(rig.emitted(), QString());
     QCOMPARE(rig.panel->colorIndex, noColor);
-    for (int index = 0; index < colorCount; ++index)
-        QVERIFY(!rig.colorButton(index)->isChecked());
-}
-
-void TestScrPurityCtrlDialogColors::pageKeys_selectTheFirstFour_data()
-{
-    addColorRows(4);
+    QCOMPARE(rig.checkedColor(), -1);
 }
 
 void TestScrPurityCtrlDialogColors::pageKeys_selectTheFirstFour()
@@ -259,31 +211,25 @@ void TestScrPurityCtrlDialogColors::pageKeys_selectTheFirstFour()
 
 void TestScrPurityCtrlDialogColors::pageKeys_neverReachYellowCyanAndPurple_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::newRow("yellow") << 4;
-    QTest::newRow("cyan") << 5;
-    QTest::newRow("purple") << 6;
-    QTest::newRow("one too few") << -1;
-    QTest::newRow("one too many") << 7;
+    addRows<int>(
+        "index",
+        {{"yellow", 4}, {"cyan", 5}, {"purple", 6}, {"one too few", -1}, {"one too many", 7}});
 }
 
 void TestScrPurityCtrlDialogColors::pageKeys_neverReachYellowCyanAndPurple()
 {
     QFETCH(const int, index);
     const PurityRig rig({{baseColorKey, QColor(Qt::blue)}});
-    QSignalSpy changed(rig.panel.get(), &ScrPurityCtrlDialog::signal_colorChanged);
     rig.panel->colorIndex = index;
     rig.panel->slot_changeColorByPageUpDown();
 
-    QCOMPARE(changed.count(), 0);
+    QCOMPARE(rig.emitted(), QString());
     QVERIFY(rig.colorButton(2)->isChecked());
 }
 
 void TestScrPurityCtrlDialogColors::leavingThePageKeys_staysSilent_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::newRow("white") << 3;
-    QTest::newRow("blue") << 2;
+    addRows<int>("index", {{"white", 3}, {"blue", 2}});
 }
 
 void TestScrPurityCtrlDialogColors::leavingThePageKeys_staysSilent()
@@ -291,10 +237,9 @@ void TestScrPurityCtrlDialogColors::leavingThePageKeys_staysSilent()
     // Qt keeps the checked button of an exclusive group checked.
     QFETCH(const int, index);
     const PurityRig rig({{baseColorKey, QColor(colors[index])}});
-    QSignalSpy changed(rig.panel.get(), &ScrPurityCtrlDialog::signal_colorChanged);
     rig.panel->canclePageUpDownSelect();
 
-    QCOMPARE(changed.count(), 0);
+    QCOMPARE(rig.emitted(), QString());
     QCOMPARE(rig.panel->colorIndex, index);
     QVERIFY(rig.colorButton(index)->isChecked());
 }

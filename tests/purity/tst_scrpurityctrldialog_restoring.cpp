@@ -1,4 +1,6 @@
+#include "paneltest.h"
 #include "purityrig.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -20,11 +22,11 @@ private slots:
     void restore_readsWhatIsStored();
     void restore_ofTheMode_data();
     void restore_ofTheMode();
-    void restore_ofAWrongModeStaysConsistent_data();
+    void restore_ofAWrongModeStaysConsistent_data() { addWrongValues(); }
     void restore_ofAWrongModeStaysConsistent();
-    void restore_ofTheColour_data();
+    void restore_ofTheColour_data() { addColorRows(); }
     void restore_ofTheColour();
-    void restore_ofAWrongColourGivesRed_data();
+    void restore_ofAWrongColourGivesRed_data() { addWrongValues(); }
     void restore_ofAWrongColourGivesRed();
     void restore_ofAColourOutsideTheSevenLeavesAllButtonsAsTheyWere();
     void restore_paintsTheGreyOfTheMode_data();
@@ -34,18 +36,16 @@ private slots:
 
 void TestScrPurityCtrlDialogRestoring::restore_readsWhatIsStored_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("grey");
-    QTest::addColumn<int>("speed");
-    QTest::newRow("7") << QVariant(7) << 7 << 7;
-    QTest::newRow("the smallest") << QVariant(1) << 1 << 1;
-    QTest::newRow("100") << QVariant(100) << 100 << 100;
-    QTest::newRow("text of a number") << QVariant(QStringLiteral("42")) << 42 << 42;
-    QTest::newRow("a stored grey level of 0 reads back as 255") << QVariant(0) << 255 << 50;
-    QTest::newRow("negative") << QVariant(-5) << 255 << 50;
-    QTest::newRow("the least") << QVariant(-2147483647 - 1) << 255 << 50;
-    QTest::newRow("beyond the ranges") << QVariant(256) << 255 << 100;
-    QTest::newRow("the largest") << QVariant(2147483647) << 255 << 100;
+    const Table<QVariant, int, int> row("stored", "grey", "speed");
+    row("7", 7, 7, 7);
+    row("the smallest", 1, 1, 1);
+    row("100", 100, 100, 100);
+    row("text of a number", QStringLiteral("42"), 42, 42);
+    row("a stored grey level of 0 reads back as 255", 0, 255, 50);
+    row("negative", -5, 255, 50);
+    row("the least", -2147483647 - 1, 255, 50);
+    row("beyond the ranges", 256, 255, 100);
+    row("the largest", 2147483647, 255, 100);
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_readsWhatIsStored()
@@ -66,13 +66,12 @@ void TestScrPurityCtrlDialogRestoring::restore_readsWhatIsStored()
 
 void TestScrPurityCtrlDialogRestoring::restore_ofTheMode_data()
 {
-    QTest::addColumn<QByteArray>("contents");
-    QTest::addColumn<bool>("automatic");
-    QTest::newRow("missing") << QByteArray("[setting]\n") << false;
-    QTest::newRow("false") << iniLine("AutoTest", "false") << false;
-    QTest::newRow("true") << iniLine("AutoTest", "true") << true;
-    QTest::newRow("0") << iniLine("AutoTest", "0") << false;
-    QTest::newRow("1") << iniLine("AutoTest", "1") << true;
+    const Table<QByteArray, bool> row("contents", "automatic");
+    row("missing", "[setting]\n", false);
+    row("false", iniLine("AutoTest", "false"), false);
+    row("true", iniLine("AutoTest", "true"), true);
+    row("0", iniLine("AutoTest", "0"), false);
+    row("1", iniLine("AutoTest", "1"), true);
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_ofTheMode()
@@ -84,16 +83,6 @@ void TestScrPurityCtrlDialogRestoring::restore_ofTheMode()
     QVERIFY(rig.hasControlsOf(automatic));
 }
 
-void TestScrPurityCtrlDialogRestoring::restore_ofAWrongModeStaysConsistent_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::newRow("text") << QByteArray("automatic");
-    QTest::newRow("list") << QByteArray("true, false");
-    QTest::newRow("huge") << QByteArray("99999999999999999999999");
-    QTest::newRow("binary") << QByteArray(R"(@ByteArray(\0\x1\xff\0))");
-    QTest::newRow("broken variant") << QByteArray(R"(@Variant(\0\0\0\x7f))");
-}
-
 void TestScrPurityCtrlDialogRestoring::restore_ofAWrongModeStaysConsistent()
 {
     QFETCH(const QByteArray, value);
@@ -102,11 +91,6 @@ void TestScrPurityCtrlDialogRestoring::restore_ofAWrongModeStaysConsistent()
     QVERIFY(rig.automatic()->isChecked() != rig.manual()->isChecked());
     QVERIFY(rig.hasControlsOf(rig.automatic()->isChecked()));
     QVERIFY(!rig.timer());
-}
-
-void TestScrPurityCtrlDialogRestoring::restore_ofTheColour_data()
-{
-    addColorRows();
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_ofTheColour()
@@ -121,54 +105,37 @@ void TestScrPurityCtrlDialogRestoring::restore_ofTheColour()
     QVERIFY(!rig.panel->puritySelected);
 }
 
-void TestScrPurityCtrlDialogRestoring::restore_ofAWrongColourGivesRed_data()
-{
-    QTest::addColumn<QByteArray>("contents");
-    QTest::newRow("missing") << QByteArray("[setting]\n");
-    QTest::newRow("no file contents") << QByteArray();
-    QTest::newRow("not a settings file") << QByteArray("\x7f"
-                                                       "ELF\0\1\2\3 garbage ]][[==",
-                                                       24);
-    for (const char *value :
-         {"", "no colour", "1, 2, 3", "-7", "99999999999999999999999", R"(@ByteArray(\0\x1\xff\0))",
-          "@Invalid()", "@Rect(9 9 9 9)", R"(@Variant(\0\0\0\x43\0\xff\xff\0\0\0\0\0\0\0\0))",
-          R"(@Variant(\0\0\0\x7f))"})
-        QTest::newRow(value) << iniLine("testWindowBaseColor", value);
-}
-
 void TestScrPurityCtrlDialogRestoring::restore_ofAWrongColourGivesRed()
 {
-    QFETCH(const QByteArray, contents);
-    PurityRig rig(contents);
-
-    QVERIFY(rig.colorButton(0)->isChecked());
-    QCOMPARE(rig.panel->colorIndex, 0);
-    QCOMPARE(rig.shownColor(), qRgb(255, 0, 0));
-    QVERIFY(!rig.panel->puritySelected);
+    QFETCH(const QByteArray, value);
+    for (const QByteArray &contents :
+         {iniLine("testWindowBaseColor", value), QByteArray("[setting]\n"), QByteArray()}) {
+        PurityRig rig(contents);
+        QCOMPARE(rig.checkedColor(), 0);
+        QCOMPARE(rig.panel->colorIndex, 0);
+        QCOMPARE(rig.shownColor(), qRgb(255, 0, 0));
+        QVERIFY(!rig.panel->puritySelected);
+    }
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_ofAColourOutsideTheSevenLeavesAllButtonsAsTheyWere()
 {
     const PurityRig rig({{QStringLiteral("testWindowBaseColor"), QColor(1, 2, 3)}});
 
-    for (int index = 0; index < 7; ++index)
-        QVERIFY(!rig.colorButton(index)->isChecked());
+    QCOMPARE(rig.checkedColor(), -1);
     QCOMPARE(rig.panel->colorIndex, 256);
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_paintsTheGreyOfTheMode_data()
 {
-    QTest::addColumn<bool>("automatic");
-    QTest::addColumn<int>("manualGrey");
-    QTest::addColumn<int>("autoGrey");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("manual 100, auto 200, manual") << false << 100 << 200 << 100;
-    QTest::newRow("manual 100, auto 200, automatic") << true << 100 << 200 << 200;
-    QTest::newRow("manual 255, auto 1, manual") << false << 255 << 1 << 255;
-    QTest::newRow("manual 1, auto 255, manual") << false << 1 << 255 << 1;
-    QTest::newRow("manual 1, auto 255, automatic") << true << 1 << 255 << 255;
-    QTest::newRow("manual 255, auto 1, automatic") << true << 255 << 1 << 1;
-    QTest::newRow("manual 60, auto 60, automatic") << true << 60 << 60 << 60;
+    const Table<bool, int, int, int> row("automatic", "manualGrey", "autoGrey", "expected");
+    row("manual 100, auto 200, manual", false, 100, 200, 100);
+    row("manual 100, auto 200, automatic", true, 100, 200, 200);
+    row("manual 255, auto 1, manual", false, 255, 1, 255);
+    row("manual 1, auto 255, manual", false, 1, 255, 1);
+    row("manual 1, auto 255, automatic", true, 1, 255, 255);
+    row("manual 255, auto 1, automatic", true, 255, 1, 1);
+    row("manual 60, auto 60, automatic", true, 60, 60, 60);
 }
 
 void TestScrPurityCtrlDialogRestoring::restore_paintsTheGreyOfTheMode()

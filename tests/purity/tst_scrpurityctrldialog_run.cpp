@@ -1,25 +1,10 @@
 #include "dictionary.h"
 #include "purityrig.h"
+#include "rows.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
 namespace {
-
-QVariantMap automaticMode()
-{
-    return {{QStringLiteral("AutoTest"), true}};
-}
-
-const QString begin = QStringLiteral("开始");
-const QString pause = QStringLiteral("暂停");
-
-// An automatic panel with the run going and a grey level set.
-void startRun(const PurityRig &rig, int grey)
-{
-    rig.autoSpinBox()->setValue(grey);
-    rig.panel->slot_PauseResume();
-}
 
 bool isShown(const QWidget *lamp, const QWidget *other)
 {
@@ -36,8 +21,7 @@ private slots:
     void speed100_ticksEvery100Ms_speed1Every10S_data();
     void speed100_ticksEvery100Ms_speed1Every10S();
     void speedChange_replacesTheTimer();
-    void speedChange_inManualModeStartsNothing();
-    void speedChange_afterAPauseStartsNothing();
+    void speedChange_inManualModeOrAfterAPauseStartsNothing();
     void speedChange_startsARestoredAutomaticRun();
     void run_stepsByItself();
 
@@ -45,12 +29,11 @@ private slots:
     void tick_grey255WithStepUpGoesTo0_grey0WithStepDownTo255();
     void tick_withoutADirectionKeepsTheGrey();
     void tick_paintsTheGreyAndTellsIt();
-    void tick_blinks();
+    void tick_blinksUpToThePause();
     void tick_namesTheButtonPause();
 
     void pauseButton_pausesAndResumes();
     void pause_turnsTheDirectionUpward();
-    void pause_showsTheGreyLamp();
     void stop_endsTheRunAndKeepsTheDirection();
     void stop_withoutATimerChangesNothing();
     void language_keepsTheMeaningOfThePauseButton();
@@ -58,13 +41,12 @@ private slots:
 
 void TestScrPurityCtrlDialogRun::speed100_ticksEvery100Ms_speed1Every10S_data()
 {
-    QTest::addColumn<int>("speed");
-    QTest::addColumn<int>("interval");
-    QTest::newRow("speed 1") << 1 << 10000;
-    QTest::newRow("speed 2") << 2 << 9900;
-    QTest::newRow("speed 50") << 50 << 5100;
-    QTest::newRow("speed 99") << 99 << 200;
-    QTest::newRow("speed 100") << 100 << 100;
+    const Table<int, int> row("speed", "interval");
+    row("speed 1", 1, 10000);
+    row("speed 2", 2, 9900);
+    row("speed 50", 50, 5100);
+    row("speed 99", 99, 200);
+    row("speed 100", 100, 100);
 }
 
 void TestScrPurityCtrlDialogRun::speed100_ticksEvery100Ms_speed1Every10S()
@@ -87,7 +69,7 @@ void TestScrPurityCtrlDialogRun::speed100_ticksEvery100Ms_speed1Every10S()
 void TestScrPurityCtrlDialogRun::speedChange_replacesTheTimer()
 {
     const PurityRig rig(automaticMode());
-    startRun(rig, 50);
+    rig.startRun(50);
     for (const int speed : {10, 90, 30})
         rig.speedSlider()->setValue(speed);
 
@@ -98,25 +80,20 @@ void TestScrPurityCtrlDialogRun::speedChange_replacesTheTimer()
                  1);
 }
 
-void TestScrPurityCtrlDialogRun::speedChange_inManualModeStartsNothing()
+void TestScrPurityCtrlDialogRun::speedChange_inManualModeOrAfterAPauseStartsNothing()
 {
-    const PurityRig rig;
-    rig.speedSpinBox()->setValue(99);
-    rig.panel->slot_SpeedChanged(98);
+    for (const bool automatic : {true, false}) { // which is paused
+        const PurityRig rig({{QStringLiteral("AutoTest"), automatic}});
+        if (automatic) {
+            rig.startRun(50);
+            rig.panel->slot_PauseResume();
+        }
+        rig.speedSpinBox()->setValue(99);
+        rig.panel->slot_SpeedChanged(98);
 
-    QVERIFY(!rig.timer());
-    QCOMPARE(rig.beginButton()->text(), begin);
-}
-
-void TestScrPurityCtrlDialogRun::speedChange_afterAPauseStartsNothing()
-{
-    const PurityRig rig(automaticMode());
-    startRun(rig, 50);
-    rig.panel->slot_PauseResume();
-    rig.speedSpinBox()->setValue(99);
-
-    QVERIFY(!rig.timer());
-    QCOMPARE(rig.beginButton()->text(), begin);
+        QVERIFY(!rig.timer());
+        QCOMPARE(rig.beginButton()->text(), begin);
+    }
 }
 
 void TestScrPurityCtrlDialogRun::speedChange_startsARestoredAutomaticRun()
@@ -143,15 +120,13 @@ void TestScrPurityCtrlDialogRun::run_stepsByItself()
 
 void TestScrPurityCtrlDialogRun::tick_grey255WithStepUpGoesTo0_grey0WithStepDownTo255_data()
 {
-    QTest::addColumn<bool>("up");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("255 up") << true << 255 << 0;
-    QTest::newRow("254 up") << true << 254 << 255;
-    QTest::newRow("0 up") << true << 0 << 1;
-    QTest::newRow("0 down") << false << 0 << 255;
-    QTest::newRow("1 down") << false << 1 << 0;
-    QTest::newRow("255 down") << false << 255 << 254;
+    const Table<bool, int, int> row("up", "start", "expected");
+    row("255 up", true, 255, 0);
+    row("254 up", true, 254, 255);
+    row("0 up", true, 0, 1);
+    row("0 down", false, 0, 255);
+    row("1 down", false, 1, 0);
+    row("255 down", false, 255, 254);
 }
 
 void TestScrPurityCtrlDialogRun::tick_grey255WithStepUpGoesTo0_grey0WithStepDownTo255()
@@ -161,7 +136,7 @@ void TestScrPurityCtrlDialogRun::tick_grey255WithStepUpGoesTo0_grey0WithStepDown
     QFETCH(const int, expected);
     PurityRig rig({{QStringLiteral("AutoTest"), true},
                    {QStringLiteral("testWindowBaseColor"), QColor(Qt::white)}});
-    startRun(rig, start);
+    rig.startRun(start);
     up ? rig.panel->slot_keyInsertPressed() : rig.panel->slot_keyDeletePressed();
 
     QCOMPARE(rig.tick(), expected);
@@ -186,27 +161,29 @@ void TestScrPurityCtrlDialogRun::tick_paintsTheGreyAndTellsIt()
 {
     PurityRig rig({{QStringLiteral("AutoTest"), true},
                    {QStringLiteral("testWindowBaseColor"), QColor(Qt::red)}});
-    startRun(rig, 120);
+    rig.startRun(120);
     rig.panel->slot_keyInsertPressed();
     rig.panel->puritySelected = false;
-    QSignalSpy grey(rig.panel.get(), &ScrPurityCtrlDialog::signal_greyChanged);
+    rig.emitted();
     rig.panel->slot_AutoTimerFinished();
 
     QCOMPARE(rig.shownColor(), qRgb(121, 0, 0));
-    QCOMPARE(grey.count(), 1);
-    QCOMPARE(grey.first().first().toString(), QStringLiteral("121"));
+    QCOMPARE(rig.emitted(), QStringLiteral("signal_greyChanged(121)"));
     QVERIFY(rig.panel->puritySelected);
     QCOMPARE(rig.greySpinBox()->value(), 255);
 }
 
-void TestScrPurityCtrlDialogRun::tick_blinks()
+void TestScrPurityCtrlDialogRun::tick_blinksUpToThePause()
 {
     const PurityRig rig(automaticMode());
-    startRun(rig, 50);
+    rig.startRun(50);
     QVERIFY(isShown(rig.greyLamp(), rig.greenLamp()));
     rig.panel->slot_AutoTimerFinished();
     QVERIFY(isShown(rig.greenLamp(), rig.greyLamp()));
     rig.panel->slot_AutoTimerFinished();
+    QVERIFY(isShown(rig.greyLamp(), rig.greenLamp()));
+    rig.panel->slot_AutoTimerFinished();
+    rig.panel->slot_PauseResume();
     QVERIFY(isShown(rig.greyLamp(), rig.greenLamp()));
 }
 
@@ -221,27 +198,24 @@ void TestScrPurityCtrlDialogRun::tick_namesTheButtonPause()
 void TestScrPurityCtrlDialogRun::pauseButton_pausesAndResumes()
 {
     const PurityRig rig(automaticMode());
-    QSignalSpy started(rig.panel.get(), &ScrPurityCtrlDialog::signal_purityAutoChange);
-    QTest::mouseClick(rig.beginButton(), Qt::LeftButton);
-    QVERIFY(rig.timer());
-    QCOMPARE(rig.beginButton()->text(), pause);
-    QCOMPARE(started.count(), 1);
+    for (int times = 0; times < 2; ++times) {
+        rig.click(rig.beginButton());
+        QVERIFY(rig.timer());
+        QCOMPARE(rig.timer()->interval(), 5100);
+        QCOMPARE(rig.beginButton()->text(), pause);
+        QCOMPARE(rig.emitted(), QStringLiteral("signal_purityAutoChange()"));
 
-    QTest::mouseClick(rig.beginButton(), Qt::LeftButton);
-    QVERIFY(!rig.timer());
-    QCOMPARE(rig.beginButton()->text(), begin);
-    QCOMPARE(started.count(), 1);
-
-    QTest::mouseClick(rig.beginButton(), Qt::LeftButton);
-    QVERIFY(rig.timer());
-    QCOMPARE(rig.timer()->interval(), 5100);
-    QCOMPARE(started.count(), 2);
+        rig.click(rig.beginButton());
+        QVERIFY(!rig.timer());
+        QCOMPARE(rig.beginButton()->text(), begin);
+        QCOMPARE(rig.emitted(), QString());
+    }
 }
 
 void TestScrPurityCtrlDialogRun::pause_turnsTheDirectionUpward()
 {
     const PurityRig rig(automaticMode());
-    startRun(rig, 50);
+    rig.startRun(50);
     rig.panel->slot_keyDeletePressed();
     QCOMPARE(rig.tick(), 49);
     rig.panel->slot_PauseResume();
@@ -249,20 +223,10 @@ void TestScrPurityCtrlDialogRun::pause_turnsTheDirectionUpward()
     QCOMPARE(rig.tick(), 50);
 }
 
-void TestScrPurityCtrlDialogRun::pause_showsTheGreyLamp()
-{
-    const PurityRig rig(automaticMode());
-    startRun(rig, 50);
-    rig.panel->slot_AutoTimerFinished();
-    QVERIFY(isShown(rig.greenLamp(), rig.greyLamp()));
-    rig.panel->slot_PauseResume();
-    QVERIFY(isShown(rig.greyLamp(), rig.greenLamp()));
-}
-
 void TestScrPurityCtrlDialogRun::stop_endsTheRunAndKeepsTheDirection()
 {
     const PurityRig rig(automaticMode());
-    startRun(rig, 50);
+    rig.startRun(50);
     rig.panel->slot_keyDeletePressed();
     QCOMPARE(rig.tick(), 49);
     QVERIFY(isShown(rig.greenLamp(), rig.greyLamp()));
@@ -293,7 +257,7 @@ void TestScrPurityCtrlDialogRun::stop_withoutATimerChangesNothing()
 void TestScrPurityCtrlDialogRun::language_keepsTheMeaningOfThePauseButton()
 {
     const PurityRig rig(automaticMode());
-    startRun(rig, 50);
+    rig.startRun(50);
     {
         const Dictionary marked(QStringLiteral("!"));
         rig.panel->updateLanguage();

@@ -9,7 +9,11 @@
 class Canvas : public QWidget
 {
 public:
-    explicit Canvas(const QSize &size = QSize(33, 17)) { resize(size); }
+    explicit Canvas(const QSize &size = QSize(33, 17))
+        : QWidget(nullptr, Qt::FramelessWindowHint)
+    {
+        resize(size);
+    }
 
     void setDrawer(DrawerBase *drawer, bool paint = true)
     {

@@ -2,6 +2,7 @@
 
 #include "canvas.h"
 #include "controlbase.h"
+#include "signallog.h"
 #include "testsettings.h"
 
 #include <QAbstractButton>
@@ -53,6 +54,8 @@ public:
     // The text that a control shows; empty for those that have none.
     static QString textOf(const QWidget *control);
 
+    // What the panel has emitted since the last call, as SignalLog has it.
+    QString emitted() const { return m_log->take(); }
     bool isSaveDue() const;
 
     TestSettings settings;
@@ -64,6 +67,8 @@ protected:
         : settings(stored)
         , canvas(size)
     { }
+
+    std::unique_ptr<SignalLog> m_log;
 };
 
 // The same of one class, which the rigs with their controls at hand derive from.
@@ -108,5 +113,6 @@ private:
         panel = std::make_unique<Panel>(&canvas, settings.get(), nullptr);
         if constexpr (std::is_base_of_v<ControlBase, Panel>)
             canvas.setDrawer(panel->getDrawer());
+        m_log = std::make_unique<SignalLog>(panel.get());
     }
 };

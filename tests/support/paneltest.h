@@ -6,6 +6,9 @@
 
 #include <memory>
 
+// Adds the column "value" with what is neither a number nor a colour to any key of a file.
+void addWrongValues();
+
 // What is asked of every panel. The test of a panel derives from PanelTest, says what the panel
 // holds, and goes on with what is the panel's own.
 class PanelTable : public QObject
@@ -22,7 +25,7 @@ protected:
     // More such lines, each time in addition, that restoring may not write either.
     virtual QList<QByteArray> alsoStored() const { return {}; }
     // All texts in the order of the form, accessible names where there are no texts, in Chinese
-    // and with blanks between them.
+    // and with "|" between them.
     virtual QString texts() const = 0;
     // Calls edit() for everything that the operator changes.
     virtual void addEdits() const = 0;
@@ -38,7 +41,7 @@ private slots:
     void missingFile_staysMissingUntilTheEnd();
     void restoring_writesNothing_data();
     void restoring_writesNothing();
-    void wrongNumbers_countAsMissing_data();
+    void wrongNumbers_countAsMissing_data() { addWrongValues(); }
     void wrongNumbers_countAsMissing();
     void edit_isToldSavedSoonAndRestored_data();
     void edit_isToldSavedSoonAndRestored();

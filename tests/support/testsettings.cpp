@@ -31,7 +31,7 @@ TestSettings::TestSettings(const QVariantMap &values)
 {
     for (auto value = values.cbegin(); value != values.cend(); ++value)
         m_settings->setValue(fullKey(value.key()), value.value());
-    m_settings->sync();
+    reopen(); // so that they are read as the program reads them
 }
 
 TestSettings::TestSettings(const QByteArray &contents)

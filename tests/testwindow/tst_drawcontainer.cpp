@@ -1,5 +1,6 @@
 #include "drawcontainer.h"
 #include "filldrawer.h"
+#include "shownwindow.h"
 
 #include <QSignalSpy>
 #include <QTimer>
@@ -8,15 +9,6 @@
 #include <memory>
 
 namespace {
-
-constexpr QRect place(100, 100, 200, 150);
-
-bool showAt(DrawContainer &window, const QRect &geometry)
-{
-    window.setGeometry(geometry);
-    window.show();
-    return QTest::qWaitForWindowExposed(&window);
-}
 
 QImage picture(DrawContainer &window)
 {
@@ -68,17 +60,14 @@ private slots:
     void setDrawer_ofNullChangesNothing();
     void setDrawer_setsTheActiveFlag();
     void paint_withNoDrawerEverActiveIsNothing();
-    void paint_ofAnInactiveDrawerNeverHappens();
     void paint_ofAnInactiveDrawerLeavesTheEarlierPattern();
-    void paint_ofTheShownDrawerGoesOnAfterItWasSwitchedOff();
     void paint_alwaysAsksForThePattern();
     void paint_putsTheBackgroundBelowWhatDoesNotCoverIt();
     void shows_theDrawerThatIsPaintedNext();
     void shows_theSelectedDrawerWhileThereIsNoPattern();
     void palette_winsOverTheStyleSheet();
     void refresh_paintsOncePerTimeout();
-    void refresh_isTheOnlyReasonToPaint();
-    void updateContainer_repaints();
+    void refreshAndUpdate_areTheOnlyReasonsToPaint();
 };
 
 void TestDrawContainer::init()
@@ -116,7 +105,7 @@ void TestDrawContainer::destruction_leavesTheDrawersAlone()
     QSignalSpy shownGone(&shown, &QObject::destroyed);
     QSignalSpy selectedGone(&selected, &QObject::destroyed);
     window->setDrawer(&shown, true);
-    QVERIFY(showAt(*window, place));
+    QVERIFY(isShown(*window));
     QTRY_VERIFY(shown.draws > 0);
     window->setDrawer(&selected, false);
 
@@ -130,7 +119,7 @@ void TestDrawContainer::destruction_leavesTheDrawersAlone()
 void TestDrawContainer::setDrawer_ofNullChangesNothing()
 {
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     FillDrawer drawer(&window, Qt::red);
     window.setDrawer(&drawer, true);
 
@@ -158,7 +147,7 @@ void TestDrawContainer::paint_withNoDrawerEverActiveIsNothing()
 {
     DrawContainer window;
     window.setPalette(QPalette(Qt::darkCyan));
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     const QColor background = window.palette().color(QPalette::Window);
     QVERIFY(isAll(picture(window), background));
 
@@ -169,25 +158,10 @@ void TestDrawContainer::paint_withNoDrawerEverActiveIsNothing()
     QCOMPARE(drawer.draws, 0);
 }
 
-void TestDrawContainer::paint_ofAnInactiveDrawerNeverHappens()
-{
-    DrawContainer window;
-    QVERIFY(showAt(window, place));
-    FillDrawer first(&window, Qt::red);
-    FillDrawer second(&window, Qt::green);
-    window.setDrawer(&first, true);
-    QVERIFY(isAll(picture(window), Qt::red));
-
-    window.setDrawer(&second, false);
-    QVERIFY(waitForTicks(3));
-
-    QCOMPARE(second.draws + second.refusals, 0);
-}
-
 void TestDrawContainer::paint_ofAnInactiveDrawerLeavesTheEarlierPattern()
 {
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     FillDrawer first(&window, Qt::red);
     FillDrawer second(&window, Qt::green);
     FillDrawer third(&window, Qt::blue);
@@ -196,6 +170,8 @@ void TestDrawContainer::paint_ofAnInactiveDrawerLeavesTheEarlierPattern()
 
     window.setDrawer(&second, false);
     QVERIFY(isAll(picture(window), Qt::red));
+    QVERIFY(waitForTicks(3));
+    QCOMPARE(second.draws + second.refusals, 0);
     window.setDrawer(&third, false);
     QVERIFY(isAll(picture(window), Qt::red));
     first.color = Qt::yellow; // still painted afresh each time
@@ -206,27 +182,15 @@ void TestDrawContainer::paint_ofAnInactiveDrawerLeavesTheEarlierPattern()
     QVERIFY(isAll(picture(window), Qt::blue));
 }
 
-void TestDrawContainer::paint_ofTheShownDrawerGoesOnAfterItWasSwitchedOff()
-{
-    DrawContainer window;
-    QVERIFY(showAt(window, place));
-    FillDrawer drawer(&window, Qt::red);
-    window.setDrawer(&drawer, true);
-    QVERIFY(isAll(picture(window), Qt::red));
-
-    window.setDrawer(&drawer, false);
-
-    QVERIFY(isAll(picture(window), Qt::red));
-}
-
 void TestDrawContainer::paint_alwaysAsksForThePattern()
 {
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     FillDrawer drawer(&window, Qt::red);
     window.setDrawer(&drawer, true);
     QTRY_VERIFY(drawer.draws >= 3);
-    window.setDrawer(&drawer, false);
+    window.setDrawer(&drawer, false); // which it goes on for
+    QVERIFY(isAll(picture(window), Qt::red));
     QTRY_VERIFY(drawer.draws >= 6);
 
     QCOMPARE(drawer.refusals, 0);
@@ -285,7 +249,7 @@ void TestDrawContainer::shows_theSelectedDrawerWhileThereIsNoPattern()
 void TestDrawContainer::palette_winsOverTheStyleSheet()
 {
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     window.setStyleSheet(QStringLiteral("QWidget{background-color:#ff0000;}"));
     QVERIFY(isAll(picture(window), Qt::red));
 
@@ -301,7 +265,7 @@ void TestDrawContainer::refresh_paintsOncePerTimeout()
     DrawContainer window;
     FillDrawer drawer(&window, Qt::red);
     window.setDrawer(&drawer, true);
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     QCOMPARE(refreshTimers(window).count(), 1);
     QTimer *timer = refreshTimers(window).constFirst();
     QVERIFY(timer->isActive());
@@ -323,33 +287,20 @@ void TestDrawContainer::refresh_paintsOncePerTimeout()
     QCOMPARE(drawer.draws, 5);
 }
 
-void TestDrawContainer::refresh_isTheOnlyReasonToPaint()
+void TestDrawContainer::refreshAndUpdate_areTheOnlyReasonsToPaint()
 {
     DrawContainer window;
     FillDrawer drawer(&window, Qt::red);
     window.setDrawer(&drawer, true);
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     refreshTimers(window).constFirst()->stop();
     QVERIFY(waitForTicks(2));
     drawer.draws = 0;
 
     QVERIFY(waitForTicks(5));
-
     QCOMPARE(drawer.draws, 0);
-}
-
-void TestDrawContainer::updateContainer_repaints()
-{
-    DrawContainer window;
-    FillDrawer drawer(&window, Qt::red);
-    window.setDrawer(&drawer, true);
-    QVERIFY(showAt(window, place));
-    refreshTimers(window).constFirst()->stop();
-    QVERIFY(waitForTicks(2));
-    drawer.draws = 0;
 
     window.slot_updateContainer();
-
     QCOMPARE(drawer.draws, 0);
     QTRY_COMPARE(drawer.draws, 1);
 }

@@ -1,7 +1,10 @@
 #include "commonhelper.h"
+#include "desktopscale.h"
 #include "dictionary.h"
 #include "drawcontainer.h"
 #include "filldrawer.h"
+#include "rows.h"
+#include "shownwindow.h"
 
 #include <QAction>
 #include <QApplication>
@@ -9,19 +12,6 @@
 #include <QSignalSpy>
 #include <QWindow>
 #include <QtTest>
-
-namespace {
-
-constexpr QRect place(100, 100, 200, 150);
-
-bool showAt(DrawContainer &window, const QRect &geometry)
-{
-    window.setGeometry(geometry);
-    window.show();
-    return QTest::qWaitForWindowExposed(&window);
-}
-
-} // namespace
 
 // What keys and the context menu do to the test window.
 class TestDrawContainerKeys : public QObject
@@ -38,6 +28,7 @@ private slots:
     void keyShiftH_hidesAndShows();
     void hideAction_isTheContextMenu();
     void hideAction_followsTheLanguage();
+    void contextMenu_followsTheScaleOfTheControls();
     void hide_isReportedOnce_data();
     void hide_isReportedOnce();
 };
@@ -50,7 +41,7 @@ void TestDrawContainerKeys::initTestCase()
 void TestDrawContainerKeys::keyHelper_ofItsOwnTogglesFullScreen()
 {
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
 
     QTest::keyClick(&window, Qt::Key_F, Qt::ShiftModifier);
     QCOMPARE(window.windowState(), Qt::WindowFullScreen);
@@ -61,7 +52,7 @@ void TestDrawContainerKeys::keyHelper_ofItsOwnTogglesFullScreen()
 void TestDrawContainerKeys::keyHelper_thatWasSetGetsTheKeys()
 {
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     CommonHelper helper;
     QSignalSpy home(&helper, &CommonHelper::signal_keyHomePressed);
     QSignalSpy shiftF(&helper, &CommonHelper::signal_keyShiftFPressed);
@@ -88,7 +79,7 @@ void TestDrawContainerKeys::keySpace_doesNothing()
             &DrawContainer::slot_keySpacePressed);
     FillDrawer drawer(&window, Qt::red);
     window.setDrawer(&drawer, true);
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     QSignalSpy hidden(&window, &DrawContainer::signal_containerWidgetHide);
     const QImage before = window.grab().toImage();
 
@@ -106,7 +97,7 @@ void TestDrawContainerKeys::keySpace_doesNothing()
 void TestDrawContainerKeys::keyShiftF_togglesFullScreen()
 {
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
 
     window.slot_keyShiftFPressed();
     QCOMPARE(window.windowState(), Qt::WindowFullScreen);
@@ -119,7 +110,7 @@ void TestDrawContainerKeys::keyShiftF_togglesFullScreen()
 void TestDrawContainerKeys::keyShiftF_looksForFullScreenAlone()
 {
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     window.setWindowState(Qt::WindowFullScreen | Qt::WindowMaximized);
 
     window.slot_keyShiftFPressed();
@@ -131,7 +122,7 @@ void TestDrawContainerKeys::keyShiftF_looksForFullScreenAlone()
 void TestDrawContainerKeys::keyShiftH_hidesAndShows()
 {
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     QSignalSpy hidden(&window, &DrawContainer::signal_containerWidgetHide);
     QSignalSpy shown(&window, &DrawContainer::signal_containerWidgetShow);
     QList<bool> visibleWhenReported;
@@ -172,16 +163,26 @@ void TestDrawContainerKeys::hideAction_followsTheLanguage()
 
 void TestDrawContainerKeys::hide_isReportedOnce_data()
 {
-    QTest::addColumn<QString>("way");
-    for (const char *way : {"menu action", "Shift+H", "slot", "closed from outside"})
-        QTest::newRow(way) << QString::fromLatin1(way);
+    addNames("way", {"menu action", "Shift+H", "slot", "closed from outside"});
+}
+
+void TestDrawContainerKeys::contextMenu_followsTheScaleOfTheControls()
+{
+    const auto menuFont = [](const char *scale) {
+        DesktopScale::request(QLatin1String(scale));
+        const DrawContainer window;
+        return window.actions().constFirst()->font();
+    };
+    QCOMPARE(menuFont("1"), QAction(nullptr).font());
+    QCOMPARE(menuFont("4").pixelSize(), 2 * menuFont("2").pixelSize());
+    DesktopScale::request(QStringLiteral("1"));
 }
 
 void TestDrawContainerKeys::hide_isReportedOnce()
 {
     QFETCH(QString, way);
     DrawContainer window;
-    QVERIFY(showAt(window, place));
+    QVERIFY(isShown(window));
     QSignalSpy hidden(&window, &DrawContainer::signal_containerWidgetHide);
     QSignalSpy shown(&window, &DrawContainer::signal_containerWidgetShow);
 

@@ -1,6 +1,7 @@
 #include "dictionary.h"
 #include "drawcontainer.h"
 #include "filldrawer.h"
+#include "rows.h"
 #include "textoracle.h"
 #include "textwidth.h"
 
@@ -66,19 +67,21 @@ private slots:
     void overlays_areOffAtStart();
     void mousePosition_showsThePointInsideTheWindow_data();
     void mousePosition_showsThePointInsideTheWindow();
-    void mousePosition_atXOneBeyondTheLastColumnIsStillShown();
     void mousePosition_outsideShowsColourAndGreyAlone();
     void mousePosition_startsAtTheMiddle_data();
     void mousePosition_startsAtTheMiddle();
-    void mousePosition_isToggledByEnd();
     void mousePosition_liesOverThePattern();
     void reminder_standsAtTheBottomRight();
-    void reminder_isToggledByHome();
     void reminder_needsTheWidestLineAndTenPixels();
-    void reminder_inANarrowerWindowIsNotShown();
     void reminder_followsTheLanguage();
+    void overlays_areToggledByEndAndHome();
     void overlays_useTheWindowsFont();
     void overlays_areAllThatIsPaintedWithoutADrawer();
+    void colour_showsItsNameInTheLanguage_data();
+    void colour_showsItsNameInTheLanguage();
+    void colour_neverChosenStaysEmptyInAnotherLanguage();
+    void colour_unknownShowsNoNameAndKeepsThePreviousForALanguageChange();
+    void colour_isMatchedByItsUntranslatedName();
 
 private:
     // The picture of the centre overlay with this text.
@@ -112,14 +115,13 @@ void TestDrawContainerOverlay::overlays_areOffAtStart()
 
 void TestDrawContainerOverlay::mousePosition_showsThePointInsideTheWindow_data()
 {
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("inside") << QPoint(120, 45) << "(120,45)红:255";
-    QTest::newRow("first pixel") << QPoint(0, 0) << "(0,0)红:255";
-    QTest::newRow("last pixel") << QPoint(599, 399) << "(599,399)红:255";
-    QTest::newRow("y one beyond the last row") << QPoint(10, 400) << "(10,400)红:255";
-    QTest::newRow("both one beyond") << QPoint(600, 400) << "(600,400)红:255";
+    const Table<QPoint, const char *> row("point", "text");
+    row("inside", {120, 45}, "(120,45)红:255");
+    row("first pixel", {0, 0}, "(0,0)红:255");
+    row("last pixel", {599, 399}, "(599,399)红:255");
+    row("y one beyond the last row", {10, 400}, "(10,400)红:255");
+    row("both one beyond", {600, 400}, "(600,400)红:255");
+    row("x one beyond the last column", {600, 10}, "(600,10)红:255");
 }
 
 void TestDrawContainerOverlay::mousePosition_showsThePointInsideTheWindow()
@@ -133,15 +135,6 @@ void TestDrawContainerOverlay::mousePosition_showsThePointInsideTheWindow()
     QCursor::setPos(place.topLeft() + point);
 
     QCOMPARE(picture(*m_window), centreText(text));
-}
-
-void TestDrawContainerOverlay::mousePosition_atXOneBeyondTheLastColumnIsStillShown()
-{
-    m_window->slot_keyEndPressed();
-
-    QCursor::setPos(place.topLeft() + QPoint(600, 10));
-
-    QCOMPARE(picture(*m_window), centreText(QStringLiteral("(600,10):")));
 }
 
 void TestDrawContainerOverlay::mousePosition_outsideShowsColourAndGreyAlone()
@@ -160,12 +153,10 @@ void TestDrawContainerOverlay::mousePosition_outsideShowsColourAndGreyAlone()
 
 void TestDrawContainerOverlay::mousePosition_startsAtTheMiddle_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QPoint>("start");
-
-    QTest::newRow("even") << QSize(600, 400) << QPoint(280, 190);
-    QTest::newRow("odd") << QSize(401, 201) << QPoint(180, 90);
-    QTest::newRow("smaller than the text") << QSize(31, 15) << QPoint(-5, -3);
+    const Table<QSize, QPoint> row("size", "start");
+    row("even", {600, 400}, {280, 190});
+    row("odd", {401, 201}, {180, 90});
+    row("smaller than the text", {31, 15}, {-5, -3});
 }
 
 void TestDrawContainerOverlay::mousePosition_startsAtTheMiddle()
@@ -185,12 +176,15 @@ void TestDrawContainerOverlay::mousePosition_startsAtTheMiddle()
     QVERIFY(QRect(start, QSize(textWidth(metrics, text) + 1, metrics.height())).contains(lit));
 }
 
-void TestDrawContainerOverlay::mousePosition_isToggledByEnd()
+void TestDrawContainerOverlay::overlays_areToggledByEndAndHome()
 {
-    m_window->slot_keyEndPressed();
-    QVERIFY(!isBlack(picture(*m_window)));
-    m_window->slot_keyEndPressed();
-    QVERIFY(isBlack(picture(*m_window)));
+    for (const auto key :
+         {&DrawContainer::slot_keyEndPressed, &DrawContainer::slot_keyHomePressed}) {
+        (m_window.get()->*key)();
+        QVERIFY(!isBlack(picture(*m_window)));
+        (m_window.get()->*key)();
+        QVERIFY(isBlack(picture(*m_window)));
+    }
 }
 
 void TestDrawContainerOverlay::mousePosition_liesOverThePattern()
@@ -219,14 +213,6 @@ void TestDrawContainerOverlay::reminder_standsAtTheBottomRight()
     QVERIFY(QRect(start, QSize(widest + 1, 190)).contains(lit));
 }
 
-void TestDrawContainerOverlay::reminder_isToggledByHome()
-{
-    m_window->slot_keyHomePressed();
-    QVERIFY(!isBlack(picture(*m_window)));
-    m_window->slot_keyHomePressed();
-    QVERIFY(isBlack(picture(*m_window)));
-}
-
 void TestDrawContainerOverlay::reminder_needsTheWidestLineAndTenPixels()
 {
     const int enough = widestLine(reminder(), m_window->font()) + 10;
@@ -236,17 +222,10 @@ void TestDrawContainerOverlay::reminder_needsTheWidestLineAndTenPixels()
     QCOMPARE(
         picture(*m_window),
         TextOracle(m_window->size(), m_window->font()).with(QPoint(0, 210), reminder()).image());
-}
-
-void TestDrawContainerOverlay::reminder_inANarrowerWindowIsNotShown()
-{
-    const int enough = widestLine(reminder(), m_window->font()) + 10;
-    m_window->slot_keyHomePressed();
-
-    m_window->resize(enough - 1, 400);
-    QVERIFY(isBlack(picture(*m_window)));
-    m_window->resize(20, 400);
-    QVERIFY(isBlack(picture(*m_window)));
+    for (const int narrower : {enough - 1, 20}) {
+        m_window->resize(narrower, 400);
+        QVERIFY(isBlack(picture(*m_window)));
+    }
 }
 
 void TestDrawContainerOverlay::reminder_followsTheLanguage()
@@ -285,6 +264,72 @@ void TestDrawContainerOverlay::overlays_areAllThatIsPaintedWithoutADrawer()
 
     QCOMPARE(picture(*m_window), centreText(QStringLiteral(":")));
     QCOMPARE(drawer.draws, 0);
+}
+
+void TestDrawContainerOverlay::colour_showsItsNameInTheLanguage_data()
+{
+    const Table<QColor, const char *> row("color", "name");
+    row("red", Qt::red, "红");
+    row("green", Qt::green, "绿");
+    row("blue", Qt::blue, "蓝");
+    row("white", Qt::white, "白");
+    row("yellow", Qt::yellow, "黄");
+    row("cyan", Qt::cyan, "青");
+    row("purple", Qt::magenta, "紫");
+}
+
+void TestDrawContainerOverlay::colour_showsItsNameInTheLanguage()
+{
+    QFETCH(QColor, color);
+    QFETCH(QString, name);
+    m_window->slot_keyEndPressed();
+    m_window->slot_changeSelectedDrawColor(color);
+    QCOMPARE(picture(*m_window), centreText(name + QLatin1Char(':')));
+    const Dictionary dictionary({{name, QStringLiteral("Translated")}});
+
+    m_window->updateLanguage();
+
+    QCOMPARE(picture(*m_window), centreText(QStringLiteral("Translated:")));
+}
+
+void TestDrawContainerOverlay::colour_neverChosenStaysEmptyInAnotherLanguage()
+{
+    m_window->slot_keyEndPressed();
+    const Dictionary dictionary({{QStringLiteral("红"), QStringLiteral("Red")}});
+
+    m_window->updateLanguage();
+
+    QCOMPARE(picture(*m_window), centreText(QStringLiteral(":")));
+}
+
+void TestDrawContainerOverlay::colour_unknownShowsNoNameAndKeepsThePreviousForALanguageChange()
+{
+    m_window->slot_keyEndPressed();
+    m_window->slot_changeSelectedDrawColor(Qt::yellow);
+    for (const QColor &unknown : {QColor(1, 2, 3), QColor(255, 255, 0, 128)}) {
+        m_window->slot_changeSelectedDrawColor(unknown);
+        QCOMPARE(picture(*m_window), centreText(QStringLiteral(":")));
+    }
+    const Dictionary dictionary({{QStringLiteral("黄"), QStringLiteral("Yellow")}});
+
+    m_window->updateLanguage();
+
+    QCOMPARE(picture(*m_window), centreText(QStringLiteral("Yellow:")));
+}
+
+void TestDrawContainerOverlay::colour_isMatchedByItsUntranslatedName()
+{
+    m_window->slot_keyEndPressed();
+    m_window->slot_changeSelectedDrawColor(Qt::red);
+    const Dictionary dictionary({{QStringLiteral("红"), QStringLiteral("Red")},
+                                 {QStringLiteral("绿"), QStringLiteral("Green")}});
+    m_window->updateLanguage();
+
+    // A translated name matches no row, so the name is shown but not remembered.
+    m_window->slot_changeSelectedDrawColor(Qt::green);
+    QCOMPARE(picture(*m_window), centreText(QStringLiteral("Green:")));
+    m_window->updateLanguage();
+    QCOMPARE(picture(*m_window), centreText(QStringLiteral("Red:")));
 }
 
 QTEST_MAIN(TestDrawContainerOverlay)

@@ -1,110 +1,146 @@
-#include "dictionary.h"
-#include "placementpanel.h"
+#include "paneltest.h"
+#include "placementrig.h"
+#include "rows.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
-#include <QLabel>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QSignalSpy>
 #include <QtTest>
 
-class TestDrawCtrlForm : public QObject
+#include <functional>
+
+namespace {
+
+// The panel again, over the test window as it is and without settings.
+void dropSettings(PlacementRig &rig)
+{
+    rig.panel = std::make_unique<DrawCtrlForm>(&rig.canvas, nullptr, nullptr);
+}
+
+} // namespace
+
+class TestDrawCtrlForm : public PanelTest<PlacementRig>
 {
     Q_OBJECT
+
+protected:
+    QVariantMap defaults() const override;
+    QByteArray stored() const override;
+    QList<QByteArray> alsoStored() const override;
+    QString texts() const override;
+    void addEdits() const override;
 
 private slots:
     void form_isLaidOut_data();
     void form_isLaidOut();
     void form_namesBothButtonsForTheStyleSheet();
     void form_hasSpinBoxesWithoutFocusRingAndMenu();
-    void withoutSettings_startsAtTheOriginWith200x200();
+    void withoutSettings_startsAtTheOriginWith200x200AndSavesNothing();
     void withoutSettings_leavesTheVisibilityAlone();
-    void withoutSettings_savesNothing();
     void ranges_areTheSumsOfAllScreens();
-    void ranges_areSentAgainByGetScreenSize();
+    void ranges_areSentAgainByGetScreenSizeAndWriteNothing();
     void ranges_followTheDesktop_data();
     void ranges_followTheDesktop();
     void ranges_thatGrowAgainBringThePlacementBack();
     void screenMaxSizeChanged_isEmittedOnceInsideTheConstructor();
-    void pairs_agree_data();
     void pairs_agree();
     void sliders_placeTheTestWindow();
     void slots_placeTheTestWindow();
     void buttons_showAndHideTheTestWindow();
     void buttons_followTheTestWindow();
-    void language_reachesEveryText();
+    void changeOfTheWindow_isSavedSoon();
+    void fullScreenWhileHidden_showsTheWindowInTheFileToo();
 };
+
+QVariantMap TestDrawCtrlForm::defaults() const
+{
+    return {{QStringLiteral("testWindowPointX"), 0},
+            {QStringLiteral("testWindowPointY"), 0},
+            {QStringLiteral("testWindowWidth"), 256},
+            {QStringLiteral("testWindowHeight"), 256},
+            {QStringLiteral("testWindowVisible"), false}};
+}
+
+QByteArray TestDrawCtrlForm::stored() const
+{
+    return "testWindowPointX = 30\ntestWindowPointY = 40\ntestWindowWidth = 120\n"
+           "testWindowHeight = 120\ntestWindowVisible = false\n";
+}
+
+QList<QByteArray> TestDrawCtrlForm::alsoStored() const
+{
+    return {"testWindowHeight = 90\n", "testWindowPointX = 99999\ntestWindowWidth = -3\n",
+            "testWindowPointX = a\ntestWindowVisible = b\n"};
+}
+
+QString TestDrawCtrlForm::texts() const
+{
+    return QStringLiteral("X|Y|宽|高|X|Y|宽|高|X|Y|宽|高|"
+                          "Wayland 下窗口位置由桌面决定|显示|隐藏");
+}
+
+void TestDrawCtrlForm::addEdits() const
+{
+    const char *const y = "testWindowPointY";
+    const char *const visible = "testWindowVisible";
+    edit("slider", "", "hScrollBarX", 17, "", "testWindowPointX", "17");
+    edit("spin box", "", "spinBoxY", -18, "", y, "-18");
+    edit("key, size", "", "slot_keyShiftRightPressed", {}, "", "testWindowWidth", "121");
+    edit("key, place", "", "slot_keyCtrlUpPressed", {}, "", y, "39");
+    edit("hide button", "", "隐藏", {}, "", visible, "true");
+    edit("show button", "testWindowVisible = true\n", "显示", {}, "", visible, "false");
+    edit("hidden by itself", "", "slot_enableShowButton", {}, "", visible, "true");
+}
 
 void TestDrawCtrlForm::form_isLaidOut_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QRect>("geometry");
-    const QString none;
-    const QString button = QStringLiteral("normalContentPushBtn");
-
-    QTest::newRow("label") << "QLabel"
-                           << "label"
-                           << "X" << QRect(40, 20, 16, 16);
-    QTest::newRow("label_2") << "QLabel"
-                             << "label_2"
-                             << "Y" << QRect(40, 50, 16, 16);
-    QTest::newRow("labelWidth") << "QLabel"
-                                << "labelWidth"
-                                << "宽" << QRect(36, 85, 51, 16);
-    QTest::newRow("labelHeight") << "QLabel"
-                                 << "labelHeight"
-                                 << "高" << QRect(37, 113, 51, 16);
-    QTest::newRow("rule") << "QLabel"
-                          << "label_3" << none << QRect(30, 145, 531, 2);
-    QTest::newRow("slider x") << "QSlider"
-                              << "hScrollBarX" << none << QRect(90, 20, 390, 16);
-    QTest::newRow("slider y") << "QSlider"
-                              << "hScrollBarY" << none << QRect(90, 50, 390, 16);
-    QTest::newRow("slider w") << "QSlider"
-                              << "hScrollBarWidth" << none << QRect(90, 86, 390, 16);
-    QTest::newRow("slider h") << "QSlider"
-                              << "hScrollBarHeight" << none << QRect(90, 115, 390, 19);
-    QTest::newRow("spin box x") << "QSpinBox"
-                                << "spinBoxX" << none << QRect(500, 20, 51, 22);
-    QTest::newRow("spin box y") << "QSpinBox"
-                                << "spinBoxY" << none << QRect(500, 50, 51, 22);
-    QTest::newRow("spin box w") << "QSpinBox"
-                                << "spinBoxWidth" << none << QRect(500, 80, 51, 22);
-    QTest::newRow("spin box h") << "QSpinBox"
-                                << "spinBoxHeight" << none << QRect(500, 110, 51, 22);
-    QTest::newRow("show") << "QPushButton" << button << "显示" << QRect(378, 155, 75, 23);
-    QTest::newRow("hide") << "QPushButton" << button << "隐藏" << QRect(474, 155, 75, 23);
+    const char *const button = "normalContentPushBtn";
+    const Table<QByteArray, const char *, const char *, QRect> row("kind", "name", "text",
+                                                                   "geometry");
+    row("label", "QLabel", "label", "X", {40, 20, 16, 16});
+    row("label_2", "QLabel", "label_2", "Y", {40, 50, 16, 16});
+    row("labelWidth", "QLabel", "labelWidth", "宽", {36, 85, 51, 16});
+    row("labelHeight", "QLabel", "labelHeight", "高", {37, 113, 51, 16});
+    row("rule", "QLabel", "label_3", "", {30, 145, 531, 2});
+    row("slider x", "QSlider", "hScrollBarX", "", {90, 20, 390, 16});
+    row("slider y", "QSlider", "hScrollBarY", "", {90, 50, 390, 16});
+    row("slider w", "QSlider", "hScrollBarWidth", "", {90, 86, 390, 16});
+    row("slider h", "QSlider", "hScrollBarHeight", "", {90, 115, 390, 19});
+    row("spin box x", "QSpinBox", "spinBoxX", "", {500, 20, 51, 22});
+    row("spin box y", "QSpinBox", "spinBoxY", "", {500, 50, 51, 22});
+    row("spin box w", "QSpinBox", "spinBoxWidth", "", {500, 80, 51, 22});
+    row("spin box h", "QSpinBox", "spinBoxHeight", "", {500, 110, 51, 22});
+    row("show", "QPushButton", button, "显示", {378, 155, 75, 23});
+    row("hide", "QPushButton", button, "隐藏", {474, 155, 75, 23});
 }
 
 void TestDrawCtrlForm::form_isLaidOut()
 {
-    QFETCH(QString, kind);
+    QFETCH(QByteArray, kind);
     QFETCH(QString, name);
     QFETCH(QString, text);
     QFETCH(QRect, geometry);
-    const PlacementPanel panel;
+    const PlacementRig rig;
 
     int found = 0;
-    const auto widgets = panel.form->findChildren<QWidget *>(name);
+    const auto widgets = rig.panel->findChildren<QWidget *>(name);
     for (const QWidget *widget : widgets) {
         const QString label = widget->property("text").toString();
         const bool isLabelled = text.isEmpty() || label == text;
-        if (widget->inherits(kind.toLatin1().constData()) && widget->geometry() == geometry
-            && isLabelled)
+        if (widget->inherits(kind) && widget->geometry() == geometry && isLabelled)
             ++found;
     }
     QCOMPARE(found, 1);
-    QCOMPARE(panel.form->maximumSize(), QSize(585, 192));
+    QCOMPARE(rig.panel->maximumSize(), QSize(585, 192));
 }
 
 void TestDrawCtrlForm::form_namesBothButtonsForTheStyleSheet()
 {
-    const PlacementPanel panel;
-    const auto buttons = panel.form->findChildren<QPushButton *>();
+    const PlacementRig rig;
+    const auto buttons = rig.panel->findChildren<QPushButton *>();
 
     QCOMPARE(buttons.count(), 2);
     for (const QPushButton *button : buttons)
@@ -113,85 +149,80 @@ void TestDrawCtrlForm::form_namesBothButtonsForTheStyleSheet()
 
 void TestDrawCtrlForm::form_hasSpinBoxesWithoutFocusRingAndMenu()
 {
-    const PlacementPanel panel;
+    const PlacementRig rig;
 
     for (const QString &axis : placementAxes()) {
-        QVERIFY(!panel.spinBox(axis)->testAttribute(Qt::WA_MacShowFocusRect));
-        QCOMPARE(panel.spinBox(axis)->contextMenuPolicy(), Qt::NoContextMenu);
+        QVERIFY(!rig.spinBox(axis)->testAttribute(Qt::WA_MacShowFocusRect));
+        QCOMPARE(rig.spinBox(axis)->contextMenuPolicy(), Qt::NoContextMenu);
     }
 }
 
-void TestDrawCtrlForm::withoutSettings_startsAtTheOriginWith200x200()
+void TestDrawCtrlForm::withoutSettings_startsAtTheOriginWith200x200AndSavesNothing()
 {
-    const PlacementPanel panel;
+    PlacementRig rig;
+    rig.canvas.setGeometry(77, 66, 55, 44);
+    dropSettings(rig);
+    QCOMPARE(rig.canvas.geometry(), QRect(0, 0, 200, 200));
+    QCOMPARE(rig.controls(), QRect(0, 0, 200, 200));
 
-    QCOMPARE(panel.target.geometry(), QRect(0, 0, 200, 200));
-    QCOMPARE(panel.controls(), QRect(0, 0, 200, 200));
+    rig.x()->setValue(12);
+    rig.panel->saveWindowBaseInfo();
+    QCOMPARE(rig.controls(), QRect(12, 0, 200, 200));
 }
 
 void TestDrawCtrlForm::withoutSettings_leavesTheVisibilityAlone()
 {
-    PlacementPanel panel;
-    QVERIFY(panel.target.isHidden());
-    QVERIFY(!panel.showButton()->isEnabled());
-    QVERIFY(panel.hideButton()->isEnabled());
-
-    panel.target.show();
-    const DrawCtrlForm another(&panel.target, nullptr, nullptr);
-    QVERIFY(panel.target.isVisible());
-}
-
-void TestDrawCtrlForm::withoutSettings_savesNothing()
-{
-    PlacementPanel panel;
-    panel.x()->setValue(12);
-    panel.form->saveWindowBaseInfo();
-
-    QCOMPARE(panel.controls(), QRect(12, 0, 200, 200));
+    for (const bool visible : {true, false}) {
+        PlacementRig rig;
+        rig.canvas.setVisible(visible);
+        dropSettings(rig);
+        QCOMPARE(rig.canvas.isVisible(), visible);
+        QVERIFY(rig.isHideable());
+    }
 }
 
 void TestDrawCtrlForm::ranges_areTheSumsOfAllScreens()
 {
-    const PlacementPanel panel;
+    const PlacementRig rig;
     const int w = desktopSums().width();
     const int h = desktopSums().height();
     const QList<QPair<int, int>> ranges{{1 - w, w - 1}, {1 - h, h - 1}, {1, w}, {1, h}};
 
     for (int i = 0; i < 4; ++i) {
-        QCOMPARE(panel.slider(placementAxes().at(i))->minimum(), ranges.at(i).first);
-        QCOMPARE(panel.slider(placementAxes().at(i))->maximum(), ranges.at(i).second);
-        QCOMPARE(panel.spinBox(placementAxes().at(i))->minimum(), ranges.at(i).first);
-        QCOMPARE(panel.spinBox(placementAxes().at(i))->maximum(), ranges.at(i).second);
+        QCOMPARE(rig.slider(placementAxes().at(i))->minimum(), ranges.at(i).first);
+        QCOMPARE(rig.slider(placementAxes().at(i))->maximum(), ranges.at(i).second);
+        QCOMPARE(rig.spinBox(placementAxes().at(i))->minimum(), ranges.at(i).first);
+        QCOMPARE(rig.spinBox(placementAxes().at(i))->maximum(), ranges.at(i).second);
     }
 }
 
-void TestDrawCtrlForm::ranges_areSentAgainByGetScreenSize()
+void TestDrawCtrlForm::ranges_areSentAgainByGetScreenSizeAndWriteNothing()
 {
-    const PlacementPanel panel;
-    QSignalSpy sizes(panel.form.get(), &DrawCtrlForm::signal_screenMaxSizeChanged);
+    const PlacementRig rig;
+    QSignalSpy sizes(rig.panel.get(), &DrawCtrlForm::signal_screenMaxSizeChanged);
 
-    panel.form->getScreenSize();
-    panel.form->slot_dealScreenChange(0);
+    rig.panel->getScreenSize();
+    rig.panel->slot_dealScreenChange(0);
 
     QCOMPARE(sizes.count(), 2);
     const QVariantList sums{desktopSums().width(), desktopSums().height()};
     QCOMPARE(sizes.at(0), sums);
     QCOMPARE(sizes.at(1), sums);
+    QVERIFY(!rig.isSaveDue());
 }
 
 void TestDrawCtrlForm::ranges_followTheDesktop_data()
 {
-    QTest::addColumn<QByteArray>("change");
-    QTest::newRow("number of screens") << QByteArray("screenCountChanged");
-    QTest::newRow("size of a screen") << QByteArray("resized");
-    QTest::newRow("primary screen") << QByteArray("primaryScreenChanged");
+    addRows<QByteArray>("change", {{"number of screens", "screenCountChanged"},
+                                   {"size of a screen", "resized"},
+                                   {"primary screen", "primaryScreenChanged"}});
 }
 
 void TestDrawCtrlForm::ranges_followTheDesktop()
 {
     QFETCH(QByteArray, change);
-    const PlacementPanel panel;
-    QSignalSpy sizes(panel.form.get(), &DrawCtrlForm::signal_screenMaxSizeChanged);
+    const PlacementRig rig;
+    QSignalSpy sizes(rig.panel.get(), &DrawCtrlForm::signal_screenMaxSizeChanged);
 
     if (change == "primaryScreenChanged")
         QVERIFY(QMetaObject::invokeMethod(QApplication::desktop(), change.constData()));
@@ -204,27 +235,27 @@ void TestDrawCtrlForm::ranges_followTheDesktop()
 
 void TestDrawCtrlForm::ranges_thatGrowAgainBringThePlacementBack()
 {
-    PlacementPanel panel;
+    PlacementRig rig;
     const QRect placement(310, -120, 333, 222);
-    panel.x()->setValue(placement.x());
-    panel.y()->setValue(placement.y());
-    panel.width()->setValue(placement.width());
-    panel.target.show(); // a hidden window hears of its changes later
-    panel.height()->setValue(placement.height());
-    PlacementCounter counter(&panel.target);
+    rig.x()->setValue(placement.x());
+    rig.y()->setValue(placement.y());
+    rig.width()->setValue(placement.width());
+    rig.canvas.show(); // a hidden window hears of its changes later
+    rig.height()->setValue(placement.height());
+    PlacementCounter counter(&rig.canvas);
     // As a small desktop would leave the controls.
     for (const QString &axis : placementAxes()) {
-        const QSignalBlocker blockSlider(panel.slider(axis));
-        const QSignalBlocker blockSpinBox(panel.spinBox(axis));
-        panel.slider(axis)->setRange(1, 9);
-        panel.spinBox(axis)->setRange(1, 9);
+        const QSignalBlocker blockSlider(rig.slider(axis));
+        const QSignalBlocker blockSpinBox(rig.spinBox(axis));
+        rig.slider(axis)->setRange(1, 9);
+        rig.spinBox(axis)->setRange(1, 9);
     }
 
-    panel.form->getScreenSize();
+    rig.panel->getScreenSize();
 
-    QCOMPARE(panel.controls(), placement);
-    QCOMPARE(panel.spinBox(QStringLiteral("Height"))->value(), 222);
-    QCOMPARE(panel.target.geometry(), placement);
+    QCOMPARE(rig.controls(), placement);
+    QCOMPARE(rig.spinBox(QStringLiteral("Height"))->value(), 222);
+    QCOMPARE(rig.canvas.geometry(), placement);
     QCOMPARE(counter.changes, 0);
 }
 
@@ -233,9 +264,8 @@ void TestDrawCtrlForm::screenMaxSizeChanged_isEmittedOnceInsideTheConstructor()
     // Nobody can be connected that early, so another run of this program, which
     // makes one panel, has to write down every signal.
     QProcess run;
-    run.start(
-        QCoreApplication::applicationFilePath(),
-        {QStringLiteral("-vs"), QStringLiteral("withoutSettings_startsAtTheOriginWith200x200")});
+    run.start(QCoreApplication::applicationFilePath(),
+              {QStringLiteral("-vs"), QStringLiteral("form_namesBothButtonsForTheStyleSheet")});
     QVERIFY(run.waitForFinished());
     QCOMPARE(run.exitCode(), 0);
 
@@ -250,111 +280,107 @@ void TestDrawCtrlForm::screenMaxSizeChanged_isEmittedOnceInsideTheConstructor()
     QVERIFY(!emissions.hasNext());
 }
 
-void TestDrawCtrlForm::pairs_agree_data()
-{
-    QTest::addColumn<QString>("axis");
-    for (const QString &axis : placementAxes())
-        QTest::newRow(qPrintable(axis)) << axis;
-}
-
 void TestDrawCtrlForm::pairs_agree()
 {
-    QFETCH(QString, axis);
-    const PlacementPanel panel;
-
-    for (const int value : {1, 57, panel.slider(axis)->maximum(), panel.slider(axis)->minimum()}) {
-        panel.slider(axis)->setValue(value);
-        QCOMPARE(panel.spinBox(axis)->value(), value);
-    }
-    for (const int value : {1, 58, panel.slider(axis)->maximum(), panel.slider(axis)->minimum()}) {
-        panel.spinBox(axis)->setValue(value);
-        QCOMPARE(panel.slider(axis)->value(), value);
+    const PlacementRig rig;
+    for (const QString &axis : placementAxes()) {
+        QSlider *slider = rig.slider(axis);
+        QSpinBox *spinBox = rig.spinBox(axis);
+        for (const int value : {1, 57, slider->maximum(), slider->minimum()}) {
+            slider->setValue(value);
+            QCOMPARE(spinBox->value(), value);
+        }
+        for (const int value : {1, 58, slider->maximum(), slider->minimum()}) {
+            spinBox->setValue(value);
+            QCOMPARE(slider->value(), value);
+        }
     }
 }
 
 void TestDrawCtrlForm::sliders_placeTheTestWindow()
 {
-    const PlacementPanel panel;
+    const PlacementRig rig;
 
-    panel.x()->setValue(31);
-    QCOMPARE(panel.target.geometry(), QRect(31, 0, 200, 200));
-    panel.y()->setValue(-42);
-    QCOMPARE(panel.target.geometry(), QRect(31, -42, 200, 200));
-    panel.width()->setValue(53);
-    QCOMPARE(panel.target.geometry(), QRect(31, -42, 53, 200));
-    panel.height()->setValue(1);
-    QCOMPARE(panel.target.geometry(), QRect(31, -42, 53, 1));
+    rig.x()->setValue(31);
+    QCOMPARE(rig.canvas.geometry(), QRect(31, 0, 256, 256));
+    rig.y()->setValue(-42);
+    QCOMPARE(rig.canvas.geometry(), QRect(31, -42, 256, 256));
+    rig.width()->setValue(53);
+    QCOMPARE(rig.canvas.geometry(), QRect(31, -42, 53, 256));
+    rig.height()->setValue(1);
+    QCOMPARE(rig.canvas.geometry(), QRect(31, -42, 53, 1));
+    QVERIFY(rig.isSaveDue());
 }
 
 void TestDrawCtrlForm::slots_placeTheTestWindow()
 {
-    const PlacementPanel panel;
+    const PlacementRig rig;
 
-    panel.form->slot_MoveX(13);
-    QCOMPARE(panel.target.pos(), QPoint(13, 0));
-    panel.form->slot_MoveY(14);
-    QCOMPARE(panel.target.pos(), QPoint(13, 14));
-    panel.form->slot_resetWidth(150);
-    QCOMPARE(panel.target.size(), QSize(150, 200)); // the other side from its slider
-    panel.height()->setValue(90);
-    panel.form->slot_resetHeight(160);
-    QCOMPARE(panel.target.height(), 160);
+    rig.panel->slot_MoveX(13);
+    QCOMPARE(rig.canvas.pos(), QPoint(13, 0));
+    rig.panel->slot_MoveY(14);
+    QCOMPARE(rig.canvas.pos(), QPoint(13, 14));
+    rig.panel->slot_resetWidth(150);
+    QCOMPARE(rig.canvas.size(), QSize(150, 256)); // the other side from its slider
+    rig.height()->setValue(90);
+    rig.panel->slot_resetHeight(160);
+    QCOMPARE(rig.canvas.height(), 160);
 }
 
 void TestDrawCtrlForm::buttons_showAndHideTheTestWindow()
 {
-    const PlacementPanel panel;
+    const PlacementRig rig({{QStringLiteral("testWindowVisible"), true}});
+    QVERIFY(!rig.isHideable());
 
-    panel.form->slot_showPushed();
-    QVERIFY(panel.target.isVisible());
-    QVERIFY(panel.hideButton()->isEnabled());
-    QVERIFY(!panel.showButton()->isEnabled());
+    rig.panel->slot_showPushed();
+    QVERIFY(rig.canvas.isVisible());
+    QVERIFY(rig.isHideable());
 
-    QTest::mouseClick(panel.hideButton(), Qt::LeftButton);
-    QVERIFY(panel.target.isHidden());
-    QVERIFY(!panel.hideButton()->isEnabled());
-    QVERIFY(panel.showButton()->isEnabled());
+    rig.click(rig.hideButton());
+    QVERIFY(rig.canvas.isHidden());
+    QVERIFY(!rig.isHideable());
 
-    QTest::mouseClick(panel.showButton(), Qt::LeftButton);
-    QVERIFY(panel.target.isVisible());
-    QVERIFY(panel.hideButton()->isEnabled());
-    QVERIFY(!panel.showButton()->isEnabled());
+    rig.click(rig.showButton());
+    QVERIFY(rig.canvas.isVisible());
+    QVERIFY(rig.isHideable());
 }
 
 void TestDrawCtrlForm::buttons_followTheTestWindow()
 {
-    const PlacementPanel panel;
-
-    panel.form->slot_enableShowButton();
-    QVERIFY(panel.showButton()->isEnabled());
-    QVERIFY(!panel.hideButton()->isEnabled());
-    panel.form->slot_disableShowButton();
-    QVERIFY(!panel.showButton()->isEnabled());
-    QVERIFY(panel.hideButton()->isEnabled());
-    QVERIFY(panel.target.isHidden()); // it is told, it does not act
+    const PlacementRig rig;
+    rig.panel->slot_enableShowButton();
+    QVERIFY(!rig.isHideable());
+    QVERIFY(rig.canvas.isVisible()); // it is told, it does not act
+    rig.panel->slot_disableShowButton();
+    QVERIFY(rig.isHideable());
 }
 
-void TestDrawCtrlForm::language_reachesEveryText()
+void TestDrawCtrlForm::changeOfTheWindow_isSavedSoon()
 {
-    const PlacementPanel panel;
-    const Dictionary dictionary({{QStringLiteral("X"), QStringLiteral("x")},
-                                 {QStringLiteral("Y"), QStringLiteral("y")},
-                                 {QStringLiteral("宽"), QStringLiteral("W")},
-                                 {QStringLiteral("高"), QStringLiteral("H")},
-                                 {QStringLiteral("显示"), QStringLiteral("Show")},
-                                 {QStringLiteral("隐藏"), QStringLiteral("Hide")}});
+    PlacementRig rig;
+    const std::function<void()> changes[] = {
+        [&] { rig.panel->slot_drawWidgetPositionChange(0, 99); },
+        [&] { rig.panel->slot_drawWidgetSizeChange(256, 98); }, [&] { rig.canvas.hide(); }};
+    for (const auto &change : changes) {
+        QVERIFY(!rig.isSaveDue());
+        change();
+        QVERIFY(rig.isSaveDue());
+        QTRY_VERIFY(!rig.isSaveDue());
+    }
+    const QByteArray file = rig.settings.bytes();
+    QVERIFY(file.contains("PointY=99\n") && file.contains("Height=98\n"));
+    QVERIFY(file.contains("Visible=true\n"));
+}
 
-    panel.form->updateLanguage();
+void TestDrawCtrlForm::fullScreenWhileHidden_showsTheWindowInTheFileToo()
+{
+    PlacementRig rig({{QStringLiteral("testWindowVisible"), true}});
+    QVERIFY(!rig.isHideable());
 
-    const auto label = [&](const char *name) {
-        return panel.form->findChild<QLabel *>(QString::fromLatin1(name))->text();
-    };
-    QCOMPARE(label("label"), QStringLiteral("x"));
-    QCOMPARE(label("label_2"), QStringLiteral("y"));
-    QCOMPARE(label("labelWidth"), QStringLiteral("W"));
-    QCOMPARE(label("labelHeight"), QStringLiteral("H"));
-    QCOMPARE(panel.showButton()->text(), QStringLiteral("Show"));
-    QCOMPARE(panel.hideButton()->text(), QStringLiteral("Hide"));
+    rig.canvas.showFullScreen();
+
+    QVERIFY(rig.isHideable());
+    QTRY_VERIFY(rig.settings.bytes().contains("Visible=false\n"));
 }
 
 QTEST_MAIN(TestDrawCtrlForm)

@@ -1,5 +1,5 @@
-#include "placementpanel.h"
-#include "testsettings.h"
+#include "placementrig.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -19,112 +19,77 @@ class TestDrawCtrlFormSettings : public QObject
 
 private slots:
     void emptySettings_startAtTheOriginWith256x256Shown();
-    void storedWidthAndHeight_restoreAsASquareOfTheWidth();
-    void storedVisibleTrue_startsHiddenWithOnlyShowEnabled();
     void storedVisibility_isReadAsABool_data();
     void storedVisibility_isReadAsABool();
     void storedSize_isRestored_data();
     void storedSize_isRestored();
     void storedPlace_isRestored_data();
     void storedPlace_isRestored();
-    void save_writesTheSliders();
-    void save_writesTheVisibilityInverted();
-    void restart_comesBackToTheSavedPlace();
+    void placeBeyondTheDesktop_survivesARunWithoutAChange();
+    void save_writesThePlacementThatARestartComesBackTo();
 };
 
 void TestDrawCtrlFormSettings::emptySettings_startAtTheOriginWith256x256Shown()
 {
     TestSettings settings;
-    const PlacementPanel panel(settings.get());
+    PlacementRig rig;
+    rig.canvas.setGeometry(77, 66, 55, 44);
+    rig.canvas.hide();
+    rig.panel = std::make_unique<DrawCtrlForm>(&rig.canvas, settings.get(), nullptr);
 
-    QCOMPARE(panel.target.geometry(), QRect(0, 0, 256, 256));
-    QCOMPARE(panel.controls(), QRect(0, 0, 256, 256));
-    QVERIFY(panel.target.isVisible());
-    QVERIFY(panel.hideButton()->isEnabled());
-    QVERIFY(!panel.showButton()->isEnabled());
-}
-
-void TestDrawCtrlFormSettings::storedWidthAndHeight_restoreAsASquareOfTheWidth()
-{
-    TestSettings settings({{keyWidth, 560}, {keyHeight, 420}});
-    const PlacementPanel panel(settings.get());
-
-    QCOMPARE(panel.target.size(), QSize(560, 560));
-    QCOMPARE(panel.controls().size(), QSize(560, 560));
-}
-
-void TestDrawCtrlFormSettings::storedVisibleTrue_startsHiddenWithOnlyShowEnabled()
-{
-    TestSettings settings({{keyVisible, true}});
-    const PlacementPanel panel(settings.get());
-
-    QVERIFY(panel.target.isHidden());
-    QCOMPARE(panel.showButton()->text(), QStringLiteral("显示"));
-    QVERIFY(panel.showButton()->isEnabled());
-    QVERIFY(!panel.hideButton()->isEnabled());
+    QCOMPARE(rig.canvas.geometry(), QRect(0, 0, 256, 256));
+    QCOMPARE(rig.controls(), QRect(0, 0, 256, 256));
+    QVERIFY(rig.canvas.isVisible());
+    QVERIFY(rig.isHideable());
 }
 
 void TestDrawCtrlFormSettings::storedVisibility_isReadAsABool_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<bool>("hidden");
-
-    QTest::newRow("true") << QVariant(true) << true;
-    QTest::newRow("false") << QVariant(false) << false;
-    QTest::newRow("text true") << QVariant(QStringLiteral("true")) << true;
-    QTest::newRow("text false") << QVariant(QStringLiteral("false")) << false;
-    QTest::newRow("one") << QVariant(1) << true;
-    QTest::newRow("zero") << QVariant(0) << false;
-    QTest::newRow("empty text") << QVariant(QString()) << false;
-    QTest::newRow("list") << QVariant(QStringList{QStringLiteral("a"), QStringLiteral("b")})
-                          << false;
+    const Table<QVariant, bool> row("stored", "hidden");
+    row("true", true, true);
+    row("false", false, false);
+    row("text true", QStringLiteral("true"), true);
+    row("text false", QStringLiteral("false"), false);
+    row("one", 1, true);
+    row("zero", 0, false);
+    row("empty text", QString(), false);
+    row("list", QStringList{QStringLiteral("a"), QStringLiteral("b")}, false);
 }
 
 void TestDrawCtrlFormSettings::storedVisibility_isReadAsABool()
 {
     QFETCH(QVariant, stored);
     QFETCH(bool, hidden);
-    TestSettings settings({{keyVisible, stored}});
-    settings.reopen();
-    const PlacementPanel panel(settings.get());
+    const PlacementRig rig({{keyVisible, stored}});
 
-    QCOMPARE(panel.target.isHidden(), hidden);
-    QCOMPARE(panel.showButton()->isEnabled(), hidden);
-    QCOMPARE(panel.hideButton()->isEnabled(), !hidden);
+    QCOMPARE(rig.canvas.isHidden(), hidden);
+    QCOMPARE(rig.isHideable(), !hidden);
 }
 
 void TestDrawCtrlFormSettings::storedSize_isRestored_data()
 {
-    QTest::addColumn<QVariant>("width");
-    QTest::addColumn<QVariant>("height");
-    QTest::addColumn<QSize>("size");
     const int maxWidth = desktopSums().width();
     const int maxHeight = desktopSums().height();
     const QStringList list{QStringLiteral("3"), QStringLiteral("4")};
-
-    QTest::newRow("square") << QVariant(300) << QVariant(300) << QSize(300, 300);
-    QTest::newRow("higher than wide") << QVariant(100) << QVariant(300) << QSize(100, 100);
-    QTest::newRow("smallest") << QVariant(1) << QVariant(1) << QSize(1, 1);
-    QTest::newRow("width 0") << QVariant(0) << QVariant(0) << QSize(256, 256);
-    QTest::newRow("height below 1") << QVariant(300) << QVariant(-5) << QSize(300, 256);
-    QTest::newRow("height missing") << QVariant(300) << QVariant() << QSize(300, 256);
+    const Table<QVariant, QVariant, QSize> row("width", "height", "size");
+    row("square", 300, 300, {300, 300});
+    row("higher than wide", 100, 300, {100, 100});
+    row("wider than high", 560, 420, {560, 560});
+    row("smallest", 1, 1, {1, 1});
+    row("width 0", 0, 0, {256, 256});
+    row("height below 1", 300, -5, {300, 256});
+    row("height missing", 300, QVariant(), {300, 256});
     // The height takes the width as it is stored, which the range lifts to 1.
-    QTest::newRow("width missing") << QVariant() << QVariant(300) << QSize(256, 1);
-    QTest::newRow("width negative") << QVariant(-7) << QVariant(300) << QSize(256, 1);
-    QTest::newRow("beyond the desktop")
-        << QVariant(maxWidth + 1) << QVariant(300) << QSize(maxWidth, maxHeight);
-    QTest::newRow("largest int") << QVariant(2147483647) << QVariant(2147483647)
-                                 << QSize(maxWidth, maxHeight);
-    QTest::newRow("beyond an int")
-        << QVariant(QStringLiteral("99999999999999999999"))
-        << QVariant(QStringLiteral("99999999999999999999")) << QSize(256, 256);
-    QTest::newRow("smallest int") << QVariant(-2147483647 - 1) << QVariant(-2147483647 - 1)
-                                  << QSize(256, 256);
-    QTest::newRow("texts") << QVariant(QStringLiteral("wide")) << QVariant(QStringLiteral("high"))
-                           << QSize(256, 256);
-    QTest::newRow("lists") << QVariant(list) << QVariant(list) << QSize(256, 256);
-    QTest::newRow("bytes") << QVariant(QByteArray("\x00\xff\x01", 3))
-                           << QVariant(QByteArray("\xfe")) << QSize(256, 256);
+    row("width missing", QVariant(), 300, {256, 1});
+    row("width negative", -7, 300, {256, 1});
+    row("beyond the desktop", maxWidth + 1, 300, {maxWidth, maxHeight});
+    row("largest int", 2147483647, 2147483647, {maxWidth, maxHeight});
+    row("beyond an int", QStringLiteral("99999999999999999999"),
+        QStringLiteral("99999999999999999999"), {256, 256});
+    row("smallest int", -2147483647 - 1, -2147483647 - 1, {256, 256});
+    row("texts", QStringLiteral("wide"), QStringLiteral("high"), {256, 256});
+    row("lists", list, list, {256, 256});
+    row("bytes", QByteArray("\x00\xff\x01", 3), QByteArray("\xfe"), {256, 256});
 }
 
 void TestDrawCtrlFormSettings::storedSize_isRestored()
@@ -137,40 +102,31 @@ void TestDrawCtrlFormSettings::storedSize_isRestored()
         values[keyWidth] = width;
     if (height.isValid())
         values[keyHeight] = height;
-    TestSettings settings(values);
-    settings.reopen();
 
-    const PlacementPanel panel(settings.get());
+    const PlacementRig rig(values);
 
-    QCOMPARE(panel.target.geometry(), QRect(QPoint(0, 0), size));
-    QCOMPARE(panel.controls(), QRect(QPoint(0, 0), size));
-    QVERIFY(panel.target.isVisible());
+    QCOMPARE(rig.canvas.geometry(), QRect(QPoint(0, 0), size));
+    QCOMPARE(rig.controls(), QRect(QPoint(0, 0), size));
+    QVERIFY(rig.canvas.isVisible());
 }
 
 void TestDrawCtrlFormSettings::storedPlace_isRestored_data()
 {
-    QTest::addColumn<QVariant>("x");
-    QTest::addColumn<QVariant>("y");
-    QTest::addColumn<QPoint>("place");
     const int w = desktopSums().width();
     const int h = desktopSums().height();
     const QStringList list{QStringLiteral("3"), QStringLiteral("4")};
-
-    QTest::newRow("inside") << QVariant(31) << QVariant(45) << QPoint(31, 45);
-    QTest::newRow("zero") << QVariant(0) << QVariant(0) << QPoint(0, 0);
-    QTest::newRow("left and above") << QVariant(-31) << QVariant(-45) << QPoint(-31, -45);
-    QTest::newRow("at the minimum") << QVariant(1 - w) << QVariant(1 - h) << QPoint(1 - w, 1 - h);
-    QTest::newRow("at the maximum") << QVariant(w - 1) << QVariant(h - 1) << QPoint(w - 1, h - 1);
-    QTest::newRow("beyond") << QVariant(w) << QVariant(99999) << QPoint(w - 1, h - 1);
-    QTest::newRow("largest int") << QVariant(2147483647) << QVariant(2147483647)
-                                 << QPoint(w - 1, h - 1);
-    QTest::newRow("smallest int") << QVariant(-2147483647 - 1) << QVariant(-2147483647 - 1)
-                                  << QPoint(1 - w, 1 - h);
-    QTest::newRow("texts") << QVariant(QStringLiteral("left")) << QVariant(QStringLiteral("12px"))
-                           << QPoint(0, 0);
-    QTest::newRow("numbers as text")
-        << QVariant(QStringLiteral("12")) << QVariant(QStringLiteral("-13")) << QPoint(12, -13);
-    QTest::newRow("lists") << QVariant(list) << QVariant(list) << QPoint(0, 0);
+    const Table<QVariant, QVariant, QPoint> row("x", "y", "place");
+    row("inside", 31, 45, {31, 45});
+    row("zero", 0, 0, {0, 0});
+    row("left and above", -31, -45, {-31, -45});
+    row("at the minimum", 1 - w, 1 - h, {1 - w, 1 - h});
+    row("at the maximum", w - 1, h - 1, {w - 1, h - 1});
+    row("beyond", w, 99999, {w - 1, h - 1});
+    row("largest int", 2147483647, 2147483647, {w - 1, h - 1});
+    row("smallest int", -2147483647 - 1, -2147483647 - 1, {1 - w, 1 - h});
+    row("texts", QStringLiteral("left"), QStringLiteral("12px"), {0, 0});
+    row("numbers as text", QStringLiteral("12"), QStringLiteral("-13"), {12, -13});
+    row("lists", list, list, {0, 0});
 }
 
 void TestDrawCtrlFormSettings::storedPlace_isRestored()
@@ -178,67 +134,45 @@ void TestDrawCtrlFormSettings::storedPlace_isRestored()
     QFETCH(QVariant, x);
     QFETCH(QVariant, y);
     QFETCH(QPoint, place);
-    TestSettings settings({{keyX, x}, {keyY, y}});
-    settings.reopen();
+    const PlacementRig rig({{keyX, x}, {keyY, y}});
 
-    const PlacementPanel panel(settings.get());
-
-    QCOMPARE(panel.target.pos(), place);
-    QCOMPARE(panel.controls().topLeft(), place);
+    QCOMPARE(rig.canvas.pos(), place);
+    QCOMPARE(rig.controls().topLeft(), place);
 }
 
-void TestDrawCtrlFormSettings::save_writesTheSliders()
+// As after a start with a screen unplugged.
+void TestDrawCtrlFormSettings::placeBeyondTheDesktop_survivesARunWithoutAChange()
 {
-    TestSettings settings;
-    const PlacementPanel panel(settings.get());
-    panel.x()->setValue(-11);
-    panel.y()->setValue(22);
-    panel.width()->setValue(333);
-    panel.height()->setValue(244);
-
-    panel.form->saveWindowBaseInfo();
-
-    const QVariantMap stored = settings.stored();
-    QCOMPARE(stored.value(keyX).toString(), QStringLiteral("-11"));
-    QCOMPARE(stored.value(keyY).toString(), QStringLiteral("22"));
-    QCOMPARE(stored.value(keyWidth).toString(), QStringLiteral("333"));
-    QCOMPARE(stored.value(keyHeight).toString(), QStringLiteral("244"));
-    QCOMPARE(stored.value(keyVisible).toString(), QStringLiteral("false"));
-    QCOMPARE(stored.count(), 5);
+    PlacementRig rig(
+        {{keyX, 5000}, {keyY, 40}, {keyWidth, 120}, {keyHeight, 120}, {keyVisible, false}});
+    const QByteArray before = rig.settings.bytes();
+    QVERIFY(before.contains("testWindowPointX=5000"));
+    QCOMPARE(rig.canvas.x(), desktopSums().width() - 1);
+    rig.panel->getScreenSize();
+    rig.close();
+    QCOMPARE(rig.settings.bytes(), before);
 }
 
-void TestDrawCtrlFormSettings::save_writesTheVisibilityInverted()
+void TestDrawCtrlFormSettings::save_writesThePlacementThatARestartComesBackTo()
 {
-    TestSettings settings;
-    const PlacementPanel panel(settings.get());
+    PlacementRig rig;
+    rig.x()->setValue(100);
+    rig.y()->setValue(-50);
+    rig.width()->setValue(333);
+    rig.height()->setValue(244);
+    rig.panel->saveWindowBaseInfo();
 
-    panel.form->slot_HidePushed();
-    panel.form->saveWindowBaseInfo();
-    QCOMPARE(settings.stored().value(keyVisible).toString(), QStringLiteral("true"));
+    const QVariantMap stored{{keyX, QStringLiteral("100")},
+                             {keyY, QStringLiteral("-50")},
+                             {keyWidth, QStringLiteral("333")},
+                             {keyHeight, QStringLiteral("244")},
+                             {keyVisible, QStringLiteral("false")}};
+    QCOMPARE(rig.settings.stored(), stored);
+    rig.click(rig.hideButton());
+    rig.restart();
 
-    panel.form->slot_showPushed();
-    panel.form->saveWindowBaseInfo();
-    QCOMPARE(settings.stored().value(keyVisible).toString(), QStringLiteral("false"));
-}
-
-void TestDrawCtrlFormSettings::restart_comesBackToTheSavedPlace()
-{
-    TestSettings settings;
-    {
-        const PlacementPanel panel(settings.get());
-        panel.x()->setValue(100);
-        panel.y()->setValue(-50);
-        panel.width()->setValue(333);
-        panel.height()->setValue(244);
-        QTest::mouseClick(panel.hideButton(), Qt::LeftButton);
-        panel.form->saveWindowBaseInfo();
-    }
-    settings.reopen();
-
-    const PlacementPanel panel(settings.get());
-
-    QCOMPARE(panel.target.geometry(), QRect(100, -50, 333, 333));
-    QVERIFY(panel.target.isHidden());
+    QCOMPARE(rig.canvas.geometry(), QRect(100, -50, 333, 333));
+    QVERIFY(rig.canvas.isHidden());
 }
 
 QTEST_MAIN(TestDrawCtrlFormSettings)

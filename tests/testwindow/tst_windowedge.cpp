@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "windowedge.h"
 
 #include <QWidget>
@@ -42,10 +43,8 @@ private slots:
     void resized_movesTheBordersToThePointer_data();
     void resized_movesTheBordersToThePointer();
     void resized_handlesTopBeforeBottomAndLeftBeforeRight();
-    void resized_atTheMaximumOnlyShrinks_data();
-    void resized_atTheMaximumOnlyShrinks();
-    void resized_atTheMinimumOnlyGrows_data();
-    void resized_atTheMinimumOnlyGrows();
+    void resized_atALimitOnlyLeavesIt_data();
+    void resized_atALimitOnlyLeavesIt();
     void resized_looksAtEachAxisForItself();
     void resized_betweenTheLimitsReachesThePointer();
     void resized_ignoresAFrameTurnedInsideOut_data();
@@ -57,36 +56,32 @@ private slots:
 
 void TestWindowEdge::at_findsTheBordersNearThePointer_data()
 {
-    QTest::addColumn<QList<int>>("xs");
-    QTest::addColumn<QList<int>>("ys");
-    QTest::addColumn<int>("edges");
     const QList<int> nearLeft{97, 100, 103};
     const QList<int> betweenX{104, 250, 395};
     const QList<int> nearRight{396, 399, 402};
     const QList<int> nearTop{197, 200, 203};
     const QList<int> betweenY{204, 270, 345};
     const QList<int> nearBottom{346, 349, 352};
-
-    QTest::newRow("top left") << nearLeft << nearTop << 5;
-    QTest::newRow("top") << betweenX << nearTop << 1;
-    QTest::newRow("top right") << nearRight << nearTop << 9;
-    QTest::newRow("left") << nearLeft << betweenY << 4;
-    QTest::newRow("none") << betweenX << betweenY << 0;
-    QTest::newRow("right") << nearRight << betweenY << 8;
-    QTest::newRow("bottom left") << nearLeft << nearBottom << 6;
-    QTest::newRow("bottom") << betweenX << nearBottom << 2;
-    QTest::newRow("bottom right") << nearRight << nearBottom << 10;
+    const Table<QList<int>, QList<int>, int> row("xs", "ys", "edges");
+    row("top left", nearLeft, nearTop, 5);
+    row("top", betweenX, nearTop, 1);
+    row("top right", nearRight, nearTop, 9);
+    row("left", nearLeft, betweenY, 4);
+    row("none", betweenX, betweenY, 0);
+    row("right", nearRight, betweenY, 8);
+    row("bottom left", nearLeft, nearBottom, 6);
+    row("bottom", betweenX, nearBottom, 2);
+    row("bottom right", nearRight, nearBottom, 10);
 }
 
 void TestWindowEdge::at_findsTheBordersNearThePointer()
 {
     QFETCH(QList<int>, xs);
     QFETCH(QList<int>, ys);
-    QFETCH(int, edges);
 
     for (const int x : qAsConst(xs)) {
         for (const int y : qAsConst(ys))
-            QCOMPARE(at(frame, QPoint(x, y), margin), edges);
+            QTEST(at(frame, QPoint(x, y), margin), "edges");
     }
 }
 
@@ -100,45 +95,39 @@ void TestWindowEdge::at_isNoneBeyondTheMarginOutside()
 
 void TestWindowEdge::at_givesTopAndLeftTheLeadOnASmallWindow_data()
 {
-    QTest::addColumn<QRect>("small");
-    QTest::addColumn<QPoint>("pointer");
-    QTest::addColumn<int>("edges");
     const QRect four(10, 20, 4, 4);
     const QRect six(10, 20, 6, 6);
-
-    QTest::newRow("4 px, first pixel") << four << QPoint(10, 20) << topLeft;
-    QTest::newRow("4 px, last pixel") << four << QPoint(13, 23) << topLeft;
-    QTest::newRow("6 px, near both") << six << QPoint(13, 23) << topLeft;
-    QTest::newRow("6 px, near the right only") << six << QPoint(14, 23) << topRight;
-    QTest::newRow("6 px, near the bottom only") << six << QPoint(13, 24) << bottomLeft;
-    QTest::newRow("6 px, last pixel") << six << QPoint(15, 25) << bottomRight;
-    QTest::newRow("low and wide, near both") << QRect(10, 20, 300, 6) << QPoint(100, 22) << 1;
-    QTest::newRow("narrow and high, near both") << QRect(10, 20, 6, 300) << QPoint(13, 100) << 4;
+    const Table<QRect, QPoint, int> row("small", "pointer", "edges");
+    row("4 px, first pixel", four, {10, 20}, topLeft);
+    row("4 px, last pixel", four, {13, 23}, topLeft);
+    row("6 px, near both", six, {13, 23}, topLeft);
+    row("6 px, near the right only", six, {14, 23}, topRight);
+    row("6 px, near the bottom only", six, {13, 24}, bottomLeft);
+    row("6 px, last pixel", six, {15, 25}, bottomRight);
+    row("low and wide, near both", {10, 20, 300, 6}, {100, 22}, 1);
+    row("narrow and high, near both", {10, 20, 6, 300}, {13, 100}, 4);
 }
 
 void TestWindowEdge::at_givesTopAndLeftTheLeadOnASmallWindow()
 {
     QFETCH(QRect, small);
     QFETCH(QPoint, pointer);
-    QFETCH(int, edges);
 
-    QCOMPARE(at(small, pointer, margin), edges);
+    QTEST(at(small, pointer, margin), "edges");
 }
 
 void TestWindowEdge::cursor_showsTheDirection_data()
 {
-    QTest::addColumn<int>("edges");
-    QTest::addColumn<Qt::CursorShape>("shape");
-
-    QTest::newRow("none") << 0 << Qt::ArrowCursor;
-    QTest::newRow("top") << 1 << Qt::SizeVerCursor;
-    QTest::newRow("bottom") << 2 << Qt::SizeVerCursor;
-    QTest::newRow("left") << 4 << Qt::SizeHorCursor;
-    QTest::newRow("top left") << topLeft << Qt::SizeFDiagCursor;
-    QTest::newRow("bottom left") << bottomLeft << Qt::SizeBDiagCursor;
-    QTest::newRow("right") << 8 << Qt::SizeHorCursor;
-    QTest::newRow("top right") << topRight << Qt::SizeBDiagCursor;
-    QTest::newRow("bottom right") << bottomRight << Qt::SizeFDiagCursor;
+    const Table<int, Qt::CursorShape> row("edges", "shape");
+    row("none", 0, Qt::ArrowCursor);
+    row("top", 1, Qt::SizeVerCursor);
+    row("bottom", 2, Qt::SizeVerCursor);
+    row("left", 4, Qt::SizeHorCursor);
+    row("top left", topLeft, Qt::SizeFDiagCursor);
+    row("bottom left", bottomLeft, Qt::SizeBDiagCursor);
+    row("right", 8, Qt::SizeHorCursor);
+    row("top right", topRight, Qt::SizeBDiagCursor);
+    row("bottom right", bottomRight, Qt::SizeFDiagCursor);
 }
 
 void TestWindowEdge::cursor_showsTheDirection()
@@ -149,23 +138,20 @@ void TestWindowEdge::cursor_showsTheDirection()
 
 void TestWindowEdge::resized_movesTheBordersToThePointer_data()
 {
-    QTest::addColumn<int>("edges");
-    QTest::addColumn<QPoint>("pointer");
-    QTest::addColumn<QRect>("result");
-
-    QTest::newRow("top, down") << 1 << QPoint(0, 220) << borders(100, 220, 399, 349);
-    QTest::newRow("top, up") << 1 << QPoint(0, 190) << borders(100, 190, 399, 349);
-    QTest::newRow("bottom, down") << 2 << QPoint(0, 360) << borders(100, 200, 399, 360);
-    QTest::newRow("bottom, up") << 2 << QPoint(0, 300) << borders(100, 200, 399, 300);
-    QTest::newRow("left, out") << 4 << QPoint(-20, 0) << borders(-20, 200, 399, 349);
-    QTest::newRow("left, in") << 4 << QPoint(120, 0) << borders(120, 200, 399, 349);
-    QTest::newRow("right, out") << 8 << QPoint(500, 0) << borders(100, 200, 500, 349);
-    QTest::newRow("right, in") << 8 << QPoint(380, 0) << borders(100, 200, 380, 349);
-    QTest::newRow("top left") << topLeft << QPoint(90, 190) << borders(90, 190, 399, 349);
-    QTest::newRow("top right") << topRight << QPoint(410, 190) << borders(100, 190, 410, 349);
-    QTest::newRow("bottom left") << bottomLeft << QPoint(90, 360) << borders(90, 200, 399, 360);
-    QTest::newRow("bottom right") << bottomRight << QPoint(410, 360) << borders(100, 200, 410, 360);
-    QTest::newRow("none") << 0 << QPoint(410, 360) << frame;
+    const Table<int, QPoint, QRect> row("edges", "pointer", "result");
+    row("top, down", 1, {0, 220}, borders(100, 220, 399, 349));
+    row("top, up", 1, {0, 190}, borders(100, 190, 399, 349));
+    row("bottom, down", 2, {0, 360}, borders(100, 200, 399, 360));
+    row("bottom, up", 2, {0, 300}, borders(100, 200, 399, 300));
+    row("left, out", 4, {-20, 0}, borders(-20, 200, 399, 349));
+    row("left, in", 4, {120, 0}, borders(120, 200, 399, 349));
+    row("right, out", 8, {500, 0}, borders(100, 200, 500, 349));
+    row("right, in", 8, {380, 0}, borders(100, 200, 380, 349));
+    row("top left", topLeft, {90, 190}, borders(90, 190, 399, 349));
+    row("top right", topRight, {410, 190}, borders(100, 190, 410, 349));
+    row("bottom left", bottomLeft, {90, 360}, borders(90, 200, 399, 360));
+    row("bottom right", bottomRight, {410, 360}, borders(100, 200, 410, 360));
+    row("none", 0, {410, 360}, frame);
 }
 
 void TestWindowEdge::resized_movesTheBordersToThePointer()
@@ -185,52 +171,28 @@ void TestWindowEdge::resized_handlesTopBeforeBottomAndLeftBeforeRight()
              borders(120, 200, 399, 349));
 }
 
-void TestWindowEdge::resized_atTheMaximumOnlyShrinks_data()
+void TestWindowEdge::resized_atALimitOnlyLeavesIt_data()
 {
-    QTest::addColumn<int>("edges");
-    QTest::addColumn<QPoint>("outwards");
-    QTest::addColumn<QPoint>("inwards");
-    QTest::addColumn<QRect>("smaller");
-
-    QTest::newRow("top") << 1 << QPoint(0, 199) << QPoint(0, 201) << borders(100, 201, 399, 349);
-    QTest::newRow("bottom") << 2 << QPoint(0, 350) << QPoint(0, 348) << borders(100, 200, 399, 348);
-    QTest::newRow("left") << 4 << QPoint(99, 0) << QPoint(101, 0) << borders(101, 200, 399, 349);
-    QTest::newRow("right") << 8 << QPoint(400, 0) << QPoint(398, 0) << borders(100, 200, 398, 349);
+    const Table<int, QPoint, QPoint, QRect, QRect> row("edges", "outwards", "inwards", "larger",
+                                                       "smaller");
+    row("top", 1, {0, 199}, {0, 201}, borders(100, 199, 399, 349), borders(100, 201, 399, 349));
+    row("bottom", 2, {0, 350}, {0, 348}, borders(100, 200, 399, 350), borders(100, 200, 399, 348));
+    row("left", 4, {99, 0}, {101, 0}, borders(99, 200, 399, 349), borders(101, 200, 399, 349));
+    row("right", 8, {400, 0}, {398, 0}, borders(100, 200, 400, 349), borders(100, 200, 398, 349));
 }
 
-void TestWindowEdge::resized_atTheMaximumOnlyShrinks()
+void TestWindowEdge::resized_atALimitOnlyLeavesIt()
 {
     QFETCH(int, edges);
     QFETCH(QPoint, outwards);
     QFETCH(QPoint, inwards);
-    const SizeRange range{QSize(0, 0), frame.size()};
+    const SizeRange atTheMaximum{QSize(0, 0), frame.size()};
+    const SizeRange atTheMinimum{frame.size(), QSize(5000, 5000)};
 
-    QCOMPARE(resized(frame, edges, outwards, range, noLimit), frame);
-    QTEST(resized(frame, edges, inwards, range, noLimit), "smaller");
-}
-
-void TestWindowEdge::resized_atTheMinimumOnlyGrows_data()
-{
-    QTest::addColumn<int>("edges");
-    QTest::addColumn<QPoint>("inwards");
-    QTest::addColumn<QPoint>("outwards");
-    QTest::addColumn<QRect>("larger");
-
-    QTest::newRow("top") << 1 << QPoint(0, 201) << QPoint(0, 199) << borders(100, 199, 399, 349);
-    QTest::newRow("bottom") << 2 << QPoint(0, 348) << QPoint(0, 350) << borders(100, 200, 399, 350);
-    QTest::newRow("left") << 4 << QPoint(101, 0) << QPoint(99, 0) << borders(99, 200, 399, 349);
-    QTest::newRow("right") << 8 << QPoint(398, 0) << QPoint(400, 0) << borders(100, 200, 400, 349);
-}
-
-void TestWindowEdge::resized_atTheMinimumOnlyGrows()
-{
-    QFETCH(int, edges);
-    QFETCH(QPoint, inwards);
-    QFETCH(QPoint, outwards);
-    const SizeRange range{frame.size(), QSize(5000, 5000)};
-
-    QCOMPARE(resized(frame, edges, inwards, range, noLimit), frame);
-    QTEST(resized(frame, edges, outwards, range, noLimit), "larger");
+    QCOMPARE(resized(frame, edges, outwards, atTheMaximum, noLimit), frame);
+    QTEST(resized(frame, edges, inwards, atTheMaximum, noLimit), "smaller");
+    QCOMPARE(resized(frame, edges, inwards, atTheMinimum, noLimit), frame);
+    QTEST(resized(frame, edges, outwards, atTheMinimum, noLimit), "larger");
 }
 
 void TestWindowEdge::resized_looksAtEachAxisForItself()
@@ -254,15 +216,13 @@ void TestWindowEdge::resized_betweenTheLimitsReachesThePointer()
 
 void TestWindowEdge::resized_ignoresAFrameTurnedInsideOut_data()
 {
-    QTest::addColumn<int>("edges");
-    QTest::addColumn<QPoint>("pointer");
-
-    QTest::newRow("top below bottom") << 1 << QPoint(0, 350);
-    QTest::newRow("bottom above top") << 2 << QPoint(0, 199);
-    QTest::newRow("left beyond right") << 4 << QPoint(400, 0);
-    QTest::newRow("right beyond left") << 8 << QPoint(99, 0);
-    QTest::newRow("one axis of two") << topLeft << QPoint(400, 220);
-    QTest::newRow("the other axis of two") << bottomRight << QPoint(420, 150);
+    const Table<int, QPoint> row("edges", "pointer");
+    row("top below bottom", 1, {0, 350});
+    row("bottom above top", 2, {0, 199});
+    row("left beyond right", 4, {400, 0});
+    row("right beyond left", 8, {99, 0});
+    row("one axis of two", topLeft, {400, 220});
+    row("the other axis of two", bottomRight, {420, 150});
 }
 
 void TestWindowEdge::resized_ignoresAFrameTurnedInsideOut()
@@ -282,26 +242,17 @@ void TestWindowEdge::resized_mayShrinkToOnePixel()
 
 void TestWindowEdge::resized_stopsAtTheLimit_data()
 {
-    QTest::addColumn<int>("edges");
-    QTest::addColumn<QPoint>("pointer");
-    QTest::addColumn<QSize>("limit");
-    QTest::addColumn<QRect>("result");
-
-    QTest::newRow("right") << 8 << QPoint(900, 0) << QSize(400, 400) << borders(100, 200, 500, 349);
+    const Table<int, QPoint, QSize, QRect> row("edges", "pointer", "limit", "result");
+    row("right", 8, {900, 0}, {400, 400}, borders(100, 200, 500, 349));
     for (const int beyond : {0, 1, 2})
         QTest::addRow("right, %d beyond", beyond)
             << 8 << QPoint(500 + beyond, 0) << QSize(400, 400) << borders(100, 200, 500, 349);
-    QTest::newRow("right, one below")
-        << 8 << QPoint(499, 0) << QSize(400, 400) << borders(100, 200, 499, 349);
-    QTest::newRow("bottom") << 2 << QPoint(0, 900) << QSize(400, 400)
-                            << borders(100, 200, 399, 600);
+    row("right, one below", 8, {499, 0}, {400, 400}, borders(100, 200, 499, 349));
+    row("bottom", 2, {0, 900}, {400, 400}, borders(100, 200, 399, 600));
     // The cut is at the right and the bottom, whichever border was dragged.
-    QTest::newRow("left") << 4 << QPoint(-500, 0) << QSize(400, 400)
-                          << borders(-500, 200, -100, 349);
-    QTest::newRow("top") << 1 << QPoint(0, -500) << QSize(400, 400)
-                         << borders(100, -500, 399, -100);
-    QTest::newRow("the axis that was not dragged")
-        << 8 << QPoint(390, 0) << QSize(400, 100) << borders(100, 200, 390, 300);
+    row("left", 4, {-500, 0}, {400, 400}, borders(-500, 200, -100, 349));
+    row("top", 1, {0, -500}, {400, 400}, borders(100, -500, 399, -100));
+    row("the axis that was not dragged", 8, {390, 0}, {400, 100}, borders(100, 200, 390, 300));
 }
 
 void TestWindowEdge::resized_stopsAtTheLimit()

@@ -1,16 +1,13 @@
 #pragma once
 
 #include "drawctrlform.h"
+#include "panelrig.h"
 
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
-#include <QSlider>
-#include <QSpinBox>
 #include <QStringList>
-
-#include <memory>
 
 // The sums over all screens that the panel's ranges come from.
 inline QSize desktopSums()
@@ -45,30 +42,25 @@ public:
     int changes = 0;
 };
 
-// A placement panel with a plain widget for its test window, which stands anywhere
-// but where the panel would put it.
-class PlacementPanel
+// The placement panel with its controls at hand.
+class PlacementRig : public PanelRig<DrawCtrlForm>
 {
 public:
-    explicit PlacementPanel(QSettings *settings = nullptr)
-    {
-        target.setGeometry(77, 66, 55, 44);
-        form = std::make_unique<DrawCtrlForm>(&target, settings, nullptr);
-    }
+    using PanelRig::PanelRig;
 
     QSlider *slider(const QString &axis) const
     {
-        return form->findChild<QSlider *>(QStringLiteral("hScrollBar") + axis);
+        return panel->findChild<QSlider *>(QStringLiteral("hScrollBar") + axis);
     }
     QSpinBox *spinBox(const QString &axis) const
     {
-        return form->findChild<QSpinBox *>(QStringLiteral("spinBox") + axis);
+        return panel->findChild<QSpinBox *>(QStringLiteral("spinBox") + axis);
     }
 
-    QSlider *x() const { return slider(QStringLiteral("X")); }
-    QSlider *y() const { return slider(QStringLiteral("Y")); }
-    QSlider *width() const { return slider(QStringLiteral("Width")); }
-    QSlider *height() const { return slider(QStringLiteral("Height")); }
+    QSlider *x() const { return child<QSlider>("hScrollBarX"); }
+    QSlider *y() const { return child<QSlider>("hScrollBarY"); }
+    QSlider *width() const { return child<QSlider>("hScrollBarWidth"); }
+    QSlider *height() const { return child<QSlider>("hScrollBarHeight"); }
 
     // The rectangle that the sliders show.
     QRect controls() const
@@ -77,20 +69,19 @@ public:
     }
 
     // The buttons have one object name for the two of them; they stand side by side.
-    QPushButton *showButton() const { return button(378); }
-    QPushButton *hideButton() const { return button(474); }
-
-    QWidget target{nullptr, Qt::FramelessWindowHint};
-    std::unique_ptr<DrawCtrlForm> form;
-
-private:
-    QPushButton *button(int left) const
+    QPushButton *showButton() const
     {
-        const auto buttons = form->findChildren<QPushButton *>();
-        for (QPushButton *candidate : buttons) {
-            if (candidate->x() == left)
-                return candidate;
-        }
-        return nullptr;
+        return qobject_cast<QPushButton *>(panel->childAt(380, 160));
+    }
+    QPushButton *hideButton() const
+    {
+        return qobject_cast<QPushButton *>(panel->childAt(480, 160));
+    }
+    // Whether one of them alone can be pressed: that which hides.
+    bool isHideable() const
+    {
+        if (showButton()->isEnabled() == hideButton()->isEnabled())
+            qFatal("the buttons do not exclude each other");
+        return hideButton()->isEnabled();
     }
 };
