@@ -1,10 +1,5 @@
 #include "gridrig.h"
 
-#include "savesoon.h"
-
-#include <QFile>
-#include <QtTest>
-
 namespace {
 
 struct FamilyControl
@@ -23,51 +18,6 @@ constexpr FamilyControl families[] = {
 
 } // namespace
 
-GridRig::GridRig(const QVariantMap &values)
-    : settings(values)
-{
-    build();
-}
-
-GridRig::GridRig(const QByteArray &contents)
-{
-    QFile file(settings.path());
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("cannot write the settings file");
-    file.close();
-    settings->sync();
-    build();
-}
-
-void GridRig::build()
-{
-    panel = std::make_unique<ScrGridCtrlDialog>(&canvas, settings.get(), nullptr);
-    drawer = static_cast<GridDrawer *>(panel->getDrawer());
-    canvas.setDrawer(drawer);
-}
-
-void GridRig::close()
-{
-    canvas.setDrawer(nullptr);
-    panel.reset();
-    settings->sync();
-}
-
-void GridRig::restart()
-{
-    close();
-    settings.reopen();
-    build();
-}
-
-QAbstractButton *GridRig::colorButton(int index) const
-{
-    static const char *const names[] = {"radioButtonRed",   "radioButtonGreen",  "radioButtonBlue",
-                                        "radioButtonWhite", "radioButtonYellow", "radioButtonCyan",
-                                        "radioButtonPurple"};
-    return child<QAbstractButton>(names[index]);
-}
-
 QPushButton *GridRig::familyButton(char letter) const
 {
     for (const FamilyControl &each : families) {
@@ -84,12 +34,6 @@ QPushButton *GridRig::beginButton(int index) const
     if (buttons.size() != 2)
         qFatal("there are not two buttons of this name");
     return buttons.at(index);
-}
-
-void GridRig::click(QAbstractButton *button) const
-{
-    // At the left, where a check box has its indicator.
-    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button->height() / 2));
 }
 
 void GridRig::clickFamilies(const char *letters) const
@@ -165,20 +109,8 @@ QString GridRig::nextShown(int count)
     return all.join(QLatin1Char(' '));
 }
 
-bool GridRig::isSaveDue() const
-{
-    return panel->findChild<SaveSoon *>()->isDue();
-}
-
 QVariant GridRig::saved(const QString &key) const
 {
     panel->saveWhileRunning();
     return settings->value(QStringLiteral("/setting/") + key);
-}
-
-QByteArray GridRig::fileBytes()
-{
-    settings->sync();
-    QFile file(settings.path());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

@@ -1,40 +1,34 @@
 #pragma once
 
 #include "gridcanvas.h"
+#include "panelrig.h"
 #include "scrgridctrldialog.h"
-#include "testsettings.h"
 
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QPushButton>
-#include <QSlider>
-#include <QSpinBox>
 #include <QTimer>
 
-#include <memory>
-
-// The grid panel over a canvas and a settings file of its own, with its controls at hand. As in
-// the program, its drawer has been taken once.
-class GridRig
+// The grid panel with its controls at hand. As in the program, its drawer has been taken.
+class GridRig : public PanelRig<ScrGridCtrlDialog>
 {
 public:
-    // The settings file holds these values, or exactly these bytes, before the panel is built.
-    explicit GridRig(const QVariantMap &values = {});
-    explicit GridRig(const QByteArray &contents);
-
-    // Closes the panel, and what it leaves is in the file.
-    void close();
-    // Builds the panel again, as after a restart of the program.
-    void restart();
-
-    template<typename Widget>
-    Widget *child(const char *name) const
+    explicit GridRig(const QVariantMap &values = {})
+        : PanelRig(values, QSize(41, 41))
     {
-        return panel->findChild<Widget *>(QLatin1String(name));
+        takeDrawer();
+    }
+    explicit GridRig(const QByteArray &contents)
+        : PanelRig(contents, QSize(41, 41))
+    {
+        takeDrawer();
     }
 
-    // Red, green, blue, white, yellow, cyan, purple.
-    QAbstractButton *colorButton(int index) const;
+    void restart() override
+    {
+        PanelRig::restart();
+        takeDrawer();
+    }
+
     // The button of a family's letter, as in Picture.
     QPushButton *familyButton(char letter) const;
     QSlider *greySlider() const { return child<QSlider>("hScrollBarGrayLevel"); }
@@ -51,7 +45,6 @@ public:
     QWidget *greenLamp() const { return child<QWidget>("signalGreenButton"); }
     QWidget *greyLamp() const { return child<QWidget>("signalGreyButton"); }
 
-    void click(QAbstractButton *button) const;
     // Each family's button, in the order of the letters.
     void clickFamilies(const char *letters) const;
 
@@ -73,17 +66,12 @@ public:
     QString nextShown();
     QString nextShown(int count);
 
-    bool isSaveDue() const;
     // As the panel would save it now.
     QVariant saved(const QString &key) const;
-    QByteArray fileBytes();
 
-    mutable TestSettings settings;
-    Canvas canvas{QSize(41, 41)};
-    std::unique_ptr<ScrGridCtrlDialog> panel;
     GridDrawer *drawer = nullptr;
 
 private:
-    void build();
+    void takeDrawer() { drawer = static_cast<GridDrawer *>(panel->getDrawer()); }
     QPushButton *beginButton(int index) const;
 };

@@ -1,4 +1,5 @@
 #include "gridcanvas.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -171,40 +172,51 @@ void TestGridDrawer::newDrawer_hasTheInitialValues()
 
 void TestGridDrawer::operations_activateAndRepaint_data()
 {
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<bool>("activates");
-    QTest::addColumn<bool>("repaints");
     using Drawer = GridDrawer;
-    const std::tuple<const char *, Operation, bool, bool> rows[] = {
-        {"slot_colorChanged", [](Drawer &d) { d.slot_colorChanged(Qt::cyan); }, false, true},
-        {"slot_changeGrayScale", [](Drawer &d) { d.slot_changeGrayScale(9); }, true, true},
-        {"slot_horiToggled", [](Drawer &d) { d.slot_horiToggled(true); }, false, true},
-        {"slot_vertLineToggled", [](Drawer &d) { d.slot_vertLineToggled(true); }, false, true},
-        {"slot_slantLeftToggled", [](Drawer &d) { d.slot_slantLeftToggled(true); }, false, true},
-        {"slot_slantRightToggled", [](Drawer &d) { d.slot_slantRightToggled(true); }, false, true},
-        {"setHoriLinesEnabled", [](Drawer &d) { d.setHoriLinesEnabled(true); }, false, false},
-        {"setVertLinesEnabled", [](Drawer &d) { d.setVertLinesEnabled(true); }, false, false},
-        {"setSlantLeftLinesEnabled", [](Drawer &d) { d.setSlantLeftLinesEnabled(true); }, false,
-         false},
-        {"setSlantRightLinesEnabled", [](Drawer &d) { d.setSlantRightLinesEnabled(true); }, false,
-         false},
-        {"disableAll", [](Drawer &d) { d.disableAll(); }, false, false},
-        {"slot_changeBgColor", [](Drawer &d) { d.slot_changeBgColor(Qt::cyan); }, true, true},
-        {"slot_setBgColor", [](Drawer &d) { d.slot_setBgColor(Qt::cyan); }, false, false},
-        {"slot_changePix", [](Drawer &d) { d.slot_changePix(4); }, true, true},
-        {"slot_changeDistance", [](Drawer &d) { d.slot_changeDistance(4); }, true, true},
-        {"scrollLines", [](Drawer &d) { d.scrollLines(); }, true, true},
-        {"slot_ScrollLines", [](Drawer &d) { d.slot_ScrollLines(); }, false, true},
-        {"mergedTest", [](Drawer &d) { d.mergedTest(); }, true, true},
-    };
-    for (const auto &[name, operation, activates, repaints] : rows)
-        QTest::newRow(name) << operation << activates << repaints;
+    const Table<Operation, bool, bool> row("operation", "activates", "repaints");
+    row(
+        "slot_colorChanged", [](Drawer &d) { d.slot_colorChanged(Qt::cyan); }, false, true);
+    row(
+        "slot_changeGrayScale", [](Drawer &d) { d.slot_changeGrayScale(9); }, true, true);
+    row(
+        "slot_horiToggled", [](Drawer &d) { d.slot_horiToggled(true); }, false, true);
+    row(
+        "slot_vertLineToggled", [](Drawer &d) { d.slot_vertLineToggled(true); }, false, true);
+    row(
+        "slot_slantLeftToggled", [](Drawer &d) { d.slot_slantLeftToggled(true); }, false, true);
+    row(
+        "slot_slantRightToggled", [](Drawer &d) { d.slot_slantRightToggled(true); }, false, true);
+    row(
+        "setHoriLinesEnabled", [](Drawer &d) { d.setHoriLinesEnabled(true); }, false, false);
+    row(
+        "setVertLinesEnabled", [](Drawer &d) { d.setVertLinesEnabled(true); }, false, false);
+    row(
+        "setSlantLeftLinesEnabled", [](Drawer &d) { d.setSlantLeftLinesEnabled(true); }, false,
+        false);
+    row(
+        "setSlantRightLinesEnabled", [](Drawer &d) { d.setSlantRightLinesEnabled(true); }, false,
+        false);
+    row(
+        "disableAll", [](Drawer &d) { d.disableAll(); }, false, false);
+    row(
+        "slot_changeBgColor", [](Drawer &d) { d.slot_changeBgColor(Qt::cyan); }, true, true);
+    row(
+        "slot_setBgColor", [](Drawer &d) { d.slot_setBgColor(Qt::cyan); }, false, false);
+    row(
+        "slot_changePix", [](Drawer &d) { d.slot_changePix(4); }, true, true);
+    row(
+        "slot_changeDistance", [](Drawer &d) { d.slot_changeDistance(4); }, true, true);
+    row(
+        "scrollLines", [](Drawer &d) { d.scrollLines(); }, true, true);
+    row(
+        "slot_ScrollLines", [](Drawer &d) { d.slot_ScrollLines(); }, false, true);
+    row(
+        "mergedTest", [](Drawer &d) { d.mergedTest(); }, true, true);
 }
 
 void TestGridDrawer::operations_activateAndRepaint()
 {
     QFETCH(const Operation, operation);
-    QFETCH(const bool, activates);
     QFETCH(const bool, repaints);
     GridCanvas grid;
     grid.canvas.show();
@@ -218,7 +230,7 @@ void TestGridDrawer::operations_activateAndRepaint()
     const int witnessBefore = witness.paintCount();
 
     operation(grid.drawer);
-    QCOMPARE(grid.drawer.active, activates);
+    QTEST(grid.drawer.active, "activates");
     QCOMPARE(grid.canvas.paintCount(), before);
     witness.update();
     QTRY_VERIFY(witness.paintCount() > witnessBefore);

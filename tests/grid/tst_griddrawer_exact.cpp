@@ -1,5 +1,6 @@
 #include "drawcontainer.h"
 #include "exactgrid.h"
+#include "rows.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -153,14 +154,13 @@ void TestGridDrawerExact::screenSizes_matchLineByLine()
 
 void TestGridDrawerExact::otherScreens_matchLineByLine_data()
 {
-    QTest::addColumn<int>("format");
-    QTest::addColumn<qreal>("scale");
-    QTest::newRow("twofold") << int(QImage::Format_RGB32) << qreal(2);
-    QTest::newRow("threefold") << int(QImage::Format_RGB32) << qreal(3);
-    QTest::newRow("one and a half") << int(QImage::Format_RGB32) << qreal(1.5);
-    QTest::newRow("alpha") << int(QImage::Format_ARGB32) << qreal(1);
-    QTest::newRow("multiplied") << int(QImage::Format_ARGB32_Premultiplied) << qreal(1);
-    QTest::newRow("three bytes") << int(QImage::Format_RGB888) << qreal(1);
+    const Table<int, qreal> row("format", "scale");
+    row("twofold", int(QImage::Format_RGB32), qreal(2));
+    row("threefold", int(QImage::Format_RGB32), qreal(3));
+    row("one and a half", int(QImage::Format_RGB32), qreal(1.5));
+    row("alpha", int(QImage::Format_ARGB32), qreal(1));
+    row("multiplied", int(QImage::Format_ARGB32_Premultiplied), qreal(1));
+    row("three bytes", int(QImage::Format_RGB888), qreal(1));
 }
 
 void TestGridDrawerExact::otherScreens_matchLineByLine()

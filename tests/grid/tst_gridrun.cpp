@@ -2,6 +2,7 @@
 #include "gridcanvas.h"
 #include "gridrun.h"
 #include "mixselection.h"
+#include "rows.h"
 
 #include <QtTest>
 
@@ -216,11 +217,7 @@ void TestGridRun::agingTest_showsRedGreenBlueWhiteAndRedAgain()
 
 void TestGridRun::mergedTest_showsTheSelectedColoursThenTheSelectedFamilies_data()
 {
-    QTest::addColumn<QString>("selected");
-    QTest::addColumn<QString>("expected"); // one cycle
-    const auto row = [](const char *name, const char *selected, const char *expected) {
-        QTest::newRow(name) << QString::fromLatin1(selected) << QString::fromLatin1(expected);
-    };
+    const Table<const char *, const char *> row("selected", "expected"); // one cycle
     row("red, blue, horizontal and slant right", "Red Blue H SR", "#ff0000 #0000ff H R");
     row("a colour", "Cyan", "#00ffff");
     row("a family", "SL", "L");

@@ -86,7 +86,6 @@ void TestMixSelection::storedSelection_ofWrongValuesIsStillASelection()
                            {QStringLiteral("checkBoxBlue"), 7},
                            {QStringLiteral("checkBoxH"), QByteArray("\0\1", 2)},
                            {QStringLiteral("checkBoxV"), QRect(1, 2, 3, 4)}});
-    settings.reopen();
     const MixSelection selection = MixSelection::stored(settings.get());
     QVERIFY(selection.contains(MixSelection::Red));
     QVERIFY(selection.contains(MixSelection::Green));

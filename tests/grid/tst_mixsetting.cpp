@@ -1,6 +1,7 @@
 #include "colordialog.h"
 #include "framelessmessagebox.h"
 #include "mixrig.h"
+#include "rows.h"
 
 #include <QLabel>
 
@@ -236,12 +237,10 @@ void TestMixSetting::spinBoxes_startWithTheDrawersValuesUpTo99()
 
 void TestMixSetting::pickedColour_isTheBackgroundAndTheOldColour_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QRgb>("shown");
-    QTest::addColumn<QString>("style");
-    QTest::newRow("a colour") << QColor(1, 2, 0xab) << qRgb(1, 2, 0xab) << "background:#0102ab";
+    const Table<QColor, QRgb, const char *> row("color", "shown", "style");
+    row("a colour", {1, 2, 0xab}, qRgb(1, 2, 0xab), "background:#0102ab");
     // A cancelled dialog's, and what the painter makes of it.
-    QTest::newRow("none") << QColor() << qRgb(0, 0, 0) << "background:#000000";
+    row("none", QColor(), qRgb(0, 0, 0), "background:#000000");
 }
 
 void TestMixSetting::pickedColour_isTheBackgroundAndTheOldColour()

@@ -1,21 +1,10 @@
 #include "gridrig.h"
+#include "paneltest.h"
+#include "rows.h"
 
 #include <QtTest>
 
 namespace {
-
-// A file with every key, written as nobody but this test writes it, so that a rewrite
-// of the same values shows.
-QByteArray handWritten()
-{
-    return QByteArray("; by hand\n[setting]\ngridSpeed = 20\ngridGreyLevel = 100\n\n")
-           + "gridNetChecked = false\ngridHorizontalChecked = false\ngridVerticalChecked = true\n"
-             "gridSlantLeftChecked = false\ngridSlantRightChecked = false\n"
-             "gridIsOldTest = false\ngridIsScroll = true\ngridIsMix = false\n"
-             "isHorizontalPress = false\nisVerticalPress = true\nisSlantLeftPress = false\n"
-             "isSlantRightPress = false\npushButtonPauseChecked = true\n"
-             "testWindowBaseColor = #00ff00\n";
-}
 
 QByteArray iniLines(const QList<QByteArray> &keys, const QByteArray &value)
 {
@@ -25,48 +14,107 @@ QByteArray iniLines(const QList<QByteArray> &keys, const QByteArray &value)
     return lines;
 }
 
-// Values that are not what any key holds.
-const char *const wrongValues[] = {"",
-                                   "grey",
-                                   "12px",
-                                   "1, 2, 3",
-                                   "99999999999999999999999",
-                                   "@ByteArray(\\0\\x1\\xff\\0)",
-                                   "@Invalid()",
-                                   "@Rect(9 9 9 9)",
-                                   "@Variant(\\0\\0\\0\\x7f)"};
-
 } // namespace
 
 // What the panel takes from the settings file, what it writes there, and when.
-class TestScrGridCtrlDialogSettings : public QObject
+class TestScrGridCtrlDialogSettings : public PanelTest<GridRig>
 {
     Q_OBJECT
 
+protected:
+    std::unique_ptr<AnyPanelRig> start(const QByteArray &contents) const override;
+    QVariantMap defaults() const override;
+    QByteArray stored() const override;
+    QList<QByteArray> alsoStored() const override;
+    QString texts() const override;
+    void addEdits() const override;
+
 private slots:
-    void emptyFile_givesTheDefaultsAndStaysMissingUntilTheEnd();
+    void emptyFile_givesTheDefaults();
     void greyAndSpeed_areRestored_data();
     void greyAndSpeed_areRestored();
-    void wrongValues_doNoHarm_data();
+    void wrongValues_doNoHarm_data() { addWrongValues(); }
     void wrongValues_doNoHarm();
     void flags_areRestored();
     void colour_isThatOfTheGradientTest();
     void test_isResumed();
     void pausedTest_staysPaused();
 
-    void restoring_writesNothing_data();
-    void restoring_writesNothing();
     void runAtFullSpeed_writesNothing();
-    void operatorChange_isSavedSoon_data();
-    void operatorChange_isSavedSoon();
-    void changeThatIsDue_isInTheFileOnceItIsSaved();
     void save_writesItsKeys();
     void pause_isSavedAsTheButtonShowsIt();
     void pause_ofADisabledRunningButtonIsSavedAsBefore();
     void roundTrip_keepsEverything();
 };
 
-void TestScrGridCtrlDialogSettings::emptyFile_givesTheDefaultsAndStaysMissingUntilTheEnd()
+// The operator has made use of the panel, which goes on with its run.
+std::unique_ptr<AnyPanelRig> TestScrGridCtrlDialogSettings::start(const QByteArray &contents) const
+{
+    auto rig = std::make_unique<GridRig>(contents);
+    rig->panel->enableAdvanceSettings();
+    rig->panel->lineIndex = 0;
+    rig->tick();
+    rig->emitted();
+    return rig;
+}
+
+QVariantMap TestScrGridCtrlDialogSettings::defaults() const
+{
+    QVariantMap values{{QStringLiteral("gridGreyLevel"), 255}, {QStringLiteral("gridSpeed"), 50}};
+    for (const char *key : {"gridHorizontalChecked", "gridVerticalChecked", "gridSlantLeftChecked",
+                            "gridSlantRightChecked", "isHorizontalPress", "isVerticalPress",
+                            "isSlantLeftPress", "isSlantRightPress", "gridNetChecked",
+                            "gridIsOldTest", "gridIsMix", "pushButtonPauseChecked"})
+        values[QString::fromLatin1(key)] = false;
+    values[QStringLiteral("gridIsScroll")] = true;
+    return values;
+}
+
+QByteArray TestScrGridCtrlDialogSettings::stored() const
+{
+    return "gridSpeed = 20\ngridGreyLevel = 100\n"
+           "gridNetChecked = false\ngridHorizontalChecked = false\ngridVerticalChecked = true\n"
+           "gridSlantLeftChecked = false\ngridSlantRightChecked = false\n"
+           "gridIsOldTest = false\ngridIsScroll = true\ngridIsMix = false\n"
+           "isHorizontalPress = false\nisVerticalPress = true\nisSlantLeftPress = false\n"
+           "isSlantRightPress = false\npushButtonPauseChecked = true\n"
+           "testWindowBaseColor = #00ff00\n";
+}
+
+QList<QByteArray> TestScrGridCtrlDialogSettings::alsoStored() const
+{
+    return {"gradualChangeColor = #0000ff\n",
+            "gridSpeed = 100000\ngridGreyLevel = -5\ngridIsScroll = maybe\n",
+            "gridIsOldTest = true\ngridIsScroll = true\ngridSpeed = 100\n"};
+}
+
+QString TestScrGridCtrlDialogSettings::texts() const
+{
+    return QStringLiteral("红|绿|蓝|白|黄|青|紫|横|竖|右斜|左斜|网格叠加|混测|老化|速度|速度|速度|"
+                          "灰度|灰度|灰度|运行指示灯|运行指示灯|开始|高级设置");
+}
+
+void TestScrGridCtrlDialogSettings::addEdits() const
+{
+    const char *const grey = "gridGreyLevel";
+    edit("grey slider", "", "hScrollBarGrayLevel", 7, "signal_greyChanged(7)", grey, "7");
+    edit("grey spin box", "", "labelGrayLevel", 9, "signal_greyChanged(9)", grey, "9");
+    edit("Up", "", "slot_keyUpPressed", {}, "signal_greyChanged(101)", grey, "101");
+    edit("speed slider", "", "hScrollBarSpeed", 9, "", "gridSpeed", "9");
+    edit("speed spin box", "", "labelSpeed", 8, "", "gridSpeed", "8");
+    edit("overlay", "", "netGridCheckBox", {}, "", "gridNetChecked", "true");
+    edit("family", "", "radioButtonSlantLeft", {}, "", "gridSlantLeftChecked", "true");
+    edit("pressed family", "", "radioButtonSlantRight", {}, "", "isSlantRightPress", "true");
+    edit("aging", "", "pushButtonOld", {}, "", "gridIsOldTest", "true");
+    edit("merged", "", "pushButtonMerged", {}, "", "gridIsMix", "true");
+    edit("pause", "", "beginPushBtn", {}, "", "gridIsScroll", "false");
+    edit("colour", "", "radioButtonBlue", {},
+         "signal_colorChanged(#0000ff) signal_colorChanged(#0000ff)", "testWindowBaseColor",
+         "#0000ff");
+    edit("page key", "", "slot_changeColorByPageDown", {}, "", "gridHorizontalChecked", "true");
+}
+
+void TestScrGridCtrlDialogSettings::emptyFile_givesTheDefaults()
 {
     GridRig rig;
     QCOMPARE(rig.greySpinBox()->value(), 255);
@@ -76,29 +124,22 @@ void TestScrGridCtrlDialogSettings::emptyFile_givesTheDefaultsAndStaysMissingUnt
     QVERIFY(!rig.panel->pushButtonPauseChecked);
     QCOMPARE(rig.panel->colorIndex, qint16(0));
     QCOMPARE(rig.panel->lineIndex, qint16(0));
-    QVERIFY(!rig.isSaveDue());
-    QCOMPARE(rig.fileBytes(), QByteArray());
 
+    rig.greySlider()->setValue(0); // which is saved, though it is read as the default
     rig.close();
-    const QVariantMap stored = rig.settings.stored();
-    QCOMPARE(stored.size(), 15);
-    QCOMPARE(stored.value(QStringLiteral("gridGreyLevel")).toInt(), 255);
-    QCOMPARE(stored.value(QStringLiteral("gridSpeed")).toInt(), 50);
-    QCOMPARE(stored.value(QStringLiteral("gridNetChecked")).toString(), QStringLiteral("false"));
+    QCOMPARE(rig.settings.stored().size(), 15);
+    QCOMPARE(rig.settings.stored().value(QStringLiteral("gridGreyLevel")).toString(),
+             QStringLiteral("0"));
 }
 
 void TestScrGridCtrlDialogSettings::greyAndSpeed_areRestored_data()
 {
-    QTest::addColumn<QByteArray>("stored");
-    QTest::addColumn<int>("grey");
-    QTest::addColumn<int>("speed");
-    QTest::newRow("the smallest") << QByteArray("1") << 1 << 1;
-    QTest::newRow("100") << QByteArray("100") << 100 << 100;
-    QTest::newRow("0 means the default") << QByteArray("0") << 255 << 50;
-    QTest::newRow("-5 means the default") << QByteArray("-5") << 255 << 50;
-    QTest::newRow("too much") << QByteArray("100000") << 255 << 100;
-    for (const char *value : wrongValues)
-        QTest::newRow(value) << QByteArray(value) << 255 << 50;
+    const Table<QByteArray, int, int> row("stored", "grey", "speed");
+    row("the smallest", "1", 1, 1);
+    row("100", "100", 100, 100);
+    row("0 means the default", "0", 255, 50);
+    row("-5 means the default", "-5", 255, 50);
+    row("too much", "100000", 255, 100);
 }
 
 void TestScrGridCtrlDialogSettings::greyAndSpeed_areRestored()
@@ -114,13 +155,6 @@ void TestScrGridCtrlDialogSettings::greyAndSpeed_areRestored()
     QCOMPARE(rig.timer()->interval(), (102 - speed) * 7);
     rig.clickFamilies("H");
     QCOMPARE(rig.shown().line, qRgb(grey, 0, 0));
-}
-
-void TestScrGridCtrlDialogSettings::wrongValues_doNoHarm_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    for (const char *value : wrongValues)
-        QTest::newRow(value) << QByteArray(value);
 }
 
 void TestScrGridCtrlDialogSettings::wrongValues_doNoHarm()
@@ -167,13 +201,11 @@ void TestScrGridCtrlDialogSettings::flags_areRestored()
 
 void TestScrGridCtrlDialogSettings::colour_isThatOfTheGradientTest()
 {
-    const std::tuple<QColor, int, int> colors[] = {
-        {Qt::red, 0, 0},    {Qt::green, 1, 1}, {Qt::blue, 2, 2},   {Qt::white, 3, 3},
-        {Qt::yellow, 4, 0}, {Qt::cyan, 5, 0},  {Qt::magenta, 6, 0}};
-    for (const auto &[color, button, index] : colors) {
+    for (int index = 0; index < colorCount; ++index) {
+        const QColor color(colors[index]);
         GridRig rig({{QStringLiteral("gradualChangeColor"), color}});
-        QVERIFY(rig.colorButton(button)->isChecked());
-        QCOMPARE(int(rig.panel->colorIndex), index);
+        QCOMPARE(rig.checkedColor(), index);
+        QCOMPARE(int(rig.panel->colorIndex), index < 4 ? index : 0);
         rig.clickFamilies("V");
         QCOMPARE(rig.shown().line, color.rgba());
     }
@@ -218,95 +250,17 @@ void TestScrGridCtrlDialogSettings::pausedTest_staysPaused()
     QVERIFY(!rig.drawer->active);
 }
 
-void TestScrGridCtrlDialogSettings::restoring_writesNothing_data()
-{
-    QTest::addColumn<QByteArray>("contents");
-    QTest::newRow("every key") << handWritten();
-    QTest::newRow("a gradient colour") << handWritten() + "gradualChangeColor = #0000ff\n";
-    QTest::newRow("nothing of the panel") << QByteArray("; by hand\n[setting]\nother = 1\n");
-    QTest::newRow("wrong values") << QByteArray("; by hand\n[setting]\ngridSpeed = 100000\n"
-                                                "gridGreyLevel = -5\ngridIsScroll = maybe\n");
-    QTest::newRow("aging") << QByteArray("; by hand\n[setting]\ngridIsOldTest = true\n"
-                                         "gridIsScroll = true\ngridSpeed = 100\n");
-}
-
-void TestScrGridCtrlDialogSettings::restoring_writesNothing()
-{
-    QFETCH(const QByteArray, contents);
-    GridRig rig(contents);
-    QVERIFY(!rig.isSaveDue());
-    QCOMPARE(rig.fileBytes(), contents);
-}
-
 void TestScrGridCtrlDialogSettings::runAtFullSpeed_writesNothing()
 {
-    GridRig rig(handWritten());
+    const QByteArray contents = "; by hand\n[setting]\n" + stored();
+    GridRig rig(contents);
     rig.panel->enableAdvanceSettings();
     rig.panel->slot_keyInsertPressed();
     rig.tick(20);
     QCOMPARE(rig.greySpinBox()->value(), 104);
     QVERIFY(!rig.isSaveDue());
-    QCOMPARE(rig.fileBytes(), handWritten());
-}
-
-void TestScrGridCtrlDialogSettings::operatorChange_isSavedSoon_data()
-{
-    QTest::addColumn<QString>("operation"); // a control with its value, a button or a slot
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *operation, const char *key, const char *expected) {
-        QTest::newRow(operation) << QString::fromLatin1(operation) << QString::fromLatin1(key)
-                                 << QString::fromLatin1(expected);
-    };
-    row("hScrollBarGrayLevel 7", "gridGreyLevel", "7");
-    row("labelGrayLevel 0", "gridGreyLevel", "0");
-    row("slot_keyUpPressed", "gridGreyLevel", "101");
-    row("hScrollBarSpeed 9", "gridSpeed", "9");
-    row("netGridCheckBox", "gridNetChecked", "true");
-    row("radioButtonSlantLeft", "gridSlantLeftChecked", "true");
-    row("radioButtonSlantRight", "isSlantRightPress", "true");
-    row("pushButtonOld", "gridIsOldTest", "true");
-    row("pushButtonMerged", "gridIsMix", "true");
-    row("beginPushBtn", "gridIsScroll", "false");
-    row("radioButtonBlue", "testWindowBaseColor", "#0000ff");
-    row("radioButtonBlue", "pushButtonPauseChecked", "false"); // after a step of the run
-    row("slot_changeColorByPageDown", "gridHorizontalChecked", "true");
-}
-
-void TestScrGridCtrlDialogSettings::operatorChange_isSavedSoon()
-{
-    QFETCH(const QString, operation);
-    QFETCH(const QString, key);
-    QFETCH(const QString, expected);
-    const GridRig rig(handWritten());
-    rig.panel->enableAdvanceSettings();
-    rig.panel->lineIndex = 0;
-    const auto text = [&] {
-        const QVariant value = rig.saved(key);
-        return value.type() == QVariant::Color ? value.value<QColor>().name() : value.toString();
-    };
-    QVERIFY(text() != expected);
-    QVERIFY(!rig.isSaveDue());
-    rig.tick();
-    const QStringList words = operation.split(QLatin1Char(' '));
-    auto *control = rig.panel->findChild<QWidget *>(words.constFirst());
-    if (words.size() == 2)
-        control->setProperty("value", words.constLast());
-    else if (control)
-        rig.click(qobject_cast<QAbstractButton *>(control));
-    else
-        QVERIFY(QMetaObject::invokeMethod(rig.panel.get(), operation.toLatin1()));
-
-    QVERIFY(rig.isSaveDue());
-    QCOMPARE(text(), expected);
-}
-
-void TestScrGridCtrlDialogSettings::changeThatIsDue_isInTheFileOnceItIsSaved()
-{
-    GridRig rig(handWritten());
-    rig.greySlider()->setValue(7);
-    QTRY_VERIFY(!rig.isSaveDue());
-    QVERIFY(rig.fileBytes().contains("gridGreyLevel=7"));
+    rig.settings->sync();
+    QCOMPARE(rig.settings.bytes(), contents);
 }
 
 void TestScrGridCtrlDialogSettings::save_writesItsKeys()
