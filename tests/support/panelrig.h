@@ -105,6 +105,18 @@ public:
         build();
     }
 
+    // Whether its drawer is on the test window, the same each time, and left as it is.
+    bool keepsItsDrawer() const
+    {
+        DrawerBase *drawer = panel->getDrawer();
+        bool keeps = drawer->targetWidget == &canvas;
+        for (const bool active : {true, false}) {
+            drawer->active = active;
+            keeps = keeps && panel->getDrawer() == drawer && drawer->active == active;
+        }
+        return keeps;
+    }
+
     std::unique_ptr<Panel> panel;
 
 private:
