@@ -40,7 +40,7 @@ private slots:
     void test_isResumed();
     void pausedTest_staysPaused();
 
-    void runAtFullSpeed_writesNothing();
+    void runAtFullSpeed_writesNothingUpToTheOperatorsChange();
     void save_writesItsKeys();
     void pause_isSavedAsTheButtonShowsIt();
     void pause_ofADisabledRunningButtonIsSavedAsBefore();
@@ -250,7 +250,7 @@ void TestScrGridCtrlDialogSettings::pausedTest_staysPaused()
     QVERIFY(!rig.drawer->active);
 }
 
-void TestScrGridCtrlDialogSettings::runAtFullSpeed_writesNothing()
+void TestScrGridCtrlDialogSettings::runAtFullSpeed_writesNothingUpToTheOperatorsChange()
 {
     const QByteArray contents = "; by hand\n[setting]\n" + stored();
     GridRig rig(contents);
@@ -261,6 +261,10 @@ void TestScrGridCtrlDialogSettings::runAtFullSpeed_writesNothing()
     QVERIFY(!rig.isSaveDue());
     rig.settings->sync();
     QCOMPARE(rig.settings.bytes(), contents);
+
+    rig.click(rig.colorButton(2));
+    QVERIFY(rig.isSaveDue());
+    QVERIFY(!rig.saved(QStringLiteral("pushButtonPauseChecked")).toBool()); // the run's, as well
 }
 
 void TestScrGridCtrlDialogSettings::save_writesItsKeys()
