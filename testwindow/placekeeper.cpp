@@ -108,10 +108,12 @@ void PlaceKeeper::check()
     if (!isShown(m_window) || m_isNew || m_isPressed || target().isNull())
         return;
     // Some window managers maximise what is as large as the screen.
-    const bool isInPlace = actual() == target() && m_window->geometry() == target()
-                           && m_window->windowState() == state();
-    // Some window managers end a full screen whenever another window gets the keyboard.
-    const bool mayFollow = m_isSettled && (!m_isFull || m_window->isActiveWindow());
+    const bool isOwnState = m_window->windowState() == state();
+    const bool isInPlace = isOwnState && actual() == target() && m_window->geometry() == target();
+    // Some window managers end a full screen whenever another window gets the keyboard, or wipe
+    // the mark of it from a window that is out of their hands.
+    const bool mayFollow =
+        m_isSettled && (!m_isFull || m_window->isActiveWindow()) && (isOwnState || !m_isOut);
     if (!isInPlace && mayFollow && !m_isFull && !m_window->isFullScreen()) {
         emit displaced(actual());
     } else if (!isInPlace && mayFollow) {

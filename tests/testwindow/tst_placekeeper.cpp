@@ -38,6 +38,7 @@ private slots:
     void obedience_isLeftAlone();
     void moveByTheManager_isReportedOnceItHasAnswered();
     void fullScreen_refusedIsAskedForAgain();
+    void fullScreen_ofWindowThatIsOutIsNotForTheManagerToEnd();
     void visibility_isNotTouchedOnTheWayOut();
 
 private:
@@ -163,6 +164,24 @@ void TestPlaceKeeper::fullScreen_refusedIsAskedForAgain()
     m_window->windowHandle()->setWindowState(Qt::WindowNoState);
     moveFromOutside(place);
 
+    m_echo->answerNow();
+
+    QTRY_COMPARE(m_window->geometry(), screen);
+    QVERIFY(m_window->isFullScreen());
+}
+
+void TestPlaceKeeper::fullScreen_ofWindowThatIsOutIsNotForTheManagerToEnd()
+{
+    refusals_thatGoOnTakeTheWindowFromTheManager();
+    m_window->showFullScreen();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    QTRY_COMPARE(m_window->geometry(), screen);
+    m_echo->answerNow();
+
+    m_window->windowHandle()->setWindowState(Qt::WindowNoState);
+    QTRY_VERIFY(!m_window->isFullScreen());
     m_echo->answerNow();
 
     QTRY_COMPARE(m_window->geometry(), screen);
