@@ -8,20 +8,21 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 
-test=tst_e2e_managers
+tests=(tst_e2e_managers tst_e2e_fullscreen)
+managers=(kwin_x11 mutter xfwm4 metacity openbox icewm i3 awesome fluxbox)
 if [ "${1:-}" = --random ]; then
-  test=tst_e2e_random
+  tests=(tst_e2e_random)
   export TARN_RANDOM_OPERATIONS=$2
   export QTEST_FUNCTION_TIMEOUT=$(($2 * 30000)) # milliseconds
   shift 2
 fi
-managers=("$@")
-if [ ${#managers[@]} -eq 0 ]; then
-  managers=(kwin_x11 mutter xfwm4 metacity openbox icewm i3 awesome fluxbox)
+if [ $# -gt 0 ]; then
+  managers=("$@")
+else
   scripts/setup.sh managers
 fi
 configure release >/dev/null
-build build --target "$test"
+build build --target "${tests[@]}"
 ensure_runtime_dir
 
 logs=build/managers
@@ -29,18 +30,20 @@ mkdir -p "$logs"
 failed=0
 for manager in "${managers[@]}"; do
   echo "managers: $manager" >&2
-  LC_ALL=C.UTF-8 TARN_WINDOW_MANAGER=$manager "build/tests/$test" \
-    -o "$logs/$manager.txt,txt" || failed=1
+  for test in "${tests[@]}"; do
+    LC_ALL=C.UTF-8 TARN_WINDOW_MANAGER=$manager "build/tests/$test" \
+      -o "$logs/$manager-$test.txt,txt" || failed=1
+  done
 done
-if [ "$test" = tst_e2e_random ]; then
+if [ "${tests[0]}" = tst_e2e_random ]; then
   for manager in "${managers[@]}"; do
-    printf '%s: %s\n' "$manager" "$(grep -o 'Seed .*' "$logs/$manager.txt")"
+    printf '%s: %s\n' "$manager" "$(grep -o 'Seed .*' "$logs/$manager-tst_e2e_random.txt")"
   done
   exit "$failed"
 fi
 
-# result FILE CHECK
-result() { if grep -q "^PASS *: .*::$2()" "$1"; then echo yes; else echo '**no**'; fi; }
+# result MANAGER CHECK
+result() { if grep -q "^PASS *: .*::$2()" "$logs/$1"-*.txt; then echo yes; else echo '**no**'; fi; }
 
 {
   printf '| |'
@@ -48,10 +51,10 @@ result() { if grep -q "^PASS *: .*::$2()" "$1"; then echo yes; else echo '**no**
   printf '\n|---|'
   printf '%.0s---|' "${managers[@]}"
   echo
-  build/tests/tst_e2e_managers -functions | tr -d '()' | while read -r check; do
+  for test in "${tests[@]}"; do "build/tests/$test" -functions; done | tr -d '()' | while read -r check; do
     printf '| %s |' "$(sed 's/Programs/Program'"'"'s/; s/_/: /; s/\([A-Z]\)/ \L\1/g' <<<"$check")"
     for manager in "${managers[@]}"; do
-      printf ' %s |' "$(result "$logs/$manager.txt" "$check")"
+      printf ' %s |' "$(result "$manager" "$check")"
     done
     echo
   done

@@ -1,11 +1,10 @@
-#include "endtoendtest.h"
+#include "placementtest.h"
 #include "waiting.h"
 
 #include <QTest>
 
-/// The test window lies where the operator puts it, whatever window manager runs;
-/// the environment variable TARN_WINDOW_MANAGER names it.
-class tst_e2e_managers : public EndToEndTest
+/// The test window lies where the operator puts it, whatever window manager runs.
+class tst_e2e_managers : public PlacementTest
 {
     Q_OBJECT
 
@@ -18,12 +17,6 @@ private slots:
     void shiftArrows_resizeByOnePixel();
     void growingPastTheEdge_keepsThePlace();
     void hidingAndShowing_keepThePlace();
-    void fullScreen_coversTheScreenAndComesBack();
-    void fullScreenOfAWindowBeyondTheEdge_comesBack();
-    void fullScreenEndedByTheManager_isFollowed();
-    void fullScreenEndedWhileHidden_comesBack();
-    void fullScreenHiddenAndShown_comesBack();
-    void fullScreen_liesAboveADock();
     void drag_movesAndResizes();
     void dragBeyondTheEdge_isObeyed();
     void click_onEitherWindowGivesTheKeyboard();
@@ -34,86 +27,17 @@ private slots:
     void movedWhileMinimised_staysWithTheManager();
     void closingTheControlWindow_endsTheProgram();
 
-protected:
-    std::unique_ptr<VirtualDesktop> createDesktop() const override;
-
 private:
-    bool covers(const QRect &place);
-    void pressAndExpect(const char *key, Qt::KeyboardModifier modifier, const QRect &place);
-    void toggleFullScreen() { desktop().keyboard().key("f", Qt::ShiftModifier); }
-    void fullScreenAndBack(const QRect &place);
-    void settle(WindowId window);
-    void settleHidden();
-    void shiftH(bool shown);
     bool hasMenu(WindowInfo *menu);
 };
 
 namespace {
-constexpr QRgb Green = qRgb(0, 255, 0);
-constexpr QRgb DockColour = qRgb(200, 0, 200);
 constexpr QRgb TitleBar = qRgb(34, 33, 38);
-constexpr QRect Inside = QRect(200, 150, 300, 300);
-constexpr QRect BeyondTheLeft = QRect(-50, 40, 300, 300);
-constexpr QRect BeyondTheRight = QRect(1700, 80, 300, 300);
 /// A place without a control, and the grid panel's button for the mix dialog, from the control
 /// window's corner.
 constexpr QPoint BlankPlace = QPoint(60, 225);
 constexpr QPoint MixButton = QPoint(530, 221);
 } // namespace
-
-std::unique_ptr<VirtualDesktop> tst_e2e_managers::createDesktop() const
-{
-    return std::make_unique<VirtualDesktop>(QSize(1920, 1080));
-}
-
-/// Whether the test window comes to cover this area and is still there when manager and program
-/// have handled everything.
-bool tst_e2e_managers::covers(const QRect &place)
-{
-    const auto settle = [this] {
-        return desktop().windows().syncWithWindowManager()
-               && desktop().windows().answersPing(tool().testWindow().id);
-    };
-    if (!testWindowCovers(place))
-        return false;
-    for (int turn = 0; turn < 3; ++turn) {
-        if (!settle())
-            return false;
-    }
-    return testWindowCovers(place) && tool().testWindow().isMapped;
-}
-
-void tst_e2e_managers::pressAndExpect(const char *key, Qt::KeyboardModifier modifier,
-                                      const QRect &place)
-{
-    desktop().keyboard().key(key, modifier);
-    QVERIFY(covers(place));
-}
-
-void tst_e2e_managers::settle(WindowId window)
-{
-    for (int turn = 0; turn < 3; ++turn)
-        QVERIFY(desktop().windows().syncWithWindowManager()
-                && desktop().windows().answersPing(window));
-}
-
-// Hidden, it leaves the keyboard to the control window, once the window manager is through.
-void tst_e2e_managers::settleHidden()
-{
-    const WindowId control = tool().controlWindow().id;
-    settle(control);
-    QVERIFY(waitFor([&] { return desktop().windows().active() == control; }));
-}
-
-void tst_e2e_managers::shiftH(bool shown)
-{
-    if (shown)
-        settleHidden();
-    else
-        settle(tool().testWindow().id);
-    desktop().keyboard().key("h", Qt::ShiftModifier);
-    QVERIFY(waitFor([&] { return tool().testWindow().isMapped == shown; }));
-}
 
 void tst_e2e_managers::firstStart_isAtTheOrigin()
 {
@@ -189,88 +113,6 @@ void tst_e2e_managers::hidingAndShowing_keepThePlace()
         }
         QVERIFY(isStored(place));
     }
-}
-
-void tst_e2e_managers::fullScreenAndBack(const QRect &place)
-{
-    QVERIFY(startToolAt(place));
-    for (int turn = 0; turn < 2; ++turn) {
-        toggleFullScreen();
-        QVERIFY(covers(desktop().screen().rect()));
-        desktop().keyboard().key("Next");
-        toggleFullScreen();
-        QVERIFY(covers(place));
-    }
-    pressAndExpect("Right", Qt::ControlModifier, place.translated(1, 0));
-    QVERIFY(isStored(place.translated(1, 0)));
-}
-
-void tst_e2e_managers::fullScreen_coversTheScreenAndComesBack()
-{
-    fullScreenAndBack(Inside);
-}
-
-void tst_e2e_managers::fullScreenOfAWindowBeyondTheEdge_comesBack()
-{
-    fullScreenAndBack(BeyondTheLeft);
-}
-
-void tst_e2e_managers::fullScreenEndedByTheManager_isFollowed()
-{
-    QVERIFY(startToolAt(Inside));
-    desktop().mouse().click(Inside.center());
-    toggleFullScreen();
-    QVERIFY(covers(desktop().screen().rect()));
-    desktop().windows().endFullScreen(tool().testWindow().id);
-    QVERIFY(covers(Inside));
-    pressAndExpect("Right", Qt::ControlModifier, Inside.translated(1, 0));
-}
-
-void tst_e2e_managers::fullScreenEndedWhileHidden_comesBack()
-{
-    QVERIFY(startToolAt(Inside));
-    toggleFullScreen();
-    QVERIFY(covers(desktop().screen().rect()));
-    shiftH(false);
-    settleHidden();
-    toggleFullScreen();
-    QVERIFY(covers(Inside));
-}
-
-void tst_e2e_managers::fullScreenHiddenAndShown_comesBack()
-{
-    QVERIFY(startToolAt(Inside));
-    toggleFullScreen();
-    QVERIFY(covers(desktop().screen().rect()));
-    shiftH(false);
-    shiftH(true);
-    QVERIFY(covers(desktop().screen().rect()));
-    toggleFullScreen();
-    QVERIFY(covers(Inside));
-}
-
-void tst_e2e_managers::fullScreen_liesAboveADock()
-{
-    const auto dock = desktop().windows().addDock({0, 1040, 1920, 40}, DockColour);
-    QRect dockPlace; // some window managers have an idea of their own
-    QVERIFY(waitFor([&] {
-        dockPlace = desktop().windows().info(dock->id()).geometry & desktop().screen().rect();
-        return desktop().screen().count(dockPlace, DockColour) > 1000;
-    }));
-    QVERIFY(startToolAt(Inside));
-    const WindowId control = tool().controlWindow().id;
-    desktop().keyboard().key("Next");
-    QVERIFY(testWindowTurns(Green));
-
-    toggleFullScreen();
-    QVERIFY(covers(desktop().screen().rect()));
-    QVERIFY(testWindowTurns(Green));
-    // The operator may work with another window meanwhile.
-    desktop().windows().activate(control);
-    QVERIFY(covers(desktop().screen().rect()));
-    QVERIFY(waitFor([&] { return desktop().screen().isFilled(dockPlace, Green); }));
-    toggleFullScreen();
-    QVERIFY(covers(Inside));
 }
 
 void tst_e2e_managers::drag_movesAndResizes()
@@ -372,7 +214,7 @@ void tst_e2e_managers::dialog_liesAboveTheTestWindow()
         desktop().mouse().click(QPoint(1000, 200));
         QVERIFY(covers(place));
         QVERIFY(waitFor(isInFront));
-        auto other = desktop().windows().addWindow(dialog().geometry, DockColour);
+        auto other = desktop().windows().addWindow(dialog().geometry, OtherColour);
         desktop().windows().activate(other->id());
         QVERIFY(waitFor([&] { return desktop().windows().active() == other->id(); }));
         QVERIFY(covers(place));
@@ -399,9 +241,9 @@ void tst_e2e_managers::anotherProgramsWindow_liesBelowTheTestWindow()
         const QRect visible = place & desktop().screen().rect();
         QVERIFY(waitFor([&] { return desktop().screen().isFilled(visible, Green); }));
         const auto other =
-            desktop().windows().addWindow(Inside.adjusted(20, 20, 20, 20), DockColour);
+            desktop().windows().addWindow(Inside.adjusted(20, 20, 20, 20), OtherColour);
         QVERIFY(waitFor([&] {
-            return desktop().screen().count(desktop().screen().rect(), DockColour) > 1000;
+            return desktop().screen().count(desktop().screen().rect(), OtherColour) > 1000;
         }));
         QVERIFY(waitFor([&] { return desktop().screen().isFilled(visible, Green); }));
         desktop().windows().activate(other->id());
