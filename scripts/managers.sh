@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Runs the checks of the test window's place under X11 window managers, and writes a table with a
-# row for each check to build/managers.md. Fails if a check does, or if a manager is missing.
-# With --random it does N random operations under each of them instead, from TARN_RANDOM_SEED on.
+# Runs the checks of the test window's place under X11 window managers and Wayland compositors, and
+# writes a table with a row for each check to build/managers.md. Fails if a check does, or if a
+# manager is missing. With --random it does N random operations under each X11 window manager
+# instead, from TARN_RANDOM_SEED on.
 #
 # Usage: scripts/managers.sh [--random N] [MANAGER...]
 set -euo pipefail
@@ -10,8 +11,10 @@ cd "$(dirname "$0")/.."
 
 tests=(tst_e2e_managers tst_e2e_fullscreen)
 managers=(kwin_x11 mutter xfwm4 metacity openbox icewm i3 awesome fluxbox)
+compositors=(kwin_wayland mutter_wayland)
 if [ "${1:-}" = --random ]; then
   tests=(tst_e2e_random)
+  compositors=()
   export TARN_RANDOM_OPERATIONS=$2
   export QTEST_FUNCTION_TIMEOUT=$(($2 * 30000)) # milliseconds
   shift 2
@@ -19,6 +22,7 @@ fi
 if [ $# -gt 0 ]; then
   managers=("$@")
 else
+  managers+=("${compositors[@]}")
   scripts/setup.sh managers
 fi
 configure release >/dev/null

@@ -1,4 +1,5 @@
 #include "endtoendtest.h"
+#include "sessionbus.h"
 #include "waiting.h"
 
 #include <QDBusArgument>
@@ -51,17 +52,15 @@ private:
                       const QVariantList &arguments = {}) const;
     QString find(const QString &path, const QString &name) const;
 
-    ChildProcess m_daemon;
+    SessionBus m_bus;
     AccessibilityBus m_service;
 };
 
 bool tst_e2e_accessibility::startBus()
 {
-    m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--config-file=" TARN_TEST_BUS), QStringLiteral("--nofork"),
-                    QStringLiteral("--print-address")});
-    m_daemon.waitForReadyRead();
-    m_service.address = QString::fromLocal8Bit(m_daemon.readLine()).trimmed();
+    if (!m_bus.start())
+        return false;
+    m_service.address = m_bus.address();
     QDBusConnection::connectToBus(m_service.address, QStringLiteral("accessibility"));
     return bus().registerObject(QStringLiteral("/org/a11y/bus"), &m_service,
                                 QDBusConnection::ExportAllSlots);

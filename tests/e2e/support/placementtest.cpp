@@ -21,8 +21,9 @@ bool PlacementTest::settle(WindowId window)
 
 bool PlacementTest::covers(const QRect &place)
 {
-    return testWindowCovers(place) && settle(tool().testWindow().id) && testWindowCovers(place)
-           && tool().testWindow().isMapped;
+    const auto isShown = [this] { return tool().testWindow().isMapped; };
+    return waitFor(isShown) && testWindowCovers(place) && settle(tool().testWindow().id)
+           && testWindowCovers(place) && isShown();
 }
 
 void PlacementTest::pressAndExpect(const char *key, Qt::KeyboardModifier modifier,

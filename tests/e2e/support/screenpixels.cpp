@@ -1,6 +1,6 @@
 #include "screenpixels.h"
 
-#include "xconnection.h"
+#include <QPainter>
 
 #include <algorithm>
 #include <cstring>
@@ -8,8 +8,9 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
-ScreenPixels::ScreenPixels(XConnection &connection)
+ScreenPixels::ScreenPixels(XConnection &connection, bool isComposited)
     : m_connection(connection)
+    , m_isComposited(isComposited)
 { }
 
 QRect ScreenPixels::rect() const
@@ -26,17 +27,47 @@ QImage ScreenPixels::grab(const QRect &area) const
     const QRect visible = area & rect();
     if (visible.isEmpty())
         return {};
-    XImage *source = XGetImage(m_connection.display(), m_connection.root(), visible.x(),
-                               visible.y(), static_cast<unsigned int>(visible.width()),
-                               static_cast<unsigned int>(visible.height()), AllPlanes, ZPixmap);
+    return m_isComposited ? compose(visible) : grab(m_connection.root(), visible);
+}
+
+// In the order of the windows, which the compositor tells its X server.
+QImage ScreenPixels::compose(const QRect &area) const
+{
+    QImage image(area.size(), QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    Window root = 0;
+    Window above = 0;
+    Window *children = nullptr;
+    unsigned int count = 0;
+    XQueryTree(m_connection.display(), m_connection.root(), &root, &above, &children, &count);
+    for (unsigned int i = 0; i < count; ++i) {
+        XWindowAttributes window = {};
+        XGetWindowAttributes(m_connection.display(), children[i], &window);
+        const QRect place(window.x, window.y, window.width, window.height);
+        const QRect part = place & area;
+        if (window.map_state == IsViewable && window.c_class == InputOutput && !part.isEmpty())
+            painter.drawImage(part.topLeft() - area.topLeft(),
+                              grab(children[i], part.translated(-place.topLeft())));
+    }
+    if (children)
+        XFree(children);
+    return image;
+}
+
+QImage ScreenPixels::grab(WindowId window, const QRect &area) const
+{
+    XImage *source = XGetImage(m_connection.display(), window, area.x(), area.y(),
+                               static_cast<unsigned int>(area.width()),
+                               static_cast<unsigned int>(area.height()), AllPlanes, ZPixmap);
     if (!source)
         return {};
     QImage image;
     if (source->bits_per_pixel == 32) {
-        image = QImage(visible.size(), QImage::Format_RGB32);
-        for (int y = 0; y < visible.height(); ++y) {
+        image = QImage(area.size(), QImage::Format_RGB32);
+        for (int y = 0; y < area.height(); ++y) {
             std::memcpy(image.scanLine(y), source->data + y * source->bytes_per_line,
-                        static_cast<std::size_t>(visible.width()) * sizeof(QRgb));
+                        static_cast<std::size_t>(area.width()) * sizeof(QRgb));
         }
     }
     XDestroyImage(source);

@@ -1,18 +1,18 @@
 #pragma once
 
+#include "xconnection.h"
+
 #include <QColor>
 #include <QImage>
 #include <QRect>
 
-class XConnection;
-
-/// What the X server shows, read from its root window; the mouse pointer is
-/// not part of it.
+/// What the X server shows; the mouse pointer is not part of it.
 class ScreenPixels
 {
 public:
-    /// \a connection must outlive it.
-    explicit ScreenPixels(XConnection &connection);
+    /// \a connection must outlive it. What is shown is read from the root window, or put together
+    /// from all windows where a compositor leaves that one empty.
+    ScreenPixels(XConnection &connection, bool isComposited);
 
     QRect rect() const;
     /// The pixels of \a area, cut to the screen; 32 bits without alpha.
@@ -27,5 +27,9 @@ public:
     int count(const QRect &area, QRgb colour) const;
 
 private:
+    QImage grab(WindowId window, const QRect &area) const;
+    QImage compose(const QRect &area) const;
+
     XConnection &m_connection;
+    bool m_isComposited;
 };

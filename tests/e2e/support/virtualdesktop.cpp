@@ -1,5 +1,6 @@
 #include "virtualdesktop.h"
 
+#include "compositorserver.h"
 #include "waiting.h"
 
 #include <QFile>
@@ -9,32 +10,41 @@
 
 namespace {
 
-/// How to start a window manager, "openbox" if the environment names no other one.
-QStringList windowManagerCommand(const QString &configDirectory)
+/// What runs on the desktop, "openbox" if the environment names nothing else.
+QString windowManager()
 {
-    const QString name = qEnvironmentVariable("TARN_WINDOW_MANAGER", QStringLiteral("openbox"));
+    return qEnvironmentVariable("TARN_WINDOW_MANAGER", QStringLiteral("openbox"));
+}
+
+QStringList windowManagerOptions(const QString &configDirectory)
+{
+    const QString name = windowManager();
     // Without a file of its own this one asks its user questions.
     if (name == QLatin1String("i3")) {
         const QString path = configDirectory + QStringLiteral("/i3.conf");
         QFile file(path);
         if (file.open(QIODevice::WriteOnly))
             file.write("# i3 config file (v4)\nfont pango:monospace 8\nfloating_modifier Mod1\n");
-        return {name, QStringLiteral("-c"), path};
+        return {QStringLiteral("-c"), path};
     }
     if (name == QLatin1String("openbox"))
-        return {name, QStringLiteral("--sm-disable")};
-    const QStringList withSessionBus = {QStringLiteral("dbus-run-session"), QStringLiteral("--")};
+        return {QStringLiteral("--sm-disable")};
     if (name == QLatin1String("mutter"))
-        return withSessionBus + QStringList{name, QStringLiteral("--x11")};
-    if (name == QLatin1String("kwin_x11") || name == QLatin1String("xfwm4"))
-        return withSessionBus + QStringList{name};
-    return {name};
+        return {QStringLiteral("--x11")};
+    return {};
+}
+
+std::unique_ptr<XServer> server(const QSize &size)
+{
+    if (windowManager().endsWith(QLatin1String("_wayland")))
+        return std::make_unique<CompositorServer>(windowManager(), size);
+    return std::make_unique<XvfbServer>(size);
 }
 
 } // namespace
 
 VirtualDesktop::VirtualDesktop(const QSize &size)
-    : VirtualDesktop(std::make_unique<XvfbServer>(size))
+    : VirtualDesktop(server(size))
 { }
 
 VirtualDesktop::VirtualDesktop(std::unique_ptr<XServer> server)
@@ -49,7 +59,16 @@ VirtualDesktop::~VirtualDesktop()
 
 bool VirtualDesktop::start()
 {
-    if (!m_server->start()) {
+    if (!m_bus.start()) {
+        m_problem = QStringLiteral("No session bus");
+        return false;
+    }
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), m_bus.address());
+    // Its own defaults, not those of whoever runs the test.
+    for (const char *folder : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        environment.insert(QLatin1String(folder), m_configDirectory.path());
+    if (!m_server->start(environment)) {
         m_problem = m_server->problem();
         return false;
     }
@@ -59,23 +78,19 @@ bool VirtualDesktop::start()
         return false;
     }
     m_keyboard = std::make_unique<Keyboard>(*m_connection);
-    m_screen = std::make_unique<ScreenPixels>(*m_connection);
+    m_screen = std::make_unique<ScreenPixels>(*m_connection, m_server->isCompositor());
     m_windows = std::make_unique<WindowTree>(*m_connection);
     m_mouse = std::make_unique<Mouse>(*m_connection, *m_windows);
-    return startWindowManager();
+    return m_server->isCompositor() || startWindowManager(environment);
 }
 
-bool VirtualDesktop::startWindowManager()
+bool VirtualDesktop::startWindowManager(QProcessEnvironment environment)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("DISPLAY"), m_server->displayName());
-    // Its own defaults, not those of whoever runs the test.
-    for (const char *folder : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
-        environment.insert(QLatin1String(folder), m_configDirectory.path());
     m_windowManager.setProcessEnvironment(environment);
     m_windowManager.setProcessChannelMode(QProcess::MergedChannels);
-    const QStringList command = windowManagerCommand(m_configDirectory.path());
-    m_windowManager.start(command.first(), command.mid(1), QIODevice::ReadOnly);
+    m_windowManager.start(windowManager(), windowManagerOptions(m_configDirectory.path()),
+                          QIODevice::ReadOnly);
     if (!waitFor([this] { return m_windows->hasWindowManager(); }, 30000)) {
         m_problem = QStringLiteral("No window manager: ")
                     + QString::fromLocal8Bit(m_windowManager.readAll());

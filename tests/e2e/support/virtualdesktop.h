@@ -4,6 +4,7 @@
 #include "keyboard.h"
 #include "mouse.h"
 #include "screenpixels.h"
+#include "sessionbus.h"
 #include "windowtree.h"
 #include "xconnection.h"
 #include "xserver.h"
@@ -19,7 +20,8 @@ class VirtualDesktop
 public:
     static constexpr QSize DefaultSize = QSize(1280, 800);
 
-    /// A desktop on a virtual frame buffer of this size.
+    /// A desktop on a virtual frame buffer of this size, or on a Wayland compositor if the
+    /// environment asks for one.
     explicit VirtualDesktop(const QSize &size = DefaultSize);
     /// A desktop on any other kind of server.
     explicit VirtualDesktop(std::unique_ptr<XServer> server);
@@ -41,10 +43,11 @@ public:
     WindowTree &windows() { return *m_windows; }
 
 private:
-    bool startWindowManager();
+    bool startWindowManager(QProcessEnvironment environment);
 
-    std::unique_ptr<XServer> m_server;
     QTemporaryDir m_configDirectory;
+    SessionBus m_bus;
+    std::unique_ptr<XServer> m_server;
     ChildProcess m_windowManager;
     std::unique_ptr<XConnection> m_connection;
     std::unique_ptr<Keyboard> m_keyboard;

@@ -2,8 +2,16 @@
 
 #include "waiting.h"
 
-bool XServer::start()
+#include <QRegularExpression>
+
+XServer::XServer(QProcess::ProcessChannelMode output)
 {
+    m_process.setProcessChannelMode(output);
+}
+
+bool XServer::start(const QProcessEnvironment &environment)
+{
+    m_process.setProcessEnvironment(environment);
     m_process.start(program(), arguments(), QIODevice::ReadOnly);
     if (!m_process.waitForStarted()) {
         m_problem = QStringLiteral("%1 does not start: %2").arg(program(), m_process.errorString());
@@ -14,17 +22,22 @@ bool XServer::start()
 
 bool XServer::readDisplayNumber()
 {
-    const bool written = waitFor(
-        [this] { return m_process.canReadLine() || m_process.state() == QProcess::NotRunning; },
-        30000);
-    bool isNumber = false;
-    const int number = m_process.readLine().trimmed().toInt(&isNumber);
-    if (!written || !isNumber) {
-        m_problem = QStringLiteral("%1 gives no display number: %2")
-                        .arg(program(), QString::fromLocal8Bit(m_process.readAllStandardError()));
+    static const QRegularExpression numberLine(QStringLiteral("^(\\d+)\n"),
+                                               QRegularExpression::MultilineOption);
+    QString output;
+    QRegularExpressionMatch number;
+    const auto read = [&] {
+        output += QString::fromLocal8Bit(m_process.readAll());
+        number = numberLine.match(output);
+        return number.hasMatch() || m_process.state() == QProcess::NotRunning;
+    };
+    waitFor(read, 30000);
+    if (!number.hasMatch()) {
+        output += QString::fromLocal8Bit(m_process.readAllStandardError());
+        m_problem = QStringLiteral("%1 gives no display number: %2").arg(program(), output);
         return false;
     }
-    m_displayName = QStringLiteral(":%1").arg(number);
+    m_displayName = QLatin1Char(':') + number.captured(1);
     return true;
 }
 

@@ -10,13 +10,16 @@
 class XServer
 {
 public:
-    XServer() = default;
+    explicit XServer(QProcess::ProcessChannelMode output = QProcess::SeparateChannels);
     virtual ~XServer() = default;
     Q_DISABLE_COPY(XServer)
 
     /// Starts the server on a free display number. False, with problem() set,
     /// when it does not come up.
-    bool start();
+    bool start(const QProcessEnvironment &environment);
+    /// Whether it brings its own window manager, which shows what the windows hold and leaves the
+    /// root window empty.
+    virtual bool isCompositor() const { return false; }
 
     /// The DISPLAY value to reach it by; empty before start().
     QString displayName() const { return m_displayName; }
@@ -24,8 +27,8 @@ public:
 
 protected:
     virtual QString program() const = 0;
-    /// The arguments; the server must write its display number to the standard
-    /// output ("-displayfd 1").
+    /// The arguments; the server must write its display number to its output, in
+    /// a line of its own ("-displayfd 1").
     virtual QStringList arguments() const = 0;
 
 private:
