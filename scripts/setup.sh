@@ -11,7 +11,7 @@ build_packages=(build-essential cmake ninja-build pkg-config
 font_packages=(fonts-noto-cjk fonts-dejavu-core fonts-liberation)
 virtual_desktop_packages=(xvfb openbox imagemagick x11-utils)
 test_packages=(dbus-daemon libx11-dev libxtst-dev libxext-dev libxfixes-dev libxdamage-dev libxrandr-dev libxss-dev libsm-dev libice-dev libbenchmark-dev
-  xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils qtwayland5 weston)
+  xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils qtwayland5)
 manager_packages=(kwin-x11 kwin-wayland mutter xwayland xfwm4)
 all_manager_packages=("${manager_packages[@]}" metacity icewm i3-wm awesome fluxbox)
 picture_packages=("${virtual_desktop_packages[@]}" xdotool)
@@ -58,7 +58,7 @@ if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
       "CMake 3.16 or newer, Ninja, Qt 5.9 or newer of the 5 series (Widgets, Test," \
       "LinguistTools and, for X11, DBus and X11Extras; on macOS Homebrew's qt@5, its prefix in CMAKE_PREFIX_PATH)," \
       "on Linux libxcb with its randr and screensaver extensions and libwayland," \
-      "a Chinese font; for the end-to-end tests also Xvfb, Xwayland, dbus-daemon, openbox, kwin_x11, kwin_wayland, mutter, xfwm4, weston, xrandr, xhost, setxkbmap, xprop, ImageMagick" \
+      "a Chinese font; for the end-to-end tests also Xvfb, Xwayland, dbus-daemon, openbox, kwin_x11, kwin_wayland, mutter, xfwm4, xrandr, xhost, setxkbmap, xprop, ImageMagick" \
       "and the development files of libX11, libXtst, libXext, libXfixes, libXdamage, libXrandr, libXss, libSM and libICE." >&2
   fi
   exit 0

@@ -30,12 +30,6 @@ constexpr QLatin1String hidden = latin1("/setting/testWindowVisible");
 constexpr int defaultSize = 256;
 constexpr int sizeWithoutSettings = 200;
 
-// Where no program can place its windows.
-bool isWayland()
-{
-    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
 } // namespace
 
 DrawCtrlForm::DrawCtrlForm(QWidget *testWindow_, QSettings *settings_, QWidget *parent)
@@ -78,7 +72,7 @@ void DrawCtrlForm::initCtrls()
 {
     getScreenSize();
     ui->pushButtonShow->setEnabled(false);
-    ui->labelWayland->setVisible(isWayland());
+    ui->labelWayland->setVisible(!PlaceKeeper::canPlace());
     // The desktop widget reports every kind of change in one place, on all of Qt 5.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
@@ -202,7 +196,7 @@ void DrawCtrlForm::follow(const QRect &rectangle)
         m_keeper->setPlace(m_placement);
         return;
     }
-    if (!isForScreens && !isWayland())
+    if (!isForScreens && PlaceKeeper::canPlace())
         adopt(rectangle);
     m_keeper->accept(rectangle);
     setControls(rectangle);
@@ -307,10 +301,12 @@ void DrawCtrlForm::slot_resetHeight(unsigned int height)
 // A border at the top or the left moves the window too.
 void DrawCtrlForm::slot_drawWidgetSizeChange(int width, int height)
 {
-    place({testWindow->geometry().topLeft(), QSize(width, height)});
+    place({PlaceKeeper::canPlace() ? testWindow->pos() : m_keeper->place().topLeft(),
+           QSize(width, height)});
 }
 
 void DrawCtrlForm::slot_drawWidgetPositionChange(int x, int y)
 {
-    place({QPoint(x, y), testWindow->size()});
+    if (PlaceKeeper::canPlace())
+        place({QPoint(x, y), testWindow->size()});
 }

@@ -76,9 +76,16 @@ QRect PlaceKeeper::target() const
     return found == screens.cend() ? QRect() : (*found)->geometry();
 }
 
+bool PlaceKeeper::canPlace()
+{
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 // Qt only knows what the window manager says.
 QRect PlaceKeeper::actual() const
 {
+    if (!canPlace())
+        return {target().topLeft(), m_window->size()};
     const QRect known = X11Windows::geometry(m_window->internalWinId());
     return known.isNull() ? m_window->geometry() : known;
 }
@@ -86,12 +93,21 @@ QRect PlaceKeeper::actual() const
 void PlaceKeeper::request()
 {
     m_refusals = 0;
+    chooseScreen();
     // A full screen asked for by its state alone comes back from there as it was.
     if (!m_isFull)
         m_window->setGeometry(m_place);
     if (m_isOut)
         put();
     m_isSettled = !m_echo->ask();
+}
+
+// Qt asks for the one that the window is on as far as it knows.
+void PlaceKeeper::chooseScreen()
+{
+    QScreen *screen = QGuiApplication::screenAt(m_place.center());
+    if (!canPlace() && !m_isFull && screen && m_window->windowHandle())
+        m_window->windowHandle()->setScreen(screen);
 }
 
 void PlaceKeeper::look()
@@ -109,7 +125,8 @@ void PlaceKeeper::check()
         return;
     // Some window managers maximise what is as large as the screen.
     const bool isOwnState = m_window->windowState() == state();
-    const bool isInPlace = isOwnState && actual() == target() && m_window->geometry() == target();
+    const bool isInPlace =
+        isOwnState && actual() == target() && (m_window->geometry() == target() || !canPlace());
     // Some window managers end a full screen whenever another window gets the keyboard, or wipe
     // the mark of it from a window that is out of their hands.
     const bool mayFollow =
@@ -243,6 +260,9 @@ void PlaceKeeper::windowEvent(QEvent *event)
             look();
         else
             keepState();
+        break;
+    case QEvent::ScreenChangeInternal:
+        chooseScreen();
         break;
     case QEvent::Move:
     case QEvent::Resize:

@@ -18,6 +18,10 @@ public:
     // The window is borrowed. `echo` becomes a child.
     PlaceKeeper(QWidget *window, ManagerEcho *echo, QObject *parent);
 
+    // False under Wayland, where the desktop alone decides where a window is, and tells nobody:
+    // then the place has a size, and says which screen a full screen is for.
+    static bool canPlace();
+
     // Where the window should be while it does not fill a screen.
     QRect place() const { return m_place; }
     void setPlace(const QRect &place);
@@ -38,6 +42,7 @@ private:
     QRect target() const;
     QRect actual() const;
     void request();
+    void chooseScreen();
     void look();
     void check();
     void followManager();

@@ -1,10 +1,10 @@
 #include "childprocess.h"
 #include "drawcontainer.h"
 #include "drawctrlform.h"
+#include "sessionbus.h"
 #include "waiting.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QLabel>
 #include <QScreen>
 #include <QSettings>
@@ -13,14 +13,8 @@
 #include <QWindow>
 #include <QtTest>
 
-#include <csignal>
-
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-/// A native Wayland session, without an X server: the tool works, and says what it cannot do. The
-/// compositor is the test's own.
+/// A native Wayland session with two screens, without an X server: the tool works, and says what
+/// it cannot do. The compositor is the test's own.
 class tst_e2e_wayland : public QObject
 {
     Q_OBJECT
@@ -30,11 +24,25 @@ private slots:
     void cleanup();
 
     void panel_saysThatItCannotPlaceTheTestWindow();
-    void fullScreen_fillsTheScreenAndComesBack();
+    void fullScreen_fillsTheScreenOfThePlaceAndComesBack_data();
+    void fullScreen_fillsTheScreenOfThePlaceAndComesBack();
     void sizeFromTheCompositor_isShownAndNotStored();
+    void mouse_resizesAndDoesNotMove();
     void program_startsAndEnds();
 
 private:
+    void startAt(const QPoint &place);
+    QSpinBox *field(const char *name) const
+    {
+        return m_panel->findChild<QSpinBox *>(QLatin1String(name));
+    }
+    int stored(const char *name) const
+    {
+        m_panel->saveWindowBaseInfo();
+        return m_settings->value(QStringLiteral("/setting/testWindow") + QLatin1String(name))
+            .toInt();
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<QSettings> m_settings;
     std::unique_ptr<DrawContainer> m_testWindow;
@@ -42,7 +50,9 @@ private:
 };
 
 namespace {
-constexpr QSize ScreenSize = QSize(1280, 800);
+constexpr char InsideSession[] = "TARN_INSIDE_SESSION";
+constexpr QRect First = QRect(0, 0, 1280, 800);
+constexpr QRect Second = QRect(1280, 0, 1024, 768);
 constexpr QSize StoredSize = QSize(300, 300);
 } // namespace
 
@@ -53,11 +63,22 @@ void tst_e2e_wayland::init()
                                              QSettings::IniFormat);
     m_settings->setValue(QStringLiteral("/setting/testWindowWidth"), StoredSize.width());
     m_settings->setValue(QStringLiteral("/setting/testWindowHeight"), StoredSize.height());
+    startAt(First.topLeft());
+}
+
+void tst_e2e_wayland::startAt(const QPoint &place)
+{
+    m_panel.reset();
+    m_settings->setValue(QStringLiteral("/setting/testWindowPointX"), place.x());
+    m_settings->setValue(QStringLiteral("/setting/testWindowPointY"), place.y());
     m_testWindow = std::make_unique<DrawContainer>();
     m_panel = std::make_unique<DrawCtrlForm>(m_testWindow.get(), m_settings.get(), nullptr);
+    const QSignalSpy screenChanges(m_testWindow->windowHandle(), &QWindow::screenChanged);
     m_panel->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_testWindow.get()));
     QCOMPARE(m_testWindow->size(), StoredSize);
+    // The desktop shows the window on its first screen, wherever it is meant to be.
+    QTRY_VERIFY(First.contains(place) || !screenChanges.isEmpty());
 }
 
 void tst_e2e_wayland::cleanup()
@@ -72,33 +93,51 @@ void tst_e2e_wayland::panel_saysThatItCannotPlaceTheTestWindow()
     QVERIFY(line && line->isVisible());
 }
 
-void tst_e2e_wayland::fullScreen_fillsTheScreenAndComesBack()
+void tst_e2e_wayland::fullScreen_fillsTheScreenOfThePlaceAndComesBack_data()
 {
-    const QScreen *screen = m_testWindow->windowHandle()->screen();
-    QCOMPARE(screen->size(), ScreenSize);
+    QTest::addColumn<QRect>("screen");
+    QTest::newRow("first") << First;
+    QTest::newRow("second") << Second;
+}
+
+// The screens differ in size.
+void tst_e2e_wayland::fullScreen_fillsTheScreenOfThePlaceAndComesBack()
+{
+    QFETCH(QRect, screen);
+    startAt(screen.topLeft() + QPoint(50, 50));
     for (int turn = 0; turn < 2; ++turn) {
         m_testWindow->slot_keyShiftFPressed();
-        QTRY_COMPARE(m_testWindow->size(), ScreenSize);
+        QTRY_COMPARE(m_testWindow->size(), screen.size());
         QVERIFY(m_testWindow->isFullScreen());
         m_testWindow->slot_keyShiftFPressed();
         QTRY_COMPARE(m_testWindow->size(), StoredSize);
         QVERIFY(!m_testWindow->isFullScreen());
     }
+    QCOMPARE(field("spinBoxX")->value(), screen.x() + 50);
+    const QRect other = screen == First ? Second : First;
+    field("spinBoxX")->setValue(other.x());
+    m_testWindow->slot_keyShiftFPressed();
+    QTRY_COMPARE(m_testWindow->size(), other.size());
 }
 
 void tst_e2e_wayland::sizeFromTheCompositor_isShownAndNotStored()
 {
-    const auto *width = m_panel->findChild<QSpinBox *>(QStringLiteral("spinBoxWidth"));
     m_testWindow->windowHandle()->resize(640, 480); // as the compositor does, behind its back
-    QTRY_COMPARE(width->value(), 640);
-
-    m_panel->saveWindowBaseInfo();
-
-    QCOMPARE(m_settings->value(QStringLiteral("/setting/testWindowWidth")).toInt(), 300);
+    QTRY_COMPARE(field("spinBoxWidth")->value(), 640);
+    QCOMPARE(stored("Width"), StoredSize.width());
     m_panel->slot_keyShiftRightPressed();
     QTRY_COMPARE(m_testWindow->width(), 641);
-    m_panel->saveWindowBaseInfo();
-    QCOMPARE(m_settings->value(QStringLiteral("/setting/testWindowWidth")).toInt(), 641);
+    QCOMPARE(stored("Width"), 641);
+}
+
+void tst_e2e_wayland::mouse_resizesAndDoesNotMove()
+{
+    startAt(Second.topLeft() + QPoint(50, 50));
+    m_panel->slot_drawWidgetSizeChange(310, 320);
+    m_panel->slot_drawWidgetPositionChange(5, 6);
+    QCOMPARE(stored("Width"), 310);
+    QCOMPARE(stored("PointX"), Second.x() + 50);
+    QCOMPARE(stored("PointY"), 50);
 }
 
 void tst_e2e_wayland::program_startsAndEnds()
@@ -127,41 +166,41 @@ void tst_e2e_wayland::program_startsAndEnds()
     QCOMPARE(process.exitCode(), 0);
 }
 
-/// Before the application, which connects to it. 0 if it does not come up.
-static pid_t startCompositor(const QString &runtimeFolder)
+/// Runs this program again, as the session of a compositor, which ends with its exit code.
+static int runSession(int argc, char **argv)
 {
-    qputenv("XDG_RUNTIME_DIR", runtimeFolder.toLocal8Bit());
-    qputenv("WAYLAND_DISPLAY", "tarn");
-    qputenv("QT_QPA_PLATFORM", "wayland");
-    qunsetenv("DISPLAY");
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::prctl(PR_SET_PDEATHSIG, SIGTERM);
-        ::execlp("weston", "weston", "--no-config", "--backend=headless-backend.so", "--width=1280",
-                 "--height=800", "--idle-time=0", "--socket=tarn", "--log=/dev/null", nullptr);
-        ::_exit(1);
-    }
-    const auto isUp = [&] { return QFileInfo::exists(runtimeFolder + QStringLiteral("/tarn")); };
-    return waitFor(isUp) ? child : 0;
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir folder;
+    SessionBus bus;
+    bus.start();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("DISPLAY"));
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("wayland"));
+    environment.insert(QLatin1String(InsideSession), QStringLiteral("1"));
+    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        environment.insert(QLatin1String(name), folder.path());
+    ChildProcess compositor;
+    compositor.setProcessEnvironment(environment);
+    compositor.setProcessChannelMode(QProcess::ForwardedChannels);
+    compositor.start(QStringLiteral("mutter"),
+                     QStringList{QStringLiteral("--headless"), QStringLiteral("--no-x11"),
+                                 QStringLiteral("--virtual-monitor"), QStringLiteral("1280x800"),
+                                 QStringLiteral("--virtual-monitor"), QStringLiteral("1024x768"),
+                                 QStringLiteral("--")}
+                         + QCoreApplication::arguments());
+    if (!compositor.waitForFinished(-1))
+        qCritical("No Wayland compositor (mutter)");
+    return compositor.exitStatus() == QProcess::NormalExit ? compositor.exitCode() : 1;
 }
 
 int main(int argc, char **argv)
 {
-    const QTemporaryDir runtimeFolder;
-    const pid_t compositor = startCompositor(runtimeFolder.path());
-    if (!compositor) {
-        qCritical("No Wayland compositor (weston)");
-        return 1;
-    }
-    int result = 0;
-    {
-        QApplication application(argc, argv);
-        tst_e2e_wayland test;
-        result = QTest::qExec(&test, argc, argv);
-    }
-    ::kill(compositor, SIGTERM);
-    ::waitpid(compositor, nullptr, 0);
-    return result;
+    if (!qEnvironmentVariableIsSet(InsideSession))
+        return runSession(argc, argv);
+    QApplication application(argc, argv);
+    tst_e2e_wayland test;
+    return QTest::qExec(&test, argc, argv);
 }
 
 #include "tst_e2e_wayland.moc"
