@@ -61,7 +61,7 @@ void tst_e2e_fullscreen::fullScreenEndedWhileHidden_comesBack()
     toggleFullScreen();
     QVERIFY(covers(desktop().screen().rect()));
     shiftH(false);
-    QVERIFY(tool().focusControlWindow());
+    QVERIFY(settleHidden());
     toggleFullScreen();
     QVERIFY(covers(Inside));
 }

@@ -33,12 +33,15 @@ void PlacementTest::pressAndExpect(const char *key, Qt::KeyboardModifier modifie
     QVERIFY(covers(place));
 }
 
+bool PlacementTest::settleHidden()
+{
+    const WindowId control = tool().controlWindow().id;
+    return settle(control) && waitFor([&] { return desktop().windows().active() == control; });
+}
+
 void PlacementTest::shiftH(bool shown)
 {
-    // Hidden, it leaves the keyboard to the control window, once the window manager is through.
-    const WindowId control = tool().controlWindow().id;
-    QVERIFY(settle(shown ? control : tool().testWindow().id));
-    QVERIFY(!shown || waitFor([&] { return desktop().windows().active() == control; }));
+    QVERIFY(shown ? settleHidden() : settle(tool().testWindow().id));
     desktop().keyboard().key("h", Qt::ShiftModifier);
     QVERIFY(waitFor([&] { return tool().testWindow().isMapped == shown; }));
 }

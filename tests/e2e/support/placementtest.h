@@ -23,6 +23,8 @@ protected:
     /// The same after a key.
     void pressAndExpect(const char *key, Qt::KeyboardModifier modifier, const QRect &place);
     void toggleFullScreen() { desktop().keyboard().key("f", Qt::ShiftModifier); }
+    /// Hidden, it leaves the keyboard to the control window, once the window manager is through.
+    bool settleHidden();
     /// Hides or shows the test window by its key.
     void shiftH(bool shown);
 
