@@ -41,7 +41,7 @@ void paintPattern(benchmark::State &state, const ScreenSize &size, const Pattern
     stage.copy();
     do {
         stage.paint(*pattern.drawer);
-    } while (!pattern.isReady());
+    } while (!pattern.drawer->isDrawnInFull());
 
     std::vector<double> copies;
     std::vector<double> paintings;
@@ -56,7 +56,7 @@ void paintPattern(benchmark::State &state, const ScreenSize &size, const Pattern
             const double part = stage.paint(*pattern.drawer);
             painting += part;
             longestPart = std::max(longestPart, part);
-        } while (!pattern.isReady());
+        } while (!pattern.drawer->isDrawnInFull());
         paintings.push_back(painting);
         longestParts.push_back(longestPart);
         state.SetIterationTime(paintings.back());

@@ -12,8 +12,6 @@ struct Pattern
 {
     std::unique_ptr<DrawerBase> drawer;
     std::function<void()> step;
-    // Whether the drawer is done with what it paints once and shows many times.
-    std::function<bool()> isReady = [] { return true; };
 };
 
 // A row of the benchmark's table.

@@ -55,7 +55,7 @@ public:
     void drawOldTest(QPainter & /*painter*/) { setBgColor(m_oldTestColor); }
 
     // False while the layout takes some more paints to be complete.
-    bool isDrawnInFull() const { return m_picture.isComplete(); }
+    bool isDrawnInFull() const override { return m_picture.isComplete(); }
 
 private:
     using Layer = CabinetLayout::Layer;

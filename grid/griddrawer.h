@@ -20,9 +20,7 @@ public:
 
     void draw(bool paint) override;
     bool coversWindow() const override { return m_pattern.background.alpha() == 255; }
-
-    // False while a picture that is painted in parts needs more paint events to be complete.
-    bool isDrawnInFull() const { return m_picture.isComplete(); }
+    bool isDrawnInFull() const override { return m_picture.isComplete(); }
 
     // One family each over the test window's size, enabled or not, with the painter's pen.
     void drawHoriLines(QPainter &painter) { drawFamily(painter, LineFamily::Horizontal); }

@@ -36,6 +36,7 @@ public:
 
     // The drawer last handed over, null at start.
     const DrawerBase *selectedDrawer() const { return currentDrawer; }
+    DrawerBase *selectedDrawer() { return currentDrawer; }
 
     // Whether this drawer's test is the one that the operator sees on its test window, or is
     // going to see with the next paint. Before any pattern was shown that is the selected one's.

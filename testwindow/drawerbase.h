@@ -25,6 +25,9 @@ public:
     // has to be there before.
     virtual bool coversWindow() const { return false; }
 
+    // False while draw(true) has to be called again for the picture to be complete.
+    virtual bool isDrawnInFull() const { return true; }
+
     // The drawer has something to show. The test window goes on painting the drawer
     // that was shown before until the selected one is active.
     bool active = false;
