@@ -62,19 +62,24 @@ QString testWindowStyle(const QColor &background)
                             "background-color: white; border: 0px solid black;}");
 }
 
-QSettings *openSettings(QObject *parent)
+QSettings *openSettings()
 {
     return SettingsFile::open(
-        QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini"), parent);
+        QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini"), nullptr);
 }
 
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
+    : MainWindow(parent, openSettings())
+{ }
+
+MainWindow::MainWindow(QWidget *parent, QSettings *settings)
     : UX::Utils::AppMainWindow(parent)
     , ui(makeForm<Ui::MainWindow>(this))
-    , m_settings(openSettings(this))
+    , m_settings(settings)
 {
+    m_settings->setParent(this);
     initCtrls();
     initSlots();
     setInitDrawWindowInfo();

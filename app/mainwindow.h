@@ -33,7 +33,11 @@ class MainWindow : public UX::Utils::AppMainWindow
 
 public:
     explicit MainWindow(QWidget *parent = nullptr);
+    // On other settings than the program's own; takes them over.
+    MainWindow(QWidget *parent, QSettings *settings);
     ~MainWindow() override;
+
+    DrawContainer &testWindow() { return m_testWindow; }
 
     void updateLanguage();
 

@@ -4,7 +4,6 @@
 
 #include "commonhelper.h"
 #include "form.h"
-#include "latin1.h"
 #include "placekeeper.h"
 #include "savesoon.h"
 #include "settingsrules.h"
@@ -23,8 +22,6 @@ constexpr QLatin1String x = latin1("/setting/testWindowPointX");
 constexpr QLatin1String y = latin1("/setting/testWindowPointY");
 constexpr QLatin1String width = latin1("/setting/testWindowWidth");
 constexpr QLatin1String height = latin1("/setting/testWindowHeight");
-// Named the other way round than it is used: true means hidden, on reading and on writing.
-constexpr QLatin1String hidden = latin1("/setting/testWindowVisible");
 } // namespace Key
 
 constexpr int defaultSize = 256;
@@ -149,7 +146,7 @@ void DrawCtrlForm::initWindowPosition()
     const int width = stored(Key::width) < 1 ? defaultSize : stored(Key::width);
     const int height = stored(Key::height) < 1 ? defaultSize : stored(Key::width);
     restore({stored(Key::x), stored(Key::y), width, height});
-    const bool isShown = !settings->value(Key::hidden).toBool();
+    const bool isShown = !settings->value(hiddenKey).toBool();
     testWindow->setVisible(isShown);
     showVisibility(isShown);
 }
@@ -229,7 +226,7 @@ void DrawCtrlForm::saveWindowBaseInfo()
     SettingsRules::store(*settings, Key::width, m_placement.width());
     SettingsRules::store(*settings, Key::x, m_placement.x());
     SettingsRules::store(*settings, Key::y, m_placement.y());
-    SettingsRules::store(*settings, Key::hidden, ui->pushButtonShow->isEnabled());
+    SettingsRules::store(*settings, hiddenKey, ui->pushButtonShow->isEnabled());
 }
 
 void DrawCtrlForm::updateLanguage()

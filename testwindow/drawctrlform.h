@@ -1,5 +1,6 @@
 #pragma once
 
+#include "latin1.h"
 #include "sliderspinboxpair.h"
 
 #include <QRect>
@@ -24,10 +25,16 @@ class DrawCtrlForm : public QWidget
     Q_OBJECT
 
 public:
+    // Named the other way round than it is used: true means hidden, on reading and on writing.
+    static constexpr QLatin1String hiddenKey = latin1("/setting/testWindowVisible");
+
     // Test window and settings are borrowed. Without settings nothing is restored or
     // saved and the test window starts at (0, 0) with 200 x 200 pixels.
     DrawCtrlForm(QWidget *testWindow, QSettings *settings, QWidget *parent);
     ~DrawCtrlForm() override;
+
+    // The test window's size of the settings, whether the desktop has room for it or not.
+    QSize storedSize() const { return m_placement.size(); }
 
     void saveWindowBaseInfo();
     void updateLanguage();

@@ -83,12 +83,16 @@ QSettings *SettingsFile::open(const QString &path, QObject *parent)
     const QByteArray safe = harmlessLines(text);
     if (isPassable(path) && (safe == text || write(path, safe)))
         return openIni(path, parent);
+    return openCopy(path, parent);
+}
 
+QSettings *SettingsFile::openCopy(const QString &path, QObject *parent)
+{
     const auto place = std::make_shared<QTemporaryDir>();
     // Below a file nothing can be read or written.
     const QString copy = place->isValid() ? place->filePath(QStringLiteral("config.ini"))
                                           : path + QStringLiteral("/none");
-    write(copy, safe);
+    write(copy, harmlessLines(read(path)));
     QSettings *settings = openIni(copy, parent);
     // The settings save once more when they end.
     QObject::connect(settings, &QObject::destroyed, [place] { place->remove(); });

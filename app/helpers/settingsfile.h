@@ -25,4 +25,7 @@ QByteArray harmlessLines(const QByteArray &text);
 // that ends with the settings: nothing is lost but the saving.
 QSettings *open(const QString &path, QObject *parent);
 
+// The same with a copy in any case; of nothing where there is no file.
+QSettings *openCopy(const QString &path, QObject *parent);
+
 } // namespace SettingsFile
