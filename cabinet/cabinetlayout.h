@@ -16,6 +16,11 @@ class QPainter;
 // What the operator chooses of the layout. Any value of any field is safe.
 struct LayoutParameters
 {
+    // What the operator may choose.
+    static constexpr int smallestModule = 16; // pixels
+    static constexpr int largestModule = 100;
+    static constexpr int mostModules = 100; // in a row or a column of a scan board
+
     bool m_layoutOn = false;
     QColor m_bgColor; // while there is no path of a picture
     QColor m_oldTestColor;

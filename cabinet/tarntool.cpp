@@ -61,11 +61,14 @@ void TarnTool::uiInit()
 
 void TarnTool::dataInit()
 {
+    constexpr int smallest = ScrGrid::smallestModule;
+    constexpr int largest = ScrGrid::largestModule;
+    constexpr int most = ScrGrid::mostModules;
     m_counts = {{
-        {ui->boxHight, CabinetKey::boxHeight, &ScrGrid::m_moduleHeight, 16, 16, 100},
-        {ui->boxWidth, CabinetKey::boxWidth, &ScrGrid::m_moduleWidth, 16, 32, 100},
-        {ui->boxColumn, CabinetKey::columnCount, &ScrGrid::m_moduleColumnCount, 1, 2, 100},
-        {ui->boxRow, CabinetKey::rowCount, &ScrGrid::m_moduleRowCount, 1, 2, 100},
+        {ui->boxHight, CabinetKey::boxHeight, &ScrGrid::m_moduleHeight, smallest, 16, largest},
+        {ui->boxWidth, CabinetKey::boxWidth, &ScrGrid::m_moduleWidth, smallest, 32, largest},
+        {ui->boxColumn, CabinetKey::columnCount, &ScrGrid::m_moduleColumnCount, 1, 2, most},
+        {ui->boxRow, CabinetKey::rowCount, &ScrGrid::m_moduleRowCount, 1, 2, most},
     }};
     m_colors = {{
         {ui->buttonFont, CabinetKey::fontColor, CabinetKey::fontStyle, &ScrGrid::m_fontColor,

@@ -16,6 +16,12 @@ struct GridPattern
 {
     static constexpr int familyCount = 4;
 
+    // What the operator may choose, in pixels: the width of the lines and their distance.
+    static constexpr int thinnest = 1;
+    static constexpr int thickest = 5;
+    static constexpr int closest = 3;
+    static constexpr int farthest = 700;
+
     QSize size; // of the window, in pixels
     int distance = 10; // between neighbouring lines of a family; below 1 there are no lines
     int offset = 0; // of the first line of each family

@@ -20,11 +20,6 @@ namespace {
 
 using UX::Widgets::FramelessMessageBox;
 
-constexpr int thinnest = 1; // of the lines, in pixels
-constexpr int thickest = 5;
-constexpr int closest = 3; // between the lines, in pixels
-constexpr int widest = 700;
-
 constexpr QSize dialogSize(360, 424);
 constexpr QSize warningSize(206, 131);
 constexpr int buttonWidth = 90;
@@ -102,11 +97,12 @@ QLayout *MixSetting::createGridRows()
     toolButtonColorPick->setStyleSheet(QStringLiteral("background-color:rgb(0,0,0)"));
     Swatch::makeClickable(toolButtonColorPick);
     connect(toolButtonColorPick, &CustomerQlabel::clicked, this, &MixSetting::pickColor);
-    QSpinBox *pix = createSpinBox("spinBoxPix", drawer->getPix(), thinnest, thickest);
+    QSpinBox *pix =
+        createSpinBox("spinBoxPix", drawer->getPix(), GridPattern::thinnest, GridPattern::thickest);
     connect(pix, qOverload<int>(&QSpinBox::valueChanged), this,
             &MixSetting::slot_spinBoxPixValueChanged);
-    QSpinBox *distance =
-        createSpinBox("spinBoxDistance", drawer->getLineDistance(), closest, widest);
+    QSpinBox *distance = createSpinBox("spinBoxDistance", drawer->getLineDistance(),
+                                       GridPattern::closest, GridPattern::farthest);
     connect(distance, qOverload<int>(&QSpinBox::valueChanged), this,
             &MixSetting::slot_spinBoxDistanceValueChanged);
 
