@@ -11,7 +11,7 @@ if ! cmake --build build --target help | grep -q '^tarn_bench:'; then
   echo "bench: Google Benchmark is missing (Debian: libbenchmark-dev)." >&2
   exit 1
 fi
-build build --target tarn_bench
+build build --target tarn_bench tarn_filetime
 if cmake --build build --target help | grep -q '^tarn_tickrate:'; then
   build build --target tarn_tickrate
 fi
@@ -43,6 +43,7 @@ machine() {
       column[n - 3], column[n]
   }'
 } >build/bench.md
+{ echo; QT_QPA_PLATFORM=offscreen build/bin/tarn_filetime; } | tee -a build/bench.md
 if [ -x build/bin/tarn_tickrate ]; then
   { echo; build/bin/tarn_tickrate; } | tee -a build/bench.md
 fi

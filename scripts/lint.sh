@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs clang-tidy (.clang-tidy says which checks) and clazy's checks for Qt
-# code, up to level 1; every warning is an error.
+# code, up to level 1, and man on the manual page; every warning is an error.
 #
 # Usage: scripts/lint.sh [--all | FILE.cpp...]
 # Without files: all sources but those of the tests, which would take longer than
@@ -60,6 +60,12 @@ if [ ${#files[@]} -eq 0 ]; then
 fi
 if [ ${#files[@]} -eq 0 ]; then
   echo 'lint: no sources to check' >&2
+  exit 1
+fi
+
+manual=$(man --warnings --local-file --encoding=UTF-8 --troff-device=utf8 --ditroff docs/TarnTestPattern.1 2>&1 >/dev/null)
+if [ -n "$manual" ]; then
+  printf '%s\n' "$manual"
   exit 1
 fi
 

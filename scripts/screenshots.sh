@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Takes the pictures of the README from the real program, on a virtual X server of
-# its own, into docs/images/, and those of the Chinese README into docs/images/zh-CN/.
+# its own, into docs/images/, and those of the Chinese README into docs/images/zh-CN/;
+# and the one that is a pattern alone, by TarnTestPattern.
 # Needs Xvfb, openbox, xdotool and ImageMagick.
 #
 # Usage: scripts/screenshots.sh   after ./run.sh or ./test.sh has built the program
@@ -55,3 +56,4 @@ take_all() {
 start_desktop 1000x600
 take_all en docs/images
 take_all zh docs/images/zh-CN
+build/bin/TarnTestPattern layout --size 640x160 --numbers from-right -o docs/images/layout-file.png

@@ -16,7 +16,7 @@ manager_packages=(kwin-x11 kwin-wayland mutter xwayland xfwm4)
 all_manager_packages=("${manager_packages[@]}" metacity icewm i3-wm awesome fluxbox)
 picture_packages=("${virtual_desktop_packages[@]}" xdotool)
 package_packages=("${virtual_desktop_packages[@]}" librsvg2-bin dpkg-dev xz-utils lintian desktop-file-utils appstream man-db mmdebstrap xdotool)
-check_packages=(git clang-format clang-tidy clazy shellcheck xdotool)
+check_packages=(git clang-format clang-tidy clazy man-db shellcheck xdotool)
 
 purpose=${1:-run}
 packages=("${build_packages[@]}" "${font_packages[@]}")
