@@ -114,7 +114,11 @@ ExitCode writeStart(Options &options, QSize size)
                     QStringLiteral("--config \"%1\" cannot be read").arg(config.filePath()));
     MainWindow tool(nullptr, hiddenStart(config.filePath()));
     if (!options.isSet("size"))
-        size = tool.findChild<DrawCtrlForm *>()->storedSize().boundedTo({sides.most, sides.most});
+        size = tool.findChild<DrawCtrlForm *>()->storedSize();
+    if (qMax(size.width(), size.height()) > sides.most)
+        return fail(WrongOptions, QStringLiteral("the test window of \"%1\" is too large for a "
+                                                 "picture; choose a --size")
+                                      .arg(config.filePath()));
     tool.testWindow().resize(size);
     const auto step = [&tool] { tool.findChild<ScrGridCtrlDialog *>()->slot_TimerOut(); };
     step(); // which comes within a second, and shows a grid

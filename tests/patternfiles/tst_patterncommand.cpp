@@ -84,6 +84,7 @@ constexpr Wrong wrongOptions[] = {
     {"layout --picture missing.png -o file.png", "missing.png"},
     {"layout --picture config.ini -o file.png", "config.ini"},
     {"layout --picture= -o file.png", "--picture"},
+    {"--config config.ini -o file.png", "--size"},
     {"--config missing.ini -o file.png", "missing.ini"},
     {"--config . -o file.png", "--config"},
 };
@@ -108,7 +109,7 @@ void TestPatternCommand::wrongOptions_areSaidInOneLine()
 {
     QFETCH(QString, command);
     QFETCH(QString, word);
-    m_program->add(QStringLiteral("config.ini"), "[setting]\n");
+    m_program->add(QStringLiteral("config.ini"), "[setting]\ntestWindowWidth=32768\n");
     m_program->environment.remove(QStringLiteral("XDG_RUNTIME_DIR")); // as in a service
     QCOMPARE(m_program->run(command), 2);
     QVERIFY2(isOneLine(m_program->errors), m_program->errors.constData());

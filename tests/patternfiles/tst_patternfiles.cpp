@@ -21,6 +21,7 @@ private slots:
     void ending_choosesTheFormat_data();
     void ending_choosesTheFormat();
     void longestSide_isWritten();
+    void largePicture_isDrawnInFull();
     void walk_isThePatternsOfThePageKeys();
     void scrollingFrames_moveByOnePixel();
     void testFrames_areThoseOfTheRun_data();
@@ -28,6 +29,7 @@ private slots:
     void config_isShownAsAfterAStart_data();
     void config_isShownAsAfterAStart();
     void config_isLeftAsItIs();
+    void start_keepsNoScreenAwake();
 
 private:
     QImage imageOf(const QString &command);
@@ -36,6 +38,8 @@ private:
 };
 
 namespace {
+
+const QByteArray picture("P3 2 1 255 1 2 3 200 100 50");
 
 // "x,y,#rrggbb" each, with blanks between.
 QString wrongPixel(const QImage &image, const QString &pixels)
@@ -106,6 +110,7 @@ void TestPatternFiles::options_decideOnThePixels_data()
     add("layout --per-board 1x3", "32,5,#0000ff 5,16,#ff0000 5,32,#ff0000 5,48,#0000ff");
     add("layout --numbers from-right", "0,5,#000000 12,5,#ff0000 44,5,#0000ff 299,5,#0000ff");
     add("layout --background white", "5,5,#ffffff");
+    add("layout --picture picture.ppm", "5,5,#010203 140,5,#010203 170,5,#c86432 295,295,#c86432");
     add("layout --module-colour #123456 --module-line 3", "31,5,#123456 33,5,#123456");
     add("layout --board-colour cyan --board-line 10", "59,5,#00ffff 68,5,#00ffff 70,5,#000000");
 }
@@ -114,6 +119,7 @@ void TestPatternFiles::options_decideOnThePixels()
 {
     QFETCH(QString, command);
     QFETCH(QString, pixels);
+    m_program->add(QStringLiteral("picture.ppm"), picture);
     const QImage image = imageOf(command + QStringLiteral(" --size 300x300"));
     QCOMPARE(image.size(), QSize(300, 300));
     QCOMPARE(wrongPixel(image, pixels), QString());
@@ -154,7 +160,7 @@ void TestPatternFiles::sameCommand_givesTheSameBytes_data()
 void TestPatternFiles::sameCommand_givesTheSameBytes()
 {
     QFETCH(QString, command);
-    m_program->add(QStringLiteral("picture.ppm"), "P3 2 1 255 1 2 3 200 100 50");
+    m_program->add(QStringLiteral("picture.ppm"), picture);
     QCOMPARE(m_program->run(command + QStringLiteral(" -o first.png")), 0);
     const QPair<const char *, const char *> hostile[] = {
         {"QT_QPA_PLATFORM", "xcb"},       {"DISPLAY", ":none"},
@@ -179,6 +185,7 @@ void TestPatternFiles::png_hasEightBitsAndNoColourChunks()
     QCOMPARE(int(png.at(25)), 2); // red, green and blue
     // 96 dots to the inch
     QCOMPARE(png.mid(png.indexOf("pHYs") + 4, 9), QByteArray::fromHex("00000ec400000ec401"));
+    QVERIFY(png.size() < 10000); // compressed
 }
 
 void TestPatternFiles::ending_choosesTheFormat_data()
@@ -214,6 +221,15 @@ void TestPatternFiles::longestSide_isWritten()
     QCOMPARE(wide.size(), QSize(32767, 2));
     QCOMPARE(wrongPixel(wide, QStringLiteral("32760,1,#ff0000 32766,1,#000000")), QString());
     QCOMPARE(imageOf(QStringLiteral("layout --size 2x32767")).size(), QSize(2, 32767));
+}
+
+// Numbers come last and from the top down.
+void TestPatternFiles::largePicture_isDrawnInFull()
+{
+    const QImage image =
+        imageOf(QStringLiteral("layout --modules 16x16 --per-board 4x1 --size 4000x4000"));
+    const QRect lastRows(0, 3800, 4000, 200);
+    QVERIFY(count(image.copy(lastRows), qRgb(255, 255, 0)) > 300);
 }
 
 void TestPatternFiles::walk_isThePatternsOfThePageKeys()
@@ -268,6 +284,13 @@ void TestPatternFiles::testFrames_areThoseOfTheRun_data()
     const QStringList merged{QStringLiteral("5,5,#000080"), QStringLiteral("5,5,#808080"),
                              QStringLiteral("3,5,#800000 4,5,#000000"),
                              QStringLiteral("5,5,#000080")};
+    const QStringList allLines{QStringLiteral("5,5,#000080"),
+                               QStringLiteral("5,2,#800000 5,3,#000000"),
+                               QStringLiteral("3,5,#800000 4,5,#000000"),
+                               QStringLiteral("2,2,#800000 2,3,#000000"),
+                               QStringLiteral("3,48,#800000 3,47,#000000"),
+                               QStringLiteral("5,5,#000080")};
+    QTest::newRow("merged, all lines") << "--run merged --colours blue" << allLines;
     QTest::newRow("aging") << "--run aging" << aging;
     QTest::newRow("merged") << "--run merged --colours white,blue --lines vertical" << merged;
 }
@@ -332,6 +355,16 @@ void TestPatternFiles::config_isLeftAsItIs()
     QVERIFY(QDir(m_program->path(QStringLiteral("walk"))).removeRecursively());
     QCOMPARE(m_program->bytes(QStringLiteral("config.ini")), harmful);
     QCOMPARE(m_program->files(), before);
+}
+
+void TestPatternFiles::start_keepsNoScreenAwake()
+{
+    // Whoever connects to the session's bus starts the program that leaves this file.
+    m_program->environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                                  QStringLiteral("unixexec:path=touch,argv1=")
+                                      + m_program->path(QStringLiteral("connected")));
+    QCOMPARE(m_program->run(QStringLiteral("walk --size 9x9 -o walk")), 0);
+    QCOMPARE(m_program->files(), QStringList(QStringLiteral("walk")));
 }
 
 QTEST_GUILESS_MAIN(TestPatternFiles)
