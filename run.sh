@@ -10,7 +10,7 @@ scripts/setup.sh run
 if [ ! -f build/build.ninja ]; then
   configure release
 fi
-build build --target TarnTestTool tarn_translations
+build build --target TarnTestTool TarnTestPattern tarn_translations
 ensure_runtime_dir
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || [ "$(uname)" = Darwin ]; then

@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <ctime>
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -55,7 +56,8 @@ void measure(const char *command)
         const double painted = milliseconds([&] { picture = pictureOf(QLatin1String(command)); });
         QBuffer file;
         file.open(QIODevice::WriteOnly);
-        const double encoded = milliseconds([&] { PictureFile::encode(picture, file, "png"); });
+        const double encoded =
+            milliseconds([&] { PictureFile::encode(std::move(picture), file, "png"); });
         painting = round == 0 ? painted : std::min(painting, painted);
         encoding = round == 0 ? encoded : std::min(encoding, encoded);
     }

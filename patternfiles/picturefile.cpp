@@ -7,6 +7,8 @@
 #include <QImageWriter>
 #include <QSaveFile>
 
+#include <utility>
+
 namespace PictureFile {
 
 QByteArray format(const QString &path)
@@ -19,11 +21,12 @@ QByteArray format(const QString &path)
 
 QString write(DrawContainer &window, const QString &path)
 {
-    const QImage picture = take(window);
+    QImage picture = take(window);
     if (picture.isNull())
         return QStringLiteral("there is no memory for a picture of that size");
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && encode(picture, file, format(path)) && file.commit())
+    if (file.open(QIODevice::WriteOnly) && encode(std::move(picture), file, format(path))
+        && file.commit())
         return {};
     return file.errorString();
 }

@@ -22,7 +22,7 @@ QString write(DrawContainer &window, const QString &path);
 // not suffice.
 QImage take(DrawContainer &window);
 
-// To an open device. The same picture gives the same bytes.
+// To an open device. The same picture gives the same bytes. One that is handed over is not copied.
 bool encode(QImage picture, QIODevice &device, const QByteArray &format);
 
 } // namespace PictureFile
