@@ -73,15 +73,24 @@ keeps_settings() {
   end_tool
 }
 
+# writes_pattern USER COMMAND: a picture file, without a display.
+writes_pattern() {
+  local file=/home/$1/green.png
+  chroot --userspec="$1" "$root" env -i PATH=/usr/bin:/bin "$2" purity --colour green --size 16x9 -o "$file"
+  [ "$(identify -format '%wx%h %[hex:u.p{15,8}]' "$root$file")" = '16x9 00FF00' ] || fail "$2 writes another picture"
+}
+
 echo 'The portable folder, without Qt'
 in_root sh -c '! ls /usr/lib/*/libQt5* /usr/bin/cc' >/dev/null 2>&1 || fail 'this system has Qt or a compiler'
 in_root sh -c 'apt-get install -qq xz-utils >/dev/null 2>&1; tar -C /home/ben -xf /tmp/packages/*portable.tar.xz && mv /home/ben/TarnTestTool-* /home/ben/portable && chown -R ben: /home/ben/portable'
 keeps_settings portable ben /home/ben/portable/tarntesttool english
+writes_pattern ben /home/ben/portable/tarntestpattern
 
 echo 'The Debian package'
 in_root sh -c 'apt-get install -qq --no-install-recommends /tmp/packages/*.deb' >>"$log" 2>&1 || fail 'the package is not installed'
 own=.local/share/TarnTestTool
 keeps_settings $own ann tarntesttool
+writes_pattern ann TarnTestPattern
 
 echo 'Languages, from the menu and from the desktop'
 entry=$root/usr/share/applications/tarntesttool.desktop

@@ -9,7 +9,7 @@ foreach(plugin IN ITEMS platforms/libqxcb.so platforms/libqoffscreen.so imagefor
 endforeach()
 file(GLOB_RECURSE plugins ${root}/plugins/*.so)
 file(GET_RUNTIME_DEPENDENCIES
-  EXECUTABLES ${root}/TarnTestTool
+  EXECUTABLES ${root}/TarnTestTool ${root}/TarnTestPattern
   MODULES ${plugins}
   RESOLVED_DEPENDENCIES_VAR libraries
   UNRESOLVED_DEPENDENCIES_VAR missing
