@@ -354,7 +354,8 @@ void MainWindow::slot_currentTabWidget(int index)
 void MainWindow::moveOntoScreen()
 {
     const QRect frame = frameGeometry();
-    const QPoint place = ScreenArea::movedInto(frame, ScreenArea::around(frame.center())).topLeft();
+    const QPoint place =
+        ScreenArea::constrained(frame, ScreenArea::around(frame.center())).topLeft();
     if (place != frame.topLeft())
         move(place);
 }

@@ -82,7 +82,7 @@ void CabinetLayout::draw(QPainter &painter) const
 {
     preparePainter(painter);
     for (int layer = 0; layer < LayerCount; ++layer)
-        drawStrokes(painter, Layer(layer), 0, strokeCount(Layer(layer)));
+        drawItems(painter, Layer(layer), 0, itemCount(Layer(layer)));
 }
 
 bool CabinetLayout::isOn(Layer layer) const
@@ -96,31 +96,31 @@ qint64 CabinetLayout::fullCount(Layer layer) const
     return layer == Numbers ? rowCount() * columnCount() : family(layer).count();
 }
 
-qint64 CabinetLayout::strokeCount(Layer layer) const
+qint64 CabinetLayout::itemCount(Layer layer) const
 {
     return isOn(layer) ? fullCount(layer) : 0;
 }
 
 void CabinetLayout::drawLayer(QPainter &painter, Layer layer) const
 {
-    drawStrokes(painter, layer, 0, fullCount(layer));
+    drawItems(painter, layer, 0, fullCount(layer));
 }
 
-void CabinetLayout::drawStrokes(QPainter &painter, Layer layer, qint64 from, qint64 to) const
+void CabinetLayout::drawItems(QPainter &painter, Layer layer, qint64 from, qint64 to) const
 {
     const QPen oldPen = painter.pen();
     if (layer == Numbers) {
         const QFont oldFont = painter.font();
         painter.setPen(numberPen(painter));
         painter.setFont(numberFont(painter));
-        for (qint64 stroke = from; stroke < to; ++stroke)
-            drawNumber(painter, *this, stroke / columnCount(), stroke % columnCount());
+        for (qint64 item = from; item < to; ++item)
+            drawNumber(painter, *this, item / columnCount(), item % columnCount());
         painter.setFont(oldFont);
     } else {
         const LineFamily lines = family(layer);
         painter.setPen(linePen(oldPen, layer));
-        for (qint64 stroke = from; stroke < to; ++stroke)
-            painter.drawLine(lines.line(stroke));
+        for (qint64 item = from; item < to; ++item)
+            painter.drawLine(lines.line(item));
     }
     painter.setPen(oldPen);
 }

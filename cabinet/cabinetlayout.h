@@ -55,7 +55,7 @@ struct LayoutParameters
     QBrush background() const;
 };
 
-// Everything that decides on the layout's pixels, and the rule for what it looks like: strokes
+// Everything that decides on the layout's pixels, and the rule for what it looks like: items
 // in layers, one above the other.
 struct CabinetLayout : LayoutParameters
 {
@@ -78,16 +78,16 @@ struct CabinetLayout : LayoutParameters
     QFont font;
     Qt::LayoutDirection direction = Qt::LeftToRight;
 
-    // Sets up what the strokes take for granted.
+    // Sets up what the items take for granted.
     void preparePainter(QPainter &painter) const;
     void drawBackground(QPainter &painter) const;
     // All layers that are on.
     void draw(QPainter &painter) const;
 
-    // A layer has lines, or numbers row by row, for strokes; none while it is off.
-    qint64 strokeCount(Layer layer) const;
-    void drawStrokes(QPainter &painter, Layer layer, qint64 from, qint64 to) const;
-    // All of its strokes, on or off.
+    // A layer has lines, or numbers row by row, for items; none while it is off.
+    qint64 itemCount(Layer layer) const;
+    void drawItems(QPainter &painter, Layer layer, qint64 from, qint64 to) const;
+    // All of its items, on or off.
     void drawLayer(QPainter &painter, Layer layer) const;
     LineFamily family(Layer layer) const;
     QPen linePen(QPen linePen, Layer layer) const;

@@ -10,7 +10,7 @@ using Layer = CabinetLayout::Layer;
 
 namespace {
 
-constexpr qint64 strokesAtATime = 4;
+constexpr qint64 itemsAtATime = 4;
 constexpr int widestFilledLine = 255;
 
 } // namespace
@@ -32,17 +32,17 @@ void LayoutPicture::drawBackground(QPainter &painter)
     m_numbersReady = isWhole(scale()) && m_numbers.prepare(m_layout, painter);
 }
 
-qint64 LayoutPicture::drawStrokes(QPainter &painter, int layer, qint64 from)
+qint64 LayoutPicture::drawItems(QPainter &painter, int layer, qint64 from)
 {
     if (layer == CabinetLayout::Numbers && m_numbersReady) {
         m_numbers.drawRow(painter, m_layout, from / m_layout.columnCount());
         return from + m_layout.columnCount();
     }
-    const qint64 to = qMin(from + strokesAtATime, strokeCount(layer));
+    const qint64 to = qMin(from + itemsAtATime, itemCount(layer));
     if (canFill(Layer(layer)))
         fillLines(painter, Layer(layer), from, to);
     else
-        m_layout.drawStrokes(painter, Layer(layer), from, to);
+        m_layout.drawItems(painter, Layer(layer), from, to);
     return to;
 }
 
@@ -70,7 +70,7 @@ void LayoutPicture::fillLines(QPainter &painter, Layer layer, qint64 from, qint6
     trace.measure(family, pen.width(), qRound(scale()));
     const QTransform before = painter.worldTransform();
     painter.resetTransform();
-    for (qint64 stroke = from; stroke < to; ++stroke)
-        painter.fillRect(trace.covered(family.position(stroke)), pen.color());
+    for (qint64 item = from; item < to; ++item)
+        painter.fillRect(trace.covered(family.position(item)), pen.color());
     painter.setWorldTransform(before);
 }

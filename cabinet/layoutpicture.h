@@ -20,11 +20,11 @@ public:
 protected:
     void preparePainter(QPainter &painter) const override { m_layout.preparePainter(painter); }
     void drawBackground(QPainter &painter) override;
-    qint64 strokeCount(int layer) const override
+    qint64 itemCount(int layer) const override
     {
-        return m_layout.strokeCount(CabinetLayout::Layer(layer));
+        return m_layout.itemCount(CabinetLayout::Layer(layer));
     }
-    qint64 drawStrokes(QPainter &painter, int layer, qint64 from) override;
+    qint64 drawItems(QPainter &painter, int layer, qint64 from) override;
 
 private:
     bool canFill(CabinetLayout::Layer layer) const;

@@ -42,12 +42,12 @@ void GridPicture::drawBackground(QPainter &painter)
     m_pattern.drawBackground(painter);
 }
 
-qint64 GridPicture::strokeCount(int layer) const
+qint64 GridPicture::itemCount(int layer) const
 {
     return m_pattern.enabled[size_t(layer)] ? m_pattern.family(layer).count() : 0;
 }
 
-qint64 GridPicture::drawStrokes(QPainter &painter, int layer, qint64 from)
+qint64 GridPicture::drawItems(QPainter &painter, int layer, qint64 from)
 {
     painter.drawLine(m_pattern.family(layer).line(from));
     return from + 1;

@@ -16,8 +16,8 @@ public:
 protected:
     void preparePainter(QPainter &painter) const override;
     void drawBackground(QPainter &painter) override;
-    qint64 strokeCount(int layer) const override;
-    qint64 drawStrokes(QPainter &painter, int layer, qint64 from) override;
+    qint64 itemCount(int layer) const override;
+    qint64 drawItems(QPainter &painter, int layer, qint64 from) override;
 
 private:
     GridTiles m_tiles;

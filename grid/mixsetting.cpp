@@ -153,7 +153,7 @@ QLabel *MixSetting::createLabel(const char *text)
 QPushButton *MixSetting::createButton(const char *text, void (MixSetting::*slot)())
 {
     auto *button = new QPushButton;
-    dressButton(button);
+    styleButton(button);
     button->setFixedWidth(buttonWidth);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, slot);

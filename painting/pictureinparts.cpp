@@ -39,10 +39,10 @@ bool PictureInParts::showPart(QPainter &painter, const QSize &size, bool isAnoth
     if (isAnother || m_image.size() != pixels || m_scale != scale
         || m_image.dotsPerMeterY() != resolution) {
         m_scale = scale;
-        begin(pixels, resolution);
+        restart(pixels, resolution);
     }
     if (!isComplete())
-        proceed(clock);
+        paintPart(clock);
     if (m_image.isNull())
         return false;
     const QTransform before = painter.worldTransform();
@@ -60,7 +60,7 @@ void PictureInParts::drop()
     m_layer = m_layerCount;
 }
 
-void PictureInParts::begin(const QSize &pixels, int resolution)
+void PictureInParts::restart(const QSize &pixels, int resolution)
 {
     if (m_image.size() != pixels) {
         drop(); // never two in memory at a time
@@ -76,20 +76,20 @@ void PictureInParts::begin(const QSize &pixels, int resolution)
     preparePainter(painter);
     drawBackground(painter);
     m_layer = 0;
-    m_stroke = 0;
+    m_item = 0;
 }
 
-void PictureInParts::proceed(const QElapsedTimer &clock)
+void PictureInParts::paintPart(const QElapsedTimer &clock)
 {
     QPainter painter(&m_image);
     painter.scale(m_scale, m_scale);
     preparePainter(painter);
     do {
-        if (m_stroke < strokeCount(m_layer)) {
-            m_stroke = drawStrokes(painter, m_layer, m_stroke);
+        if (m_item < itemCount(m_layer)) {
+            m_item = drawItems(painter, m_layer, m_item);
         } else {
             ++m_layer;
-            m_stroke = 0;
+            m_item = 0;
         }
     } while (!isComplete() && clock.elapsed() < partMs - m_blitMs);
 }

@@ -8,7 +8,7 @@ class QPainter;
 // A picture that is painted once and then shown at the price of a blit. One that takes long is
 // painted in parts, one at every show, so that the control window goes on answering.
 //
-// It has strokes in layers, one above the other, over a background.
+// It has items in layers, one above the other, over a background.
 class PictureInParts
 {
 public:
@@ -32,19 +32,19 @@ protected:
     // Before anything is painted, on a painter whose units are pixels.
     virtual void preparePainter(QPainter &painter) const = 0;
     virtual void drawBackground(QPainter &painter) = 0;
-    virtual qint64 strokeCount(int layer) const = 0;
+    virtual qint64 itemCount(int layer) const = 0;
     // A few from this one on, which take a few milliseconds at most; the next one.
-    virtual qint64 drawStrokes(QPainter &painter, int layer, qint64 from) = 0;
+    virtual qint64 drawItems(QPainter &painter, int layer, qint64 from) = 0;
 
 private:
-    void begin(const QSize &pixels, int resolution);
-    void proceed(const QElapsedTimer &clock);
+    void restart(const QSize &pixels, int resolution);
+    void paintPart(const QElapsedTimer &clock);
 
     const int m_layerCount;
     QImage m_image; // in device pixels, of the resolution of what it is shown on
     qreal m_scale = 0;
     qint64 m_blitMs = 15; // of the last show; a guess before the first
-    // The next stroke.
+    // The next item.
     int m_layer;
-    qint64 m_stroke = 0;
+    qint64 m_item = 0;
 };

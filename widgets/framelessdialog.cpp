@@ -80,7 +80,7 @@ QWidget *FramelessDialog::createButtonRow()
     layout->setSpacing(buttonSpacing);
     layout->addStretch();
     for (QPushButton *button : {m_okButton, m_cancelButton}) {
-        dressButton(button);
+        styleButton(button);
         button->show();
         layout->addWidget(button);
     }
@@ -91,7 +91,7 @@ QWidget *FramelessDialog::createButtonRow()
     return row;
 }
 
-void FramelessDialog::dressButton(QAbstractButton *button)
+void FramelessDialog::styleButton(QAbstractButton *button)
 {
     button->setObjectName(QStringLiteral("DialogPushBtn"));
     button->setMinimumWidth(buttonMinimumWidth);
@@ -231,7 +231,7 @@ void FramelessDialog::centreOnParent()
     const QRect area = ScreenArea::around(around ? around->geometry().center() : QPoint());
     QRect place = rect();
     place.moveCenter(around ? around->geometry().center() : area.center());
-    move(ScreenArea::movedInto(place, area).topLeft());
+    move(ScreenArea::constrained(place, area).topLeft());
 }
 
 } // namespace UX::Widgets

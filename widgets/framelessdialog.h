@@ -42,7 +42,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
     // Gives button the look of the buttons in the row.
-    static void dressButton(QAbstractButton *button);
+    static void styleButton(QAbstractButton *button);
 
     // All owned by the dialog and never null.
     TitleBar *m_titleBar = nullptr;

@@ -37,7 +37,7 @@ void FramelessMessageBox::createButtons(QMessageBox::StandardButtons buttons)
     m_buttonBox->setCenterButtons(true);
     const QList<QAbstractButton *> all = m_buttonBox->buttons();
     for (QAbstractButton *button : all) {
-        dressButton(button);
+        styleButton(button);
         button->setIcon(QIcon());
     }
     connect(m_buttonBox, &QDialogButtonBox::clicked, this,

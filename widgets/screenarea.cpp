@@ -16,7 +16,7 @@ QRect around(const QPoint &point)
     return primary ? primary->availableGeometry() : QRect();
 }
 
-QRect movedInto(QRect rectangle, const QRect &area)
+QRect constrained(QRect rectangle, const QRect &area)
 {
     rectangle.moveRight(qMin(rectangle.right(), area.right()));
     rectangle.moveBottom(qMin(rectangle.bottom(), area.bottom()));

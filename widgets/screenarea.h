@@ -12,6 +12,6 @@ QRect around(const QPoint &point);
 
 // The rectangle moved by as little as brings it into the area; at the area's top left
 // when it is larger.
-QRect movedInto(QRect rectangle, const QRect &area);
+QRect constrained(QRect rectangle, const QRect &area);
 
 } // namespace ScreenArea

@@ -12,8 +12,8 @@ class TestScreenArea : public QObject
 private slots:
     void around_isTheScreenOfThePoint();
     void around_isThePrimaryScreenForAPointOnNone();
-    void movedInto_movesAsLittleAsNeeded_data();
-    void movedInto_movesAsLittleAsNeeded();
+    void constrained_movesAsLittleAsNeeded_data();
+    void constrained_movesAsLittleAsNeeded();
 };
 
 void TestScreenArea::around_isTheScreenOfThePoint()
@@ -28,7 +28,7 @@ void TestScreenArea::around_isThePrimaryScreenForAPointOnNone()
              QGuiApplication::primaryScreen()->availableGeometry());
 }
 
-void TestScreenArea::movedInto_movesAsLittleAsNeeded_data()
+void TestScreenArea::constrained_movesAsLittleAsNeeded_data()
 {
     const Table<QRect, QPoint> row("rectangle", "topLeft");
     row("inside", {100, 100, 50, 40}, {100, 100});
@@ -40,11 +40,11 @@ void TestScreenArea::movedInto_movesAsLittleAsNeeded_data()
     row("larger than the area", {20, 20, 300, 300}, {0, 0});
 }
 
-void TestScreenArea::movedInto_movesAsLittleAsNeeded()
+void TestScreenArea::constrained_movesAsLittleAsNeeded()
 {
     QFETCH(QRect, rectangle);
     QFETCH(QPoint, topLeft);
-    QCOMPARE(ScreenArea::movedInto(rectangle, QRect(0, 0, 200, 200)),
+    QCOMPARE(ScreenArea::constrained(rectangle, QRect(0, 0, 200, 200)),
              QRect(topLeft, rectangle.size()));
 }
 
