@@ -298,8 +298,8 @@ void DrawCtrlForm::slot_resetHeight(unsigned int height)
 // A border at the top or the left moves the window too.
 void DrawCtrlForm::slot_drawWidgetSizeChange(int width, int height)
 {
-    place({PlaceKeeper::canPlace() ? testWindow->pos() : m_keeper->place().topLeft(),
-           QSize(width, height)});
+    const QRect known = PlaceKeeper::canPlace() ? testWindow->geometry() : m_keeper->place();
+    place({known.topLeft(), QSize(width, height)});
 }
 
 void DrawCtrlForm::slot_drawWidgetPositionChange(int x, int y)
