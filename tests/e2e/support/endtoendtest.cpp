@@ -116,7 +116,8 @@ bool EndToEndTest::testWindowCovers(const QRect &area)
 {
     if (waitFor([&] { return tool().testWindow().geometry == area; }))
         return true;
-    qWarning() << "The test window covers" << tool().testWindow().geometry << "and not" << area;
+    qWarning() << "The test window covers" << tool().testWindow().geometry << "and not" << area
+               << (tool().isRunning() ? "" : "since the tool has ended") << tool().standardError();
     return false;
 }
 
