@@ -7,12 +7,13 @@ cd "$(dirname "$0")/.."
 . scripts/common.sh
 
 configure release >/dev/null
-if ! cmake --build build --target help | grep -q '^tarn_bench:'; then
+# All of the list is read, or the build tool would complain of a broken pipe.
+if ! cmake --build build --target help | grep '^tarn_bench:' >/dev/null; then
   echo "bench: Google Benchmark is missing (Debian: libbenchmark-dev)." >&2
   exit 1
 fi
 build build --target tarn_bench tarn_filetime
-if cmake --build build --target help | grep -q '^tarn_tickrate:'; then
+if cmake --build build --target help | grep '^tarn_tickrate:' >/dev/null; then
   build build --target tarn_tickrate
 fi
 ensure_runtime_dir
