@@ -45,7 +45,6 @@ private:
     void chooseScreen();
     void look();
     void check();
-    void followManager();
     void insist();
     void put();
     void keepState();

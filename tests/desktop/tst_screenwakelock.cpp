@@ -89,6 +89,7 @@ private slots:
 private:
     QDBusConnection bus() const { return QDBusConnection(QStringLiteral("desktop")); }
     void offerScreenSaver();
+    void showUnanswered();
     void deliverAnswers() const;
 
     QProcess m_daemon;
@@ -119,6 +120,15 @@ void tst_ScreenWakeLock::offerScreenSaver()
     QVERIFY(bus().registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), m_desktop.get(),
                                  QDBusConnection::ExportAllSlots));
     QVERIFY(bus().registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
+}
+
+void tst_ScreenWakeLock::showUnanswered()
+{
+    offerScreenSaver();
+    m_desktop->answersLate = true;
+    new ScreenWakeLock(m_window.get());
+    m_window->show();
+    QTRY_COMPARE(m_desktop->reasons.size(), 1);
 }
 
 // What has been answered before, and what was asked of the bus itself, arrives before this returns.
@@ -176,11 +186,7 @@ void tst_ScreenWakeLock::destroyed_givesBack()
 
 void tst_ScreenWakeLock::hiddenBeforeTheAnswer_givesBackWhatComes()
 {
-    offerScreenSaver();
-    m_desktop->answersLate = true;
-    new ScreenWakeLock(m_window.get());
-    m_window->show();
-    QTRY_COMPARE(m_desktop->reasons.size(), 1);
+    showUnanswered();
     m_window->hide();
     bus().send(m_desktop->waiting.createReply(QVariant(7U)));
     QTRY_COMPARE(m_desktop->givenBack, QVector<uint>{7});
@@ -223,11 +229,7 @@ void tst_ScreenWakeLock::withoutEither_isQuietAndAsksAgainWhenShownAgain()
 
 void tst_ScreenWakeLock::shownAgainBeforeTheRefusal_asksAgain()
 {
-    offerScreenSaver();
-    m_desktop->answersLate = true;
-    new ScreenWakeLock(m_window.get());
-    m_window->show();
-    QTRY_COMPARE(m_desktop->reasons.size(), 1);
+    showUnanswered();
     m_window->hide();
     m_window->show();
     bus().send(m_desktop->waiting.createErrorReply(QDBusError::Failed, QString()));
