@@ -307,6 +307,7 @@ void ScrGridCtrlDialog::gridBtnClick()
 void ScrGridCtrlDialog::initTimer(int speed)
 {
     timer = std::make_shared<QTimer>(this);
+    timer->setTimerType(Qt::PreciseTimer); // a coarse one gains a step in a hundred
     timer->start(m_run.interval(speed));
     connect(timer.get(), &QTimer::timeout, this, &Panel::slot_TimerOut);
 }

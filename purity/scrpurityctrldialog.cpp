@@ -234,6 +234,7 @@ void ScrPurityCtrlDialog::slot_SpeedChanged(int speed)
         return;
     delete autoTimer;
     autoTimer = new QTimer(this);
+    autoTimer->setTimerType(Qt::PreciseTimer); // a coarse one gains a step in a hundred
     connect(autoTimer, &QTimer::timeout, this, &ScrPurityCtrlDialog::slot_AutoTimerFinished);
     autoTimer->start(stepIntervalMs(speed));
     CommonHelper::setQPushButtonText(ui->buttonPauseResume, tr("暂停"));
