@@ -76,6 +76,17 @@ void Mouse::doubleClick(const QPoint &position, Qt::MouseButton clicked)
     m_windows.syncWithWindowManager();
 }
 
+// To the X server a step of the wheel is a click of one more button.
+void Mouse::turnWheel(const QPoint &position, int steps)
+{
+    move(position);
+    for (int step = 0; step < std::abs(steps); ++step) {
+        for (const int isPress : {True, False})
+            XTestFakeButtonEvent(m_connection.display(), steps > 0 ? 4 : 5, isPress, CurrentTime);
+    }
+    m_windows.syncWithWindowManager();
+}
+
 void Mouse::drag(const QPoint &from, const QPoint &to)
 {
     move(from);

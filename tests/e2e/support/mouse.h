@@ -23,6 +23,8 @@ public:
     void release(Qt::MouseButton released = Qt::LeftButton);
     void click(const QPoint &position, Qt::MouseButton clicked = Qt::LeftButton);
     void doubleClick(const QPoint &position, Qt::MouseButton clicked = Qt::LeftButton);
+    /// Upwards (away from the user) for a positive number of steps.
+    void turnWheel(const QPoint &position, int steps);
     /// Presses the left button at \a from, moves to \a to pixel by pixel along
     /// the straight line, and releases it there.
     void drag(const QPoint &from, const QPoint &to);

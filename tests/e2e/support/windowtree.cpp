@@ -2,13 +2,13 @@
 
 #include "waiting.h"
 
+#include <algorithm>
+
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
 namespace {
-/// Root, frame, a layer inside the frame, client.
-constexpr int DeepestTopLevel = 3;
 /// The source indication of a pager: acts without asking for the user's time.
 constexpr long FromPager = 2;
 } // namespace
@@ -26,29 +26,35 @@ WindowTree::WindowTree(XConnection &connection)
 QVector<WindowInfo> WindowTree::ofProcess(qint64 processId) const
 {
     QVector<WindowInfo> found;
-    if (processId > 0)
-        collect(m_connection.root(), 0, processId, found);
+    const QVector<WindowId> all = topLevels();
+    for (const WindowId window : all) {
+        if (processId > 0
+            && m_connection.firstItem(window, "_NET_WM_PID")
+                   == static_cast<unsigned long>(processId))
+            found.append(info(window));
+    }
     return found;
 }
 
-void WindowTree::collect(WindowId parent, int depth, qint64 processId,
-                         QVector<WindowInfo> &found) const
+/// Those that the window manager has in frames of its own it lists; the others are the root's.
+QVector<WindowId> WindowTree::topLevels() const
 {
+    const QByteArray managed = m_connection.property(m_connection.root(), "_NET_CLIENT_LIST");
+    QVector<WindowId> all(managed.size() / static_cast<int>(sizeof(WindowId)));
+    std::copy_n(managed.constData(), all.size() * sizeof(WindowId),
+                reinterpret_cast<char *>(all.data()));
     Window root = 0;
     Window above = 0;
     Window *children = nullptr;
     unsigned int count = 0;
-    if (!XQueryTree(m_connection.display(), parent, &root, &above, &children, &count))
-        return;
+    XQueryTree(m_connection.display(), m_connection.root(), &root, &above, &children, &count);
     for (unsigned int i = 0; i < count; ++i) {
-        const WindowInfo child = info(children[i]);
-        if (child.processId == processId)
-            found.append(child);
-        else if (depth + 1 < DeepestTopLevel)
-            collect(children[i], depth + 1, processId, found);
+        if (!all.contains(children[i]))
+            all.append(children[i]);
     }
     if (children)
         XFree(children);
+    return all;
 }
 
 WindowInfo WindowTree::info(WindowId window) const
@@ -200,6 +206,11 @@ bool WindowTree::answersPing(WindowId window, int deadlineMs)
 bool WindowTree::hasWindowManager() const
 {
     return m_connection.firstItem(m_connection.root(), "_NET_SUPPORTING_WM_CHECK") != 0;
+}
+
+void WindowTree::useOneDesktop()
+{
+    askWindowManager(m_connection.root(), "_NET_NUMBER_OF_DESKTOPS", 1, 0);
 }
 
 bool WindowTree::syncWithWindowManager()

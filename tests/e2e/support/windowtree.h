@@ -77,6 +77,8 @@ public:
     bool answersPing(WindowId window, int deadlineMs = 10000);
 
     bool hasWindowManager() const;
+    /// Leaves one virtual desktop, so that nothing can switch to another.
+    void useOneDesktop();
     /// Returns when the window manager has handled all events until now; false
     /// if it does not within the usual deadline.
     bool syncWithWindowManager();
@@ -84,7 +86,7 @@ public:
 private:
     WindowId createWindow(const QRect &place, QRgb colour);
     std::unique_ptr<OwnWindow> show(WindowId window);
-    void collect(WindowId parent, int depth, qint64 processId, QVector<WindowInfo> &found) const;
+    QVector<WindowId> topLevels() const;
     void askWindowManager(WindowId window, const char *message, long first, long second);
 
     XConnection &m_connection;
