@@ -16,6 +16,8 @@ constexpr const char *scalingVariables[] = {
 };
 
 constexpr const char *platformVariable = "QT_QPA_PLATFORM";
+// What Qt's X11 platform loads OpenGL by.
+constexpr const char *openGlVariable = "QT_XCB_GL_INTEGRATION";
 
 bool isWaylandSession()
 {
@@ -34,6 +36,8 @@ void prepare()
 
     if (isWaylandSession() && qEnvironmentVariableIsEmpty(platformVariable))
         qputenv(platformVariable, "xcb;wayland");
+    if (qEnvironmentVariableIsEmpty(openGlVariable))
+        qputenv(openGlVariable, "none");
 }
 
 } // namespace DisplayEnvironment

@@ -11,6 +11,7 @@ namespace {
 constexpr int usualDepth = 32; // bits to a pixel
 constexpr qint64 maxDecodedBits = qint64(16384) * 16384 * usualDepth;
 constexpr qint64 maxKeptPixels = qint64(8192) * 8192;
+constexpr int forgetMs = 10000;
 constexpr qint64 maxFileBytes = maxDecodedBits / 8 + 64 * 1024; // no compression, and a header
 
 int decoded = 0;
@@ -87,6 +88,16 @@ QImage decode(const QString &path)
 
 } // namespace
 
+PictureLoader::PictureLoader()
+{
+    m_forget.setSingleShot(true);
+    m_forget.setInterval(forgetMs);
+    QObject::connect(&m_forget, &QTimer::timeout, [this] {
+        m_path.clear();
+        m_picture = QImage();
+    });
+}
+
 bool PictureLoader::isFile(const QString &path)
 {
     QFile file(path);
@@ -102,6 +113,7 @@ bool PictureLoader::isPicture(const QString &path)
 
 QImage PictureLoader::load(const QString &path)
 {
+    m_forget.start();
     const QFileInfo file(path);
     if (path == m_path && file.lastModified() == m_modified && file.size() == m_bytes)
         return m_picture;

@@ -3,13 +3,17 @@
 #include <QDateTime>
 #include <QImage>
 #include <QString>
+#include <QTimer>
 
 // Decodes the picture files that the operator or the settings name, in a bounded amount of
 // memory whatever they hold, and keeps the last picture: its thumbnail, every size of the test
-// window and another choice of the same file take one decoding together.
+// window and another choice of the same file take one decoding together, until ten seconds have
+// gone by without any.
 class PictureLoader
 {
 public:
+    PictureLoader();
+
     // Whether it can be read and is a regular file (no folder, no pipe, no device).
     static bool isFile(const QString &path);
 
@@ -30,4 +34,5 @@ private:
     QDateTime m_modified;
     qint64 m_bytes = 0;
     QImage m_picture;
+    QTimer m_forget; // runs from the last use
 };

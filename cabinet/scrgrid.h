@@ -56,6 +56,7 @@ public:
 
     // False while the layout takes some more paints to be complete.
     bool isDrawnInFull() const override { return m_picture.isComplete(); }
+    void dropPictures() override { m_picture.drop(); }
 
 private:
     using Layer = CabinetLayout::Layer;

@@ -21,6 +21,7 @@ public:
     void draw(bool paint) override;
     bool coversWindow() const override { return m_pattern.background.alpha() == 255; }
     bool isDrawnInFull() const override { return m_picture.isComplete(); }
+    void dropPictures() override { m_picture.drop(); }
 
     // One family each over the test window's size, enabled or not, with the painter's pen.
     void drawHoriLines(QPainter &painter) { drawFamily(painter, LineFamily::Horizontal); }

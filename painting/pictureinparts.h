@@ -16,6 +16,9 @@ public:
 
     bool isComplete() const { return m_layer == m_layerCount; }
 
+    // Not shown for now: its memory is given back, and it is painted again when it is shown.
+    void drop();
+
 protected:
     explicit PictureInParts(int layerCount);
 
@@ -23,8 +26,6 @@ protected:
     // for another screen. False where it cannot be shown so: by a painter that does more than
     // move and scale, or where memory does not suffice.
     bool showPart(QPainter &painter, const QSize &size, bool isAnother);
-    // Not shown for now: its memory is given back.
-    void drop();
 
     // Device pixels to a pixel.
     qreal scale() const { return m_scale; }

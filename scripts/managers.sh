@@ -2,7 +2,7 @@
 # Runs the checks of the test window's place under X11 window managers and Wayland compositors, and
 # writes a table with a row for each check to build/managers.md. Fails if a check does, or if a
 # manager is missing. With --random it does N random operations under each X11 window manager
-# instead, from TARN_RANDOM_SEED on.
+# instead, from TARN_SOAK_SEED on.
 #
 # Usage: scripts/managers.sh [--random N] [MANAGER...]
 set -euo pipefail
@@ -15,7 +15,7 @@ compositors=(kwin_wayland mutter_wayland)
 if [ "${1:-}" = --random ]; then
   tests=(tst_e2e_random)
   compositors=()
-  export TARN_RANDOM_OPERATIONS=$2
+  export TARN_SOAK_COUNT=$2
   export QTEST_FUNCTION_TIMEOUT=$(($2 * 30000)) # milliseconds
   shift 2
 fi

@@ -18,6 +18,8 @@
 #include <QTimer>
 #include <QToolTip>
 
+#include <utility>
+
 namespace {
 
 constexpr int refreshIntervalMs = 100;
@@ -234,7 +236,9 @@ void DrawContainer::paintBackground()
 
 void DrawContainer::paintEvent(QPaintEvent * /*event*/)
 {
-    shownDrawer = drawerToShow();
+    DrawerBase *before = std::exchange(shownDrawer, drawerToShow());
+    if (before && before != shownDrawer)
+        before->dropPictures();
     if (!shownDrawer || !shownDrawer->coversWindow())
         paintBackground();
     if (shownDrawer)

@@ -28,6 +28,10 @@ public:
     // False while draw(true) has to be called again for the picture to be complete.
     virtual bool isDrawnInFull() const { return true; }
 
+    // Another drawer is painted from now on: gives back the pictures that were kept to be shown
+    // again.
+    virtual void dropPictures() { }
+
     // The drawer has something to show. The test window goes on painting the drawer
     // that was shown before until the selected one is active.
     bool active = false;

@@ -16,11 +16,13 @@ private slots:
     void waylandSession_asksForItsXServerFirst();
     void chosenPlatform_stays();
     void otherSession_choosesNothing();
+    void openGl_isLoadedOnlyWhereItIsAskedFor();
 };
 
 void TestDisplayEnvironment::init()
 {
-    for (const char *variable : {"WAYLAND_DISPLAY", "XDG_SESSION_TYPE", "QT_QPA_PLATFORM"})
+    for (const char *variable :
+         {"WAYLAND_DISPLAY", "XDG_SESSION_TYPE", "QT_QPA_PLATFORM", "QT_XCB_GL_INTEGRATION"})
         qunsetenv(variable);
 }
 
@@ -69,6 +71,15 @@ void TestDisplayEnvironment::otherSession_choosesNothing()
     qputenv("XDG_SESSION_TYPE", "x11");
     DisplayEnvironment::prepare();
     QVERIFY(!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"));
+}
+
+void TestDisplayEnvironment::openGl_isLoadedOnlyWhereItIsAskedFor()
+{
+    DisplayEnvironment::prepare();
+    QCOMPARE(qgetenv("QT_XCB_GL_INTEGRATION"), QByteArray("none"));
+    qputenv("QT_XCB_GL_INTEGRATION", "xcb_egl");
+    DisplayEnvironment::prepare();
+    QCOMPARE(qgetenv("QT_XCB_GL_INTEGRATION"), QByteArray("xcb_egl"));
 }
 
 QTEST_APPLESS_MAIN(TestDisplayEnvironment)

@@ -11,6 +11,12 @@
 #include <QSpinBox>
 #include <QtTest>
 
+// Freed memory is not to be kept for the address sanitizer's sake.
+extern "C" const char *__asan_default_options()
+{
+    return "quarantine_size_mb=0";
+}
+
 namespace {
 
 constexpr int msPerMinute = 60 * 1000;

@@ -2,6 +2,7 @@
 #include "picturefolder.h"
 #include "pictureloader.h"
 #include "rows.h"
+#include "simulatedclock.h"
 
 #include <QDateTime>
 #include <QImage>
@@ -102,6 +103,7 @@ private slots:
     void nameForAFineScreen_changesNoPicture();
     void file_isDecodedOncePerChange();
     void anotherFileOfTheSameSizeAndAge_isDecoded();
+    void decodedPicture_isForgottenAfterTenSecondsAtRest();
     void header_isReadWithoutDecoding();
     void whatIsNoReadableFile_isNone_data();
     void whatIsNoReadableFile_isNone();
@@ -285,6 +287,22 @@ void TestPictureLoader::anotherFileOfTheSameSizeAndAge_isDecoded()
         setAge(path);
         QCOMPARE(loader.load(path).pixelColor(0, 0), color);
     }
+}
+
+void TestPictureLoader::decodedPicture_isForgottenAfterTenSecondsAtRest()
+{
+    SimulatedClock::start();
+    const QString path = m_folder.add(PictureFolder::encoded(noise(QImage::Format_RGB32)));
+    PictureLoader loader;
+    const int before = PictureLoader::decodedCount();
+    for (int use = 0; use < 3; ++use) {
+        QVERIFY(!loader.load(path).isNull());
+        QCOMPARE(PictureLoader::decodedCount(), before + 1);
+        SimulatedClock::run(9000);
+    }
+    SimulatedClock::run(2000);
+    QVERIFY(!loader.load(path).isNull());
+    QCOMPARE(PictureLoader::decodedCount(), before + 2);
 }
 
 void TestPictureLoader::header_isReadWithoutDecoding()

@@ -1,5 +1,6 @@
 #include "dummyserver.h"
 #include "endtoendtest.h"
+#include "longrun.h"
 #include "waiting.h"
 
 #include <QRandomGenerator>
@@ -7,8 +8,8 @@
 
 /// What an operator may do to the test window, in a random order: after each step the window, and
 /// soon after the file, are as a small model says. Each step starts from what the panel shows, so
-/// a panel that shows something else is found out by the next one. TARN_RANDOM_OPERATIONS says how
-/// many steps, TARN_RANDOM_SEED where to begin, TARN_WINDOW_MANAGER under which window manager.
+/// a panel that shows something else is found out by the next one. TARN_SOAK_COUNT says how
+/// many steps, TARN_SOAK_SEED where to begin, TARN_WINDOW_MANAGER under which window manager.
 class tst_e2e_random : public EndToEndTest
 {
     Q_OBJECT
@@ -57,11 +58,6 @@ constexpr QRect tst_e2e_random::Second;
 namespace {
 /// The placement panel's number fields, from the control window's corner.
 constexpr QPoint Fields[] = {{525, 84}, {525, 114}, {525, 144}, {525, 174}};
-
-int fromEnvironment(const char *name, int otherwise)
-{
-    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
-}
 } // namespace
 
 std::unique_ptr<VirtualDesktop> tst_e2e_random::createDesktop() const
@@ -235,12 +231,12 @@ bool tst_e2e_random::agrees()
 
 void tst_e2e_random::windowAndFile_agreeWithTheModel()
 {
-    const int seed = fromEnvironment("TARN_RANDOM_SEED", 1);
-    m_random.seed(static_cast<quint32>(seed));
+    const quint32 seed = LongRun::seed(1);
+    m_random.seed(seed);
     QVERIFY2(m_server->unplug(QStringLiteral("DUMMY1")), qPrintable(m_server->outputProblem()));
     QVERIFY(startToolAt(m_place));
     QVERIFY(agrees());
-    const int count = fromEnvironment("TARN_RANDOM_OPERATIONS", 60);
+    const int count = LongRun::count(60);
     QStringList done;
     while (done.size() < count) {
         QVERIFY(tool().focusControlWindow() && settle());
@@ -254,7 +250,7 @@ void tst_e2e_random::windowAndFile_agreeWithTheModel()
                 QStringLiteral("Seed %1, step %2: %3").arg(seed).arg(done.size()).arg(last)));
         }
     }
-    qInfo("Seed %d, %d steps", seed, count);
+    qInfo("Seed %u, %d steps", seed, count);
 }
 
 QTEST_GUILESS_MAIN(tst_e2e_random)
