@@ -30,6 +30,7 @@
 #include <QTabBar>
 #include <QTimer>
 #include <QToolButton>
+#include <QToolTip>
 
 using Gradient = GradualChangeCtrlWidget;
 using Grid = ScrGridCtrlDialog;
@@ -104,6 +105,7 @@ void MainWindow::initCtrls()
     setWindowTitle(tr("显示屏测试工具-Tarn"));
     new ScreenWakeLock(&m_testWindow);
     titleBar()->addSign(new DisplaySign(&m_testWindow, this));
+    QToolTip::setFont(DesktopScale::font(QToolTip::font()));
     setTabs(); // the placement panel shows the test window, unless it was left hidden
     DesktopScale::apply(this);
 }

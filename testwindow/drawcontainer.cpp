@@ -39,15 +39,6 @@ int widestLine(const QString &text, const QFontMetrics &metrics)
     return widest;
 }
 
-// The same number of pixels on every desktop, however dense its screens are: that of 96 dots per
-// inch.
-QFont inPixels(QFont font)
-{
-    if (font.pointSizeF() > 0)
-        font.setPixelSize(qRound(font.pointSizeF() * 96 / 72));
-    return font;
-}
-
 QPoint globalPosition(const QMouseEvent &event)
 {
     return event.screenPos().toPoint();
@@ -82,12 +73,7 @@ DrawContainer::~DrawContainer() = default;
 void DrawContainer::initContextMenu()
 {
     hideAction = new QAction(this);
-    // The menu is a control, and its font follows the dots per inch alone.
-    if (DesktopScale::factor() > 1) {
-        QFont scaled = inPixels(font());
-        scaled.setPixelSize(qRound(scaled.pixelSize() * DesktopScale::factor()));
-        hideAction->setFont(scaled);
-    }
+    hideAction->setFont(DesktopScale::font(font()));
     addAction(hideAction);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(hideAction, &QAction::triggered, this, &DrawContainer::slot_hideWindow);
@@ -252,7 +238,7 @@ void DrawContainer::paintEvent(QPaintEvent * /*event*/)
 void DrawContainer::drawMousePos()
 {
     QPainter painter(this);
-    painter.setFont(inPixels(font()));
+    painter.setFont(DesktopScale::inPixels(font()));
     painter.setPen(Qt::white);
     const QPoint pointer = mapFromGlobal(QCursor::pos());
     QString text;
@@ -266,11 +252,11 @@ void DrawContainer::drawMousePos()
 
 void DrawContainer::drawHelperInfo()
 {
-    const int widest = widestLine(helpText, QFontMetrics(inPixels(font())));
+    const int widest = widestLine(helpText, QFontMetrics(DesktopScale::inPixels(font())));
     if (width() < widest + helperInfoMargin)
         return;
     QPainter painter(this);
-    painter.setFont(inPixels(font()));
+    painter.setFont(DesktopScale::inPixels(font()));
     painter.setPen(Qt::white);
     const QPoint topLeft(width() - widest - helperInfoMargin, height() - helperInfoHeight);
     painter.drawText(QRect(topLeft, size()), 0, helpText);

@@ -1,5 +1,7 @@
 #include "colordialog.h"
 
+#include "desktopscale.h"
+
 #include <QColorDialog>
 
 #include <utility>
@@ -21,6 +23,7 @@ QColor ask(const QColor &initial, QWidget *parent, QColorDialog::ColorDialogOpti
         return answer(initial);
     QColorDialog dialog(parent);
     dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    dialog.setFont(DesktopScale::font(dialog.font()));
     dialog.setOptions(options);
     dialog.setCurrentColor(initial);
     dialog.exec();

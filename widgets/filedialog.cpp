@@ -1,5 +1,7 @@
 #include "filedialog.h"
 
+#include "desktopscale.h"
+
 #include <QFileDialog>
 
 #include <utility>
@@ -24,6 +26,7 @@ QString getOpenFileName(QWidget *parent, const QString &title, const QString &st
         return answer(start);
     QFileDialog dialog(parent, title, start, filter);
     dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    dialog.setFont(DesktopScale::font(dialog.font()));
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted)
         return {};

@@ -10,14 +10,13 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QtMath>
 
 namespace {
 
 // The room that the indicator of a check box or radio button takes, in pixels.
 int indicatorWidth()
 {
-    return qFloor(20 * DesktopScale::factor());
+    return DesktopScale::scaled(20);
 }
 
 using KeySignal = void (CommonHelper::*)();

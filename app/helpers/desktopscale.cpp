@@ -1,6 +1,7 @@
 #include "desktopscale.h"
 
 #include <QBoxLayout>
+#include <QFrame>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QMainWindow>
@@ -12,6 +13,7 @@ namespace DesktopScale {
 namespace {
 
 constexpr qreal unscaledDotsPerInch = 96;
+constexpr qreal pointsPerInch = 72;
 
 // 0 until it is asked for or used.
 qreal &current()
@@ -26,13 +28,15 @@ qreal inSteps(qreal factor)
     return qBound(1.0, qRound(factor * stepsPerUnit) / qreal(stepsPerUnit), 4.0);
 }
 
-// Rounded down, so that what stands side by side or in a row goes on having its room.
-int scaled(int length)
+// A corner's. Qt leaves a corner right-angled where two of them are longer than a side, of which
+// each part has been rounded down.
+int scaledRadius(int radius)
 {
-    return qFloor(length * factor());
+    const qreal exact = radius * factor();
+    return qFloor(exact) < exact ? qFloor(exact - 0.5) : qFloor(exact);
 }
 
-QMargins scaled(const QMargins &margins)
+QMargins scaledMargins(const QMargins &margins)
 {
     return {scaled(margins.left()), scaled(margins.top()), scaled(margins.right()),
             scaled(margins.bottom())};
@@ -70,7 +74,7 @@ QSize scaledSize(const QWidget &widget)
 
 void scaleLayout(QLayout *layout)
 {
-    layout->setContentsMargins(scaled(layout->contentsMargins()));
+    layout->setContentsMargins(scaledMargins(layout->contentsMargins()));
     if (auto *grid = qobject_cast<QGridLayout *>(layout)) {
         grid->setHorizontalSpacing(scaled(grid->horizontalSpacing()));
         grid->setVerticalSpacing(scaled(grid->verticalSpacing()));
@@ -99,7 +103,9 @@ void scaleTree(QWidget *widget)
         widget->setGeometry({corner, size});
     else if (widget->testAttribute(Qt::WA_Resized))
         widget->resize(size);
-    widget->setContentsMargins(scaled(widget->contentsMargins()));
+    const auto *frame = qobject_cast<QFrame *>(widget);
+    if (!frame || frame->frameWidth() == 0) // others hold the room of the frame
+        widget->setContentsMargins(scaledMargins(widget->contentsMargins()));
     if (widget->layout() && !qobject_cast<QMainWindow *>(widget))
         scaleLayout(widget->layout());
     const auto children = widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
@@ -125,17 +131,40 @@ qreal factor()
     return current();
 }
 
+// So that what stands side by side or in a row goes on having its room.
+int scaled(int length)
+{
+    return qFloor(length * factor());
+}
+
+QFont inPixels(QFont font)
+{
+    if (font.pointSizeF() > 0)
+        font.setPixelSize(qRound(font.pointSizeF() * unscaledDotsPerInch / pointsPerInch));
+    return font;
+}
+
+QFont font(QFont unscaled)
+{
+    if (factor() > 1 && unscaled.pointSizeF() > 0)
+        unscaled.setPixelSize(qRound(inPixels(unscaled).pixelSize() * factor()));
+    return unscaled;
+}
+
 QString styleSheet(const QString &text)
 {
     if (factor() <= 1)
         return text;
-    static const QRegularExpression length(QStringLiteral("\\b(\\d+)px"));
+    static const QRegularExpression length(QStringLiteral("(radius: *)?\\b(\\d+)px"));
     QString scaledText;
     int copied = 0;
     for (auto found = length.globalMatch(text); found.hasNext();) {
         const QRegularExpressionMatch match = found.next();
-        scaledText += text.midRef(copied, match.capturedStart() - copied)
-                      + QString::number(scaled(match.captured(1).toInt())) + QStringLiteral("px");
+        const int pixels = match.captured(2).toInt();
+        scaledText +=
+            text.midRef(copied, match.capturedStart(2) - copied)
+            + QString::number(match.captured(1).isEmpty() ? scaled(pixels) : scaledRadius(pixels))
+            + QStringLiteral("px");
         copied = match.capturedEnd();
     }
     scaledText += text.midRef(copied);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QString>
 
 class QWidget;
@@ -15,6 +16,15 @@ void request(const QString &factor);
 // From 1 to 4 in steps of a quarter: the one asked for, otherwise the primary screen's logical
 // dots per inch over 96 at the first use.
 qreal factor();
+
+// A font of points in pixels: as many on every desktop, however dense its screens are.
+QFont inPixels(QFont font);
+
+// The same for a control; at a factor of 1 the font as it is.
+QFont font(QFont unscaled);
+
+// Rounded down.
+int scaled(int length);
 
 // The rest does nothing at a factor of 1.
 

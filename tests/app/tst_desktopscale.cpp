@@ -3,6 +3,7 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
+#include <QLabel>
 #include <QtTest>
 
 class tst_DesktopScale : public QObject
@@ -17,6 +18,7 @@ private slots:
     void apply_scalesPlacesAndLimits();
     void apply_scalesLayouts();
     void apply_leavesWhatTheStyleSheetSized();
+    void apply_leavesTheRoomOfAFrame();
     void apply_leavesOtherWindowsAndAScaleOfOne();
 };
 
@@ -53,6 +55,10 @@ void tst_DesktopScale::styleSheet_scalesItsLengths_data()
                        "image: url(:/Resource/Image4x/up.png); color: #101010 }"));
     row("three", "3", QStringLiteral("width:12px;height:7px"),
         QStringLiteral("width:36px;height:21px"));
+    const QString disc = QStringLiteral("border: 2px; border-radius: 7px; width: 10px");
+    row("whole radius", "2", disc, QStringLiteral("border: 4px; border-radius: 14px; width: 20px"));
+    row("radius of parts that are rounded down", "1.75", disc,
+        QStringLiteral("border: 3px; border-radius: 11px; width: 17px"));
 }
 
 void tst_DesktopScale::styleSheet_scalesItsLengths()
@@ -119,6 +125,19 @@ void tst_DesktopScale::apply_leavesWhatTheStyleSheetSized()
     QCOMPARE(field.geometry(), QRect(20, 20, 70, 60));
     QCOMPARE(field.minimumHeight(), 60);
     QCOMPARE(field.maximumWidth(), 70);
+}
+
+void tst_DesktopScale::apply_leavesTheRoomOfAFrame()
+{
+    DesktopScale::request(QStringLiteral("2"));
+    QWidget window;
+    QLabel label(&window);
+    label.setStyleSheet(QStringLiteral("border: 4px solid; margin-right: 14px"));
+    label.ensurePolished();
+    const QMargins room = label.contentsMargins();
+    QCOMPARE(room, QMargins(4, 4, 18, 4));
+    DesktopScale::apply(&window);
+    QCOMPARE(label.contentsMargins(), room);
 }
 
 void tst_DesktopScale::apply_leavesOtherWindowsAndAScaleOfOne()

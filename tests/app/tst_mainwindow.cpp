@@ -197,10 +197,14 @@ void TestMainWindow::window_followsTheScaleOfTheDesktop()
 {
     start();
     const QSize size = m_window->size();
+    const QFont toolTips = QToolTip::font();
     DesktopScale::request(QStringLiteral("2"));
     start();
+    const int toolTip = QToolTip::font().pixelSize();
+    QToolTip::setFont(toolTips);
     DesktopScale::request(QStringLiteral("1"));
     QCOMPARE(m_window->size(), 2 * size);
+    QCOMPARE(toolTip, 2 * qRound(toolTips.pointSizeF() * 96 / 72));
 }
 
 void TestMainWindow::titleBar_hasTheSignOfTheDisplay()

@@ -1,9 +1,11 @@
 #include "colordialog.h"
+#include "desktopscale.h"
 #include "rows.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QDesktopWidget>
+#include <QLabel>
 #include <QTimer>
 #include <QtTest>
 
@@ -17,6 +19,7 @@ private slots:
     void answer_isAskedWithTheInitialColour();
     void withoutAnswer_theOperatorIsAskedAboveAllWindows_data();
     void withoutAnswer_theOperatorIsAskedAboveAllWindows();
+    void texts_followTheScaleOfTheControls();
 };
 
 void TestColorDialog::answer_isAskedWithTheInitialColour()
@@ -60,6 +63,19 @@ void TestColorDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows()
     QVERIFY(!parent);
     QVERIFY(onTop);
     QCOMPARE(chosen, accepted ? QColor(Qt::magenta) : QColor());
+}
+
+void TestColorDialog::texts_followTheScaleOfTheControls()
+{
+    QFont font;
+    DesktopScale::request(QStringLiteral("2"));
+    QTimer::singleShot(0, this, [&font] {
+        font = QApplication::activeModalWidget()->findChild<QLabel *>()->font();
+        QApplication::activeModalWidget()->close();
+    });
+    ColorDialog::getColor(Qt::green);
+    DesktopScale::request(QStringLiteral("1"));
+    QCOMPARE(font.pixelSize(), 2 * DesktopScale::inPixels(QApplication::font()).pixelSize());
 }
 
 QTEST_MAIN(TestColorDialog)

@@ -1,9 +1,11 @@
+#include "desktopscale.h"
 #include "filedialog.h"
 #include "rows.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QLabel>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
@@ -18,6 +20,7 @@ private slots:
     void answer_isAskedWithWhereTheDialogBegins();
     void withoutAnswer_theOperatorIsAskedAboveAllWindows_data();
     void withoutAnswer_theOperatorIsAskedAboveAllWindows();
+    void texts_followTheScaleOfTheControls();
 };
 
 void TestFileDialog::answer_isAskedWithWhereTheDialogBegins()
@@ -63,6 +66,19 @@ void TestFileDialog::withoutAnswer_theOperatorIsAskedAboveAllWindows()
         &parent, QStringLiteral("title"), file.fileName(), QStringLiteral("Pictures (*.png)"));
     QVERIFY(asExpected);
     QCOMPARE(chosen, accepted ? file.fileName() : QString());
+}
+
+void TestFileDialog::texts_followTheScaleOfTheControls()
+{
+    QFont font;
+    DesktopScale::request(QStringLiteral("2"));
+    QTimer::singleShot(0, this, [&font] {
+        font = QApplication::activeModalWidget()->findChild<QLabel *>()->font();
+        QApplication::activeModalWidget()->close();
+    });
+    FileDialog::getOpenFileName(nullptr, QString(), QStringLiteral("."), QString());
+    DesktopScale::request(QStringLiteral("1"));
+    QCOMPARE(font.pixelSize(), 2 * DesktopScale::inPixels(QApplication::font()).pixelSize());
 }
 
 QTEST_MAIN(TestFileDialog)
