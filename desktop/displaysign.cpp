@@ -5,7 +5,6 @@
 
 #include <QGuiApplication>
 #include <QScreen>
-#include <QStyle>
 #include <QTimer>
 #include <QWindow>
 
@@ -14,8 +13,6 @@
 namespace {
 
 constexpr int checkIntervalMs = 2000; // an altered gamma ramp is told by no event
-constexpr int side = 16;
-constexpr int gap = 6; // to the title and to the buttons
 
 QVector<QRect> screenPlaces()
 {
@@ -32,8 +29,6 @@ DisplaySign::DisplaySign(const QWidget *window, QWidget *parent)
     : QLabel(parent)
     , m_window(window)
 {
-    setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side));
-    setContentsMargins(gap, 0, gap, 0);
     hide();
     auto *timer = new QTimer(this);
     connect(timer, &QTimer::timeout, this, &DisplaySign::check);

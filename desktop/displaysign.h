@@ -6,7 +6,7 @@
 #include <QVector>
 
 // A sign that appears while the screens that a window lies on show something else than what is
-// painted there; its tool tip says why.
+// painted there; its tool tip says why. The style sheet gives it its picture.
 class DisplaySign : public QLabel
 {
     Q_OBJECT

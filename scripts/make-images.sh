@@ -68,6 +68,7 @@ title_buttons()
             draw "$source" "$images/titleBar/btn_${button}_$state@2x.png" 56x56 "$css"
         done
     done
+    draw titlebar-sign "$images/titleBar/sign.png" 16x16
 }
 
 # check NAME CSS: a check box indicator at one and at two times its size.

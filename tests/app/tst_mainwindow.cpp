@@ -44,6 +44,7 @@ private slots:
     void window_hasItsFixedSize();
     void window_followsTheScaleOfTheDesktop();
     void window_hasItsIconAndTitle();
+    void titleBar_hasTheSignOfTheDisplay_data();
     void titleBar_hasTheSignOfTheDisplay();
     void window_comesBackFromAScreenThatIsGone();
     void spareGridDrawer_belongsToTheWindow();
@@ -207,10 +208,32 @@ void TestMainWindow::window_followsTheScaleOfTheDesktop()
     QCOMPARE(toolTip, 2 * qRound(toolTips.pointSizeF() * 96 / 72));
 }
 
+void TestMainWindow::titleBar_hasTheSignOfTheDisplay_data()
+{
+    addRows<int>("scale", {{"one", 1}, {"four", 4}});
+}
+
 void TestMainWindow::titleBar_hasTheSignOfTheDisplay()
 {
+    QFETCH(int, scale);
+    DesktopScale::request(QString::number(scale));
     start();
-    QVERIFY(m_window->titleBar()->findChild<DisplaySign *>());
+    DesktopScale::request(QStringLiteral("1"));
+    auto *sign = m_window->titleBar()->findChild<DisplaySign *>();
+    QVERIFY(sign);
+    sign->resize(sign->sizeHint());
+    QRegion yellow;
+    const QImage shown = sign->grab().toImage();
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            if (shown.pixelColor(x, y) == QColor(255, 210, 30))
+                yellow += QRect(x, y, 1, 1);
+        }
+    }
+    const QRect field(8 * scale, 3 * scale, 12 * scale, 11 * scale);
+    const QRect picture(6 * scale, 0, 16 * scale, 16 * scale);
+    QVERIFY(yellow.boundingRect().contains(field));
+    QVERIFY(picture.contains(yellow.boundingRect()));
 }
 
 void TestMainWindow::window_hasItsIconAndTitle()

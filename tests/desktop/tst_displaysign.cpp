@@ -41,7 +41,6 @@ void tst_DisplaySign::windowPartlyOff_showsTheSignThatSaysSo()
     rig.window.show();
     rig.sign.check();
     QVERIFY(rig.sign.isVisible());
-    QVERIFY(rig.sign.sizeHint().width() >= 16);
     QCOMPARE(rig.sign.toolTip(), QStringLiteral("测试窗口有一部分不在任何屏幕上"));
     QCOMPARE(rig.sign.accessibleName(), rig.sign.toolTip());
 }

@@ -79,6 +79,7 @@ void TestResources::image_decodesAtItsSize_data()
             addImage(name + QStringLiteral("@2x.png"), {56, 56});
         }
     }
+    addImage(QStringLiteral("titleBar/sign.png"), {16, 16});
     for (const char *name :
          {"btn_ArrowDown_normalDouble", "btn_ArrowDown_disableDouble", "btn_ArrowUp_normalDouble",
           "combBox_normal", "combBox_down", "combBox_disabled"})
