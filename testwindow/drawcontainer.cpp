@@ -273,6 +273,14 @@ void DrawContainer::enterEvent(QEvent * /*event*/)
     m_pointerRest->start();
 }
 
+// It would come back unseen where a dialog keeps its moves from this window.
+void DrawContainer::leaveEvent(QEvent * /*event*/)
+{
+    m_pointerRest->stop();
+    if (cursor().shape() == Qt::BlankCursor)
+        setCursor(WindowEdge::cursor(edge));
+}
+
 void DrawContainer::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)

@@ -45,6 +45,8 @@ private slots:
     void rest_hidesThePointerUntilItsNextMove();
     void rest_withoutAMoveSinceItCameHidesThePointer();
     void rest_whileTheWindowIsHeldKeepsThePointer();
+    void leaving_keepsThePointerForItsReturn_data();
+    void leaving_keepsThePointerForItsReturn();
     void move_beginsTheRestAgain();
 
 private:
@@ -199,6 +201,24 @@ void TestDrawContainerPointer::rest_whileTheWindowIsHeldKeepsThePointer()
     m_pointer->release(centre + QPoint(10, 0));
     rest();
     QCOMPARE(m_window->cursor().shape(), Qt::BlankCursor);
+}
+
+// It may come back while a dialog keeps its moves from the window.
+void TestDrawContainerPointer::leaving_keepsThePointerForItsReturn_data()
+{
+    addRows<bool>("rests", {{"at once", false}, {"after a rest", true}});
+}
+
+void TestDrawContainerPointer::leaving_keepsThePointerForItsReturn()
+{
+    QFETCH(bool, rests);
+    m_pointer->move(centre);
+    if (rests)
+        rest();
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(m_window.get(), &leave);
+    QVERIFY(!m_timer->isActive());
+    QCOMPARE(m_window->cursor().shape(), Qt::ArrowCursor);
 }
 
 void TestDrawContainerPointer::move_beginsTheRestAgain()
