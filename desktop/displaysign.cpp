@@ -23,6 +23,13 @@ QVector<QRect> screenPlaces()
     return places;
 }
 
+// Null under Wayland, which tells no program where its windows are.
+QRect placeOf(const QWidget &window)
+{
+    const bool isTold = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    return isTold ? window.geometry() : QRect();
+}
+
 } // namespace
 
 DisplaySign::DisplaySign(const QWidget *window, QWidget *parent)
@@ -45,7 +52,7 @@ void DisplaySign::check()
 
 QStringList DisplaySign::faults()
 {
-    const QRect place = m_window->geometry();
+    const QRect place = placeOf(*m_window);
     const QVector<QRect> screens = screenPlaces();
     if (screens != m_screens) {
         m_screens = screens;

@@ -1,4 +1,5 @@
 #include "childprocess.h"
+#include "displaysign.h"
 #include "drawcontainer.h"
 #include "drawctrlform.h"
 #include "sessionbus.h"
@@ -24,6 +25,7 @@ private slots:
     void cleanup();
 
     void panel_saysThatItCannotPlaceTheTestWindow();
+    void sign_doesNotGuessThePlace();
     void fullScreen_fillsTheScreenOfThePlaceAndComesBack_data();
     void fullScreen_fillsTheScreenOfThePlaceAndComesBack();
     void sizeFromTheCompositor_isShownAndNotStored();
@@ -91,6 +93,16 @@ void tst_e2e_wayland::panel_saysThatItCannotPlaceTheTestWindow()
 {
     const auto *line = m_panel->findChild<QLabel *>(QStringLiteral("labelWayland"));
     QVERIFY(line && line->isVisible());
+}
+
+/// Whether it is wider than the screen that it happens to be on is not known.
+void tst_e2e_wayland::sign_doesNotGuessThePlace()
+{
+    startAt(Second.topLeft());
+    m_testWindow->resize(Second.width() + 100, 300);
+    DisplaySign sign(m_testWindow.get());
+    sign.check();
+    QCOMPARE(sign.toolTip(), QString());
 }
 
 void tst_e2e_wayland::fullScreen_fillsTheScreenOfThePlaceAndComesBack_data()
