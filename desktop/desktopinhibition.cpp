@@ -4,6 +4,7 @@
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
 #include <QFile>
 #include <QVariantMap>
 
@@ -23,16 +24,26 @@ QString reason()
     return QStringLiteral("A test pattern is shown");
 }
 
+QString screenSaverService()
+{
+    return QStringLiteral("org.freedesktop.ScreenSaver");
+}
+
+QString portalService()
+{
+    return QStringLiteral("org.freedesktop.portal.Desktop");
+}
+
 QDBusMessage screenSaver(const QString &method)
 {
-    const QString name = QStringLiteral("org.freedesktop.ScreenSaver");
-    return QDBusMessage::createMethodCall(name, QStringLiteral("/org/freedesktop/ScreenSaver"),
-                                          name, method);
+    return QDBusMessage::createMethodCall(screenSaverService(),
+                                          QStringLiteral("/org/freedesktop/ScreenSaver"),
+                                          screenSaverService(), method);
 }
 
 QDBusMessage portal(const QString &path, const QString &interface, const QString &method)
 {
-    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.portal.Desktop"), path,
+    return QDBusMessage::createMethodCall(portalService(), path,
                                           QStringLiteral("org.freedesktop.portal.") + interface,
                                           method);
 }
@@ -49,7 +60,24 @@ void DesktopInhibition::setHeld(bool held)
 {
     m_held = held && hasSessionBus();
     m_asksAgain = m_held && m_asking;
+    if (m_held && !m_watcher)
+        watchServices();
     settle();
+}
+
+// What a service had granted went with it.
+void DesktopInhibition::watchServices()
+{
+    m_watcher = new QDBusServiceWatcher(this);
+    m_watcher->setConnection(QDBusConnection::sessionBus());
+    m_watcher->setWatchedServices({screenSaverService(), portalService()});
+    connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString &name, const QString & /*before*/, const QString &now) {
+                if (m_release.service() == name)
+                    m_release = {};
+                if (!now.isEmpty())
+                    settle();
+            });
 }
 
 // While a service has not answered nothing is asked or given back.

@@ -3,6 +3,8 @@
 #include <QDBusMessage>
 #include <QObject>
 
+class QDBusServiceWatcher;
+
 // Asks the desktop over the session bus not to become idle: its screen saver service, or the
 // portal where there is none. The bus drops what a program asked for when the program is gone.
 class DesktopInhibition : public QObject
@@ -14,10 +16,11 @@ public:
     // Gives back what is held.
     ~DesktopInhibition() override;
 
-    // Without a session bus, or where neither service answers, nothing happens.
+    // Without a session bus nothing happens. A service that comes later, or again, is asked then.
     void setHeld(bool held);
 
 private:
+    void watchServices();
     void settle();
     void askScreenSaver();
     void askPortal();
@@ -25,6 +28,7 @@ private:
     void call(const QDBusMessage &request, Answer answer);
     void answered(const QDBusMessage &release);
 
+    QDBusServiceWatcher *m_watcher = nullptr; // from the first time on that something is asked
     bool m_held = false; // as asked for by the owner
     bool m_asking = false; // a service has not answered yet
     bool m_asksAgain = false; // should it refuse: wanted once more in the meantime

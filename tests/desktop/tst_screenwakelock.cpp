@@ -84,11 +84,13 @@ private slots:
     void shownBeforeTheLock_isHeldAtOnce();
     void withoutScreenSaver_asksThePortal();
     void withoutEither_isQuietAndAsksAgainWhenShownAgain();
+    void serviceThatComesLaterOrAgain_isAsked();
     void shownAgainBeforeTheRefusal_asksAgain();
 
 private:
     QDBusConnection bus() const { return QDBusConnection(QStringLiteral("desktop")); }
     void offerScreenSaver();
+    void withdrawServices() const;
     void showUnanswered();
     void deliverAnswers() const;
 
@@ -145,6 +147,11 @@ void tst_ScreenWakeLock::deliverAnswers() const
 void tst_ScreenWakeLock::cleanup()
 {
     m_window.reset();
+    withdrawServices();
+}
+
+void tst_ScreenWakeLock::withdrawServices() const
+{
     bus().unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
     bus().unregisterService(QStringLiteral("org.freedesktop.portal.Desktop"));
     bus().unregisterObject(QStringLiteral("/org"), QDBusConnection::UnregisterTree);
@@ -225,6 +232,27 @@ void tst_ScreenWakeLock::withoutEither_isQuietAndAsksAgainWhenShownAgain()
     m_window->hide();
     m_window->show();
     QTRY_COMPARE(m_desktop->reasons.size(), 1);
+}
+
+// As at the start of a session, or when the desktop's service crashes.
+void tst_ScreenWakeLock::serviceThatComesLaterOrAgain_isAsked()
+{
+    new ScreenWakeLock(m_window.get());
+    m_window->show();
+    deliverAnswers(); // there is no screen saver
+    deliverAnswers(); // nor a portal
+    for (int time = 1; time <= 2; ++time) {
+        offerScreenSaver();
+        QTRY_COMPARE(m_desktop->reasons.size(), time);
+        deliverAnswers();
+        withdrawServices();
+        deliverAnswers();
+    }
+    m_window->hide();
+    offerScreenSaver();
+    deliverAnswers();
+    QCOMPARE(m_desktop->reasons.size(), 2);
+    QVERIFY(m_desktop->givenBack.isEmpty()); // what had granted it is gone
 }
 
 void tst_ScreenWakeLock::shownAgainBeforeTheRefusal_asksAgain()
