@@ -43,9 +43,8 @@ QDBusMessage screenSaver(const QString &method)
 
 QDBusMessage portal(const QString &path, const QString &interface, const QString &method)
 {
-    return QDBusMessage::createMethodCall(portalService(), path,
-                                          QStringLiteral("org.freedesktop.portal.") + interface,
-                                          method);
+    return QDBusMessage::createMethodCall(
+        portalService(), path, QStringLiteral("org.freedesktop.portal.") + interface, method);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "compositorserver.h"
 #include "dummyserver.h"
 #include "endtoendtest.h"
 #include "waiting.h"
@@ -12,6 +13,7 @@ class tst_e2e_displaysign : public EndToEndTest
 
 private slots:
     void alteredGamma_showsTheSignUntilItIsBack();
+    void scalingCompositor_showsTheSign();
 
 protected:
     std::unique_ptr<VirtualDesktop> createDesktop() const override;
@@ -52,6 +54,20 @@ void tst_e2e_displaysign::alteredGamma_showsTheSignUntilItIsBack()
     QVERIFY(waitFor([&] { return titleBar() != before; }));
     QVERIFY(setGamma(QStringLiteral("1:1:1")));
     QVERIFY(waitFor([&] { return titleBar() == before; }));
+}
+
+void tst_e2e_displaysign::scalingCompositor_showsTheSign()
+{
+    VirtualDesktop scaled(std::make_unique<CompositorServer>(QStringLiteral("kwin_wayland"),
+                                                             VirtualDesktop::DefaultSize, 1.5));
+    QVERIFY2(scaled.start(), qPrintable(scaled.problem()));
+    ToolProcess program(scaled);
+    program.setEnvironment(QStringLiteral("WAYLAND_DISPLAY"),
+                           scaled.runtimeDirectory() + QStringLiteral("/wayland-0"));
+    QVERIFY2(program.start(), qPrintable(program.problem()));
+    QVERIFY(waitFor([&] {
+        return scaled.screen().count(program.controlWindow().geometry, qRgb(255, 210, 30)) > 0;
+    }));
 }
 
 QTEST_GUILESS_MAIN(tst_e2e_displaysign)

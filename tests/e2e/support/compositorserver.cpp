@@ -14,10 +14,11 @@ exec tail --pid=$PPID -f /dev/null
 
 } // namespace
 
-CompositorServer::CompositorServer(const QString &name, const QSize &size)
+CompositorServer::CompositorServer(const QString &name, const QSize &size, qreal scale)
     : XServer(QProcess::MergedChannels) // one of them forwards the error output alone
     , m_name(name)
     , m_size(size)
+    , m_scale(scale)
 {
     QFile file(path("session"));
     if (file.open(QIODevice::WriteOnly))
@@ -44,6 +45,8 @@ QStringList CompositorServer::arguments() const
                 QString::number(m_size.width()),
                 QStringLiteral("--height"),
                 QString::number(m_size.height()),
+                QStringLiteral("--scale"),
+                QString::number(m_scale),
                 QStringLiteral("--exit-with-session"),
                 path("session")};
     }

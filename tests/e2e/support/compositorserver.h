@@ -9,8 +9,9 @@
 class CompositorServer : public XServer
 {
 public:
-    /// \a name is what the environment variable TARN_WINDOW_MANAGER calls it.
-    CompositorServer(const QString &name, const QSize &size);
+    /// \a name is what the environment variable TARN_WINDOW_MANAGER calls it. One of KWin's is
+    /// scaled by \a scale.
+    CompositorServer(const QString &name, const QSize &size, qreal scale = 1);
 
     bool isCompositor() const override { return true; }
 
@@ -24,5 +25,6 @@ private:
 
     QString m_name;
     QSize m_size;
+    qreal m_scale;
     QTemporaryDir m_directory;
 };

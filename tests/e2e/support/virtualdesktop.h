@@ -35,6 +35,9 @@ public:
 
     QString displayName() const { return m_server->displayName(); }
 
+    /// The XDG_RUNTIME_DIR of the server and the window manager.
+    QString runtimeDirectory() const { return m_configDirectory.path(); }
+
     // The rest may be used once start() returned true.
     XConnection &connection() { return *m_connection; }
     Keyboard &keyboard() { return *m_keyboard; }
