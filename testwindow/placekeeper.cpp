@@ -295,6 +295,8 @@ void PlaceKeeper::followState()
 {
     m_isFull = m_window->isFullScreen();
     m_window->winId(); // it may never have been shown
-    m_screen = m_window->windowHandle()->screen()->name();
+    // Qt does not look again when it is the screens that have moved.
+    const QScreen *screen = canPlace() ? QGuiApplication::screenAt(actual().center()) : nullptr;
+    m_screen = (screen ? screen : m_window->windowHandle()->screen())->name();
     request();
 }

@@ -21,6 +21,7 @@ private slots:
     void negativePlace_isObeyed();
     void fullScreen_coversTheScreenOfTheTestWindow_data();
     void fullScreen_coversTheScreenOfTheTestWindow();
+    void fullScreen_coversTheScreenThatHasComeBelowTheTestWindow();
     void unplugging_keepsTheTestWindow_andPluggingInBringsItBack();
     void fullScreen_comesBackWithItsScreen();
     void fullScreen_followsItsScreenOutsideTheManagersHands();
@@ -219,6 +220,23 @@ void tst_e2e_screens::fullScreen_coversTheScreenOfTheTestWindow()
 
     desktop().keyboard().key("f", Qt::ShiftModifier);
     QVERIFY(testWindowCovers(screen));
+    desktop().keyboard().key("f", Qt::ShiftModifier);
+    QVERIFY(testWindowCovers(place));
+}
+
+void tst_e2e_screens::fullScreen_coversTheScreenThatHasComeBelowTheTestWindow()
+{
+    const QRect place(100, 100, 256, 256);
+    plugIn("--right-of");
+    QVERIFY(startToolAt(place));
+    QVERIFY(testWindowCovers(place));
+    plugIn("--left-of"); // the window stays where it is, and so Qt looks no further
+    handleScreenChange();
+
+    desktop().keyboard().key("f", Qt::ShiftModifier);
+    QVERIFY(testWindowCovers(Left));
+    handleScreenChange();
+    QVERIFY(testWindowCovers(Left));
     desktop().keyboard().key("f", Qt::ShiftModifier);
     QVERIFY(testWindowCovers(place));
 }
