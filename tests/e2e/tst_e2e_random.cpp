@@ -1,55 +1,31 @@
 #include "dummyserver.h"
-#include "endtoendtest.h"
 #include "longrun.h"
+#include "placementmodeltest.h"
 #include "waiting.h"
 
-#include <QRandomGenerator>
 #include <QTest>
 
 /// What an operator may do to the test window, in a random order: after each step the window, and
 /// soon after the file, are as a small model says. Each step starts from what the panel shows, so
 /// a panel that shows something else is found out by the next one. TARN_SOAK_COUNT says how
 /// many steps, TARN_SOAK_SEED where to begin, TARN_WINDOW_MANAGER under which window manager.
-class tst_e2e_random : public EndToEndTest
+class tst_e2e_random : public PlacementModelTest
 {
     Q_OBJECT
 
 private slots:
     void windowAndFile_agreeWithTheModel();
 
-protected:
-    std::unique_ptr<VirtualDesktop> createDesktop() const override;
-
 private:
     /// Does one step to the model and to the program, and says which; empty if it is not possible
     /// just now.
     QString step();
-    QString pressArrow();
-    QString toggleVisibility();
-    QString toggleFullScreen();
-    QString drag();
+    QString dragNearby();
     QString typeNumber();
     QString switchScreen();
 
-    int random(int count) { return m_random.bounded(count); }
-    QRect desktopRect() const { return m_isSecondOn ? First | Second : First; }
-    /// The sums of the screens' widths and heights, which the panel's ranges come from.
-    QSize sums() const { return m_isSecondOn ? First.size() + Second.size() : First.size(); }
-    QRect screenOfCentre() const;
-    /// Whether the desktop has no room for the window, so that nothing is to be said about it.
-    bool isAway() const;
-    bool agrees();
-    bool settle();
-
     static constexpr QRect First = QRect(QPoint(0, 0), DummyServer::OutputSize);
     static constexpr QRect Second = First.translated(First.width(), 0);
-
-    mutable DummyServer *m_server = nullptr; // owned by the desktop
-    QRandomGenerator m_random;
-    QRect m_place{200, 150, 300, 300};
-    QRect m_screen; // that the window fills, null if none
-    bool m_isShown = true;
-    bool m_isSecondOn = false;
 };
 
 constexpr QRect tst_e2e_random::First;
@@ -58,92 +34,32 @@ constexpr QRect tst_e2e_random::Second;
 namespace {
 /// The placement panel's number fields, from the control window's corner.
 constexpr QPoint Fields[] = {{525, 84}, {525, 114}, {525, 144}, {525, 174}};
+
+QString first()
+{
+    return QStringLiteral("DUMMY0");
+}
+
+QString second()
+{
+    return QStringLiteral("DUMMY1");
+}
 } // namespace
 
-std::unique_ptr<VirtualDesktop> tst_e2e_random::createDesktop() const
+QString tst_e2e_random::dragNearby()
 {
-    auto server = std::make_unique<DummyServer>();
-    m_server = server.get();
-    return std::make_unique<VirtualDesktop>(std::move(server));
-}
-
-QRect tst_e2e_random::screenOfCentre() const
-{
-    for (const QRect &screen : {First, Second}) {
-        if ((desktopRect() & screen).contains(m_place.center()))
-            return screen;
-    }
-    return {};
-}
-
-bool tst_e2e_random::isAway() const
-{
-    const QRect ranges(1 - sums().width(), 1 - sums().height(), 2 * sums().width() - 1,
-                       2 * sums().height() - 1);
-    return !desktopRect().intersects(m_place) || !ranges.contains(m_place.topLeft())
-           || m_place.width() > sums().width() || m_place.height() > sums().height()
-           || (!m_screen.isNull() && !desktopRect().contains(m_screen));
-}
-
-QString tst_e2e_random::pressArrow()
-{
-    struct Arrow
-    {
-        const char *key;
-        QMargins growth; // what Shift adds to the place
-        QPoint move; // what Ctrl does
-    };
-    const Arrow arrows[] = {{"Left", {0, 0, -1, 0}, {-1, 0}},
-                            {"Right", {0, 0, 1, 0}, {1, 0}},
-                            {"Up", {0, 0, 0, -1}, {0, -1}},
-                            {"Down", {0, 0, 0, 1}, {0, 1}}};
-    const Arrow &arrow = arrows[random(4)];
-    const bool isShift = random(2) != 0;
-    const int count = 1 + random(5);
-    for (int press = 0; press < count; ++press) {
-        desktop().keyboard().key(arrow.key, isShift ? Qt::ShiftModifier : Qt::ControlModifier);
-        m_place = isShift ? m_place + arrow.growth : m_place.translated(arrow.move);
-    }
-    return QStringLiteral("%1 %2 x %3")
-        .arg(QLatin1String(isShift ? "Shift" : "Ctrl"), QLatin1String(arrow.key))
-        .arg(count);
-}
-
-QString tst_e2e_random::toggleVisibility()
-{
-    desktop().keyboard().key("h", Qt::ShiftModifier);
-    m_isShown = !m_isShown;
-    return QStringLiteral("Shift+H");
-}
-
-QString tst_e2e_random::toggleFullScreen()
-{
-    if (m_screen.isNull() && screenOfCentre().isNull())
-        return {};
-    desktop().keyboard().key("f", Qt::ShiftModifier);
-    m_screen = m_screen.isNull() ? screenOfCentre() : QRect();
-    m_isShown = true;
-    return QStringLiteral("Shift+F");
-}
-
-QString tst_e2e_random::drag()
-{
-    const QRect inside = m_place.adjusted(10, 10, -10, -10) & First.adjusted(0, 0, -100, -100);
-    if (!m_isShown || !m_screen.isNull() || inside.width() < 1 || inside.height() < 1)
-        return {};
+    const QRect area = First.adjusted(0, 0, -100, -100);
+    const QPoint from = (m_place.adjusted(10, 10, -10, -10) & area).center();
     // The pointer stops at the edges of the screen.
-    const QPoint to(qMax(0, inside.center().x() + random(81) - 40),
-                    qMax(0, inside.center().y() + random(81) - 40));
-    const QPoint by = to - inside.center();
-    desktop().mouse().drag(inside.center(), to);
-    m_place.translate(by);
-    return QStringLiteral("drag by %1, %2").arg(by.x()).arg(by.y());
+    const int x = qMax(0, from.x() + random(81) - 40);
+    const int y = qMax(0, from.y() + random(81) - 40);
+    return drag(area, {x, y});
 }
 
 QString tst_e2e_random::typeNumber()
 {
     const QRect control = tool().controlWindow().geometry;
-    if (m_isShown && (m_screen.isNull() ? m_place : m_screen).intersects(control))
+    if (m_isShown && target().intersects(control))
         return {};
     const int axis = random(4);
     // A double click selects a number without its sign.
@@ -166,14 +82,16 @@ QString tst_e2e_random::typeNumber()
 
 QString tst_e2e_random::switchScreen()
 {
-    const QString second = QStringLiteral("DUMMY1");
-    const bool isDone = m_isSecondOn ? m_server->unplug(second)
-                                     : m_server->plugIn(second, QStringLiteral("--right-of"),
-                                                        QStringLiteral("DUMMY0"));
+    const bool isOn = m_screens.contains(second());
+    const bool isDone = isOn ? server().unplug(second())
+                             : server().plugIn(second(), QStringLiteral("--right-of"), first());
     if (!isDone)
         return {};
-    m_isSecondOn = !m_isSecondOn;
-    return m_isSecondOn ? QStringLiteral("screen on") : QStringLiteral("screen off");
+    if (isOn)
+        m_screens.remove(second());
+    else
+        m_screens.insert(second(), Second);
+    return isOn ? QStringLiteral("screen off") : QStringLiteral("screen on");
 }
 
 QString tst_e2e_random::step()
@@ -188,7 +106,7 @@ QString tst_e2e_random::step()
         return toggleVisibility();
     case 3:
     case 4:
-        return drag();
+        return dragNearby();
     case 5:
     case 6:
         return typeNumber();
@@ -199,41 +117,12 @@ QString tst_e2e_random::step()
     }
 }
 
-bool tst_e2e_random::settle()
-{
-    for (int turn = 0; turn < 3; ++turn) {
-        if (!desktop().windows().syncWithWindowManager()
-            || !desktop().windows().answersPing(tool().controlWindow().id))
-            return false;
-    }
-    return true;
-}
-
-bool tst_e2e_random::agrees()
-{
-    const QRect place = m_screen.isNull() ? m_place : m_screen;
-    const auto isRight = [&] {
-        const WindowInfo window = tool().testWindow();
-        return isAway()
-               || (window.isMapped == m_isShown && (!m_isShown || window.geometry == place));
-    };
-    if (!waitFor(isRight) || !settle() || !isRight()) {
-        qWarning() << "The window," << (tool().testWindow().isMapped ? "shown" : "hidden") << "at"
-                   << tool().testWindow().geometry << "should be"
-                   << (m_isShown ? "shown" : "hidden") << "at" << place;
-        return false;
-    }
-    const auto isHidden = [&] {
-        return tool().configValue(QStringLiteral("/setting/testWindowVisible")).toBool();
-    };
-    return isStored(m_place) && waitFor([&] { return isHidden() != m_isShown; });
-}
-
 void tst_e2e_random::windowAndFile_agreeWithTheModel()
 {
     const quint32 seed = LongRun::seed(1);
     m_random.seed(seed);
-    QVERIFY2(m_server->unplug(QStringLiteral("DUMMY1")), qPrintable(m_server->outputProblem()));
+    QVERIFY2(server().unplug(second()), qPrintable(server().outputProblem()));
+    m_screens.insert(first(), First);
     QVERIFY(startToolAt(m_place));
     QVERIFY(agrees());
     const int count = LongRun::count(60);

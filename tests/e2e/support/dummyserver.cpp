@@ -16,6 +16,9 @@ Section "Monitor"
   HorizSync 1.0-1000.0
   VertRefresh 1.0-1000.0
   Modeline "1920x1080" 172.80 1920 2040 2248 2576 1080 1081 1084 1118
+  Modeline "1080x1920" 172.80 1080 1160 1280 1480 1920 1921 1924 1946
+  Modeline "1024x1280" 108.00 1024 1104 1216 1376 1280 1281 1284 1308
+  Modeline "768x1024" 65.00 768 808 888 1008 1024 1025 1028 1074
 EndSection
 Section "Device"
   Identifier "Device0"
@@ -76,6 +79,24 @@ bool DummyServer::plugIn(const QString &output, const QString &relation, const Q
 bool DummyServer::unplug(const QString &output)
 {
     return xrandr({QStringLiteral("--output"), output, QStringLiteral("--off")}) && detectOutputs();
+}
+
+bool DummyServer::arrange(const QMap<QString, QRect> &outputs)
+{
+    QStringList arguments;
+    for (auto output = outputs.cbegin(); output != outputs.cend(); ++output) {
+        arguments << QStringLiteral("--output") << output.key();
+        if (output->isNull()) {
+            arguments << QStringLiteral("--off");
+            continue;
+        }
+        const QString mode = modeName(output->size());
+        if (!xrandr({QStringLiteral("--addmode"), output.key(), mode}))
+            return false;
+        arguments << QStringLiteral("--mode") << mode << QStringLiteral("--pos")
+                  << QStringLiteral("%1x%2").arg(output->x()).arg(output->y());
+    }
+    return xrandr(arguments) && detectOutputs();
 }
 
 // An output that is on counts as connected, but the server looks only when it is asked to.

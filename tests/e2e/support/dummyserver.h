@@ -2,6 +2,8 @@
 
 #include "xserver.h"
 
+#include <QMap>
+#include <QRect>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -20,6 +22,10 @@ public:
                 const QSize &size = OutputSize);
     /// Switches an output off. False, with outputProblem() set, if that fails.
     bool unplug(const QString &output);
+    /// Gives each output its place on the desktop, with swapped sides if it is turned: this driver
+    /// turns none itself. A null place switches it off. False, with outputProblem() set, if that
+    /// fails.
+    bool arrange(const QMap<QString, QRect> &outputs);
     QString outputProblem() const { return m_outputProblem; }
 
 protected:
