@@ -152,19 +152,26 @@ void X11Windows::lift(const QVector<WId> &windows)
         return;
     const QVector<xcb_window_t> all = allWindows();
     int highest = -1;
-    const QVector<xcb_window_t> around = frames(managedWindows());
+    // The frames of these windows, if any are left, are about to go.
+    QVector<xcb_window_t> others = managedWindows();
+    for (const WId window : windows)
+        others.removeAll(static_cast<xcb_window_t>(window));
+    const QVector<xcb_window_t> around = frames(others);
     for (const xcb_window_t frame : around)
         highest = qMax(highest, all.indexOf(frame));
     xcb_window_t below = all.value(highest);
     for (const WId window : windows) {
         const auto id = static_cast<xcb_window_t>(window);
-        const quint32 values[] = {below, XCB_STACK_MODE_ABOVE};
-        if (all.indexOf(id) < highest)
-            xcb_configure_window(server(), id,
-                                 XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values);
         // A window manager may hide what it lets go of.
         xcb_map_window(server(), id);
-        highest = qMax(highest, all.indexOf(id));
+        const int height = all.indexOf(id);
+        if (height < 0)
+            continue; // still in its frame
+        const quint32 values[] = {below, XCB_STACK_MODE_ABOVE};
+        if (height < highest)
+            xcb_configure_window(server(), id,
+                                 XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values);
+        highest = qMax(highest, height);
         below = id;
     }
 }
