@@ -20,13 +20,13 @@
 #include "scrpurityctrldialog.h"
 #include "settingsfile.h"
 #include "settingsrules.h"
+#include "storedsettings.h"
 #include "tarntool.h"
 #include "titlebar.h"
 
 #include <QCoreApplication>
 #include <QIcon>
 #include <QScrollArea>
-#include <QSettings>
 #include <QTabBar>
 #include <QTimer>
 #include <QToolButton>
@@ -63,10 +63,10 @@ QString testWindowStyle(const QColor &background)
                             "background-color: white; border: 0px solid black;}");
 }
 
-QSettings *openSettings()
+StoredSettings *openSettings()
 {
-    return SettingsFile::open(
-        QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini"), nullptr);
+    const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini");
+    return new StoredSettings(SettingsFile::values(path), path);
 }
 
 } // namespace
@@ -75,7 +75,7 @@ MainWindow::MainWindow(QWidget *parent)
     : MainWindow(parent, openSettings())
 { }
 
-MainWindow::MainWindow(QWidget *parent, QSettings *settings)
+MainWindow::MainWindow(QWidget *parent, StoredSettings *settings)
     : UX::Utils::AppMainWindow(parent)
     , ui(makeForm<Ui::MainWindow>(this))
     , m_settings(settings)
@@ -318,7 +318,7 @@ void MainWindow::saveSettings()
     m_gradientPanel->saveGradualChangeInfo();
     m_gridPanel->saveWhileRunning();
     m_cabinetPanel->saveTarnBaseInfo();
-    m_settings->sync();
+    m_settings->save();
 }
 
 void MainWindow::slot_SwitchWindow(int index)

@@ -14,11 +14,11 @@ class DrawCtrlForm;
 class DrawerBase;
 class GradualChangeCtrlWidget;
 class QKeyEvent;
-class QSettings;
 class ScrAboutWidget;
 class ScrGridCtrlDialog;
 class ScrHelperCtrlWidget;
 class ScrPurityCtrlDialog;
+class StoredSettings;
 class TarnTool;
 
 namespace Ui {
@@ -34,7 +34,7 @@ class MainWindow : public UX::Utils::AppMainWindow
 public:
     explicit MainWindow(QWidget *parent = nullptr);
     // On other settings than the program's own; takes them over.
-    MainWindow(QWidget *parent, QSettings *settings);
+    MainWindow(QWidget *parent, StoredSettings *settings);
     ~MainWindow() override;
 
     DrawContainer &testWindow() { return m_testWindow; }
@@ -99,5 +99,5 @@ private:
     ScrAboutWidget *m_aboutPanel = nullptr;
     std::unique_ptr<PageCycle> m_pageCycle;
     int currentTabIndex = 0;
-    QSettings *m_settings;
+    StoredSettings *m_settings;
 };

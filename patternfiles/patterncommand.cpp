@@ -10,10 +10,10 @@
 #include "purecolor.h"
 #include "scrgridctrldialog.h"
 #include "settingsfile.h"
+#include "storedsettings.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 
 #include <cstdio>
 
@@ -77,11 +77,11 @@ QString walkName(int step)
            + PatternWords::families().at(step % GridPattern::familyCount);
 }
 
-// For a start on a copy of the file, with the test window hidden, so that nothing keeps the screen
+// For a start on these values alone, with the test window hidden, so that nothing keeps the screen
 // awake for it.
-QSettings *hiddenStart(const QString &settingsFile = {})
+StoredSettings *hiddenStart(const QVariantMap &values = {})
 {
-    QSettings *settings = SettingsFile::openCopy(settingsFile, nullptr);
+    auto *settings = new StoredSettings(values);
     settings->setValue(DrawCtrlForm::hiddenKey, true);
     return settings;
 }
@@ -112,7 +112,7 @@ ExitCode writeStart(Options &options, QSize size)
     if (!config.isFile() || !config.isReadable())
         return fail(WrongOptions,
                     QStringLiteral("--config \"%1\" cannot be read").arg(config.filePath()));
-    MainWindow tool(nullptr, hiddenStart(config.filePath()));
+    MainWindow tool(nullptr, hiddenStart(SettingsFile::values(config.filePath())));
     if (!options.isSet("size"))
         size = tool.findChild<DrawCtrlForm *>()->storedSize();
     if (qMax(size.width(), size.height()) > sides.most)

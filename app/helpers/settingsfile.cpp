@@ -1,15 +1,16 @@
 #include "settingsfile.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QSettings>
-#include <QTemporaryDir>
-
-#include <memory>
+#include <QSysInfo>
+#include <QTemporaryFile>
 
 namespace {
 
@@ -38,7 +39,7 @@ QByteArray read(const QString &path)
     return file.readAll();
 }
 
-bool write(const QString &path, const QByteArray &text)
+bool replace(const QString &path, const QByteArray &text)
 {
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
@@ -54,11 +55,29 @@ bool isPassable(const QString &path)
     return isFile && file.size() <= SettingsFile::maximumSize && (!lock.exists() || lock.isFile());
 }
 
-QSettings *openIni(const QString &path, QObject *parent)
+// A disk that was read-only at that moment has kept a lock of ours, or one without a name, and Qt
+// would wait half a minute for whoever holds it.
+void removeOwnLock(const QString &path)
 {
-    auto *settings = new QSettings(path, QSettings::IniFormat, parent);
-    settings->setIniCodec("UTF-8");
-    return settings;
+    const QString lock = path + QStringLiteral(".lock");
+    qint64 process = 0;
+    QString host;
+    QString program;
+    const bool isNamed = QLockFile(lock).getLockInfo(&process, &host, &program);
+    if (!isNamed
+        || (process == QCoreApplication::applicationPid() && host == QSysInfo::machineHostName()))
+        QFile::remove(lock);
+}
+
+QVariantMap parsed(const QString &path)
+{
+    QSettings file(path, QSettings::IniFormat);
+    file.setIniCodec("UTF-8");
+    QVariantMap values;
+    const QStringList keys = file.allKeys();
+    for (const QString &key : keys)
+        values.insert(key, file.value(key));
+    return values;
 }
 
 } // namespace
@@ -77,24 +96,28 @@ QByteArray SettingsFile::harmlessLines(const QByteArray &text)
     return kept;
 }
 
-QSettings *SettingsFile::open(const QString &path, QObject *parent)
+QVariantMap SettingsFile::values(const QString &path)
 {
     const QByteArray text = read(path);
-    const QByteArray safe = harmlessLines(text);
-    if (isPassable(path) && (safe == text || write(path, safe)))
-        return openIni(path, parent);
-    return openCopy(path, parent);
+    const QByteArray harmless = harmlessLines(text);
+    if (harmless == text && isPassable(path))
+        return parsed(path);
+    QTemporaryFile copy;
+    const bool isCopied = copy.open() && copy.write(harmless) == harmless.size() && copy.flush();
+    return isCopied ? parsed(copy.fileName()) : QVariantMap();
 }
 
-QSettings *SettingsFile::openCopy(const QString &path, QObject *parent)
+bool SettingsFile::write(const QString &path, const QVariantMap &values)
 {
-    const auto place = std::make_shared<QTemporaryDir>();
-    // Below a file nothing can be read or written.
-    const QString copy = place->isValid() ? place->filePath(QStringLiteral("config.ini"))
-                                          : path + QStringLiteral("/none");
-    write(copy, harmlessLines(read(path)));
-    QSettings *settings = openIni(copy, parent);
-    // The settings save once more when they end.
-    QObject::connect(settings, &QObject::destroyed, [place] { place->remove(); });
-    return settings;
+    const QByteArray text = read(path);
+    const QByteArray harmless = harmlessLines(text);
+    if (!isPassable(path) || (harmless != text && !replace(path, harmless)))
+        return false;
+    removeOwnLock(path);
+    QSettings file(path, QSettings::IniFormat);
+    file.setIniCodec("UTF-8");
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        file.setValue(value.key(), value.value());
+    file.sync();
+    return file.status() == QSettings::NoError;
 }

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QVariantMap>
 
 class QByteArray;
-class QObject;
-class QSettings;
 class QString;
 
 // The settings file on the disk, which may hold anything when it is opened.
@@ -19,13 +17,12 @@ constexpr qint64 maximumSize = 8 << 20;
 // or join a line with the next; the program writes none.
 QByteArray harmlessLines(const QByteArray &text);
 
-// Opens the file in INI format and UTF-8, whatever stands in its place; the caller owns the
-// settings, or `parent` does. What the reader would not survive is taken out on the disk first.
-// Where that cannot be done, or where reading or saving would wait for ever, a copy is opened
-// that ends with the settings: nothing is lost but the saving.
-QSettings *open(const QString &path, QObject *parent);
+// The values of the file in INI format and UTF-8, whatever stands in its place; without those that
+// the reader would not survive, and none where reading would wait for ever.
+QVariantMap values(const QString &path);
 
-// The same with a copy in any case; of nothing where there is no file.
-QSettings *openCopy(const QString &path, QObject *parent);
+// Writes them into the file in one step, beside what else is in it but harms the reader. False
+// where that cannot be done, or would wait for ever.
+bool write(const QString &path, const QVariantMap &values);
 
 } // namespace SettingsFile

@@ -3,8 +3,9 @@
 
 #include <QColor>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
-#include <QSettings>
+#include <QLockFile>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -21,7 +22,7 @@ const QByteArray color("@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\x12\\x12\\0\\0\\x
 
 } // namespace
 
-// Opening the settings file, whatever stands in its place.
+// Reading and writing the settings file, whatever stands in its place.
 class TestSettingsFile : public QObject
 {
     Q_OBJECT
@@ -33,12 +34,15 @@ private slots:
     void harmlessLines_takesOutWhatQtWouldTrust();
     void harmlessLines_leavesTheRestAsItIs_data();
     void harmlessLines_leavesTheRestAsItIs();
-    void open_readsWhatTheProgramWrote();
-    void open_takesHarmfulValuesOutOnTheDisk();
-    void open_whereSavingWouldWait_readsAndSavesNothing_data();
-    void open_whereSavingWouldWait_readsAndSavesNothing();
-    void open_aCopyEndsWithTheSettings();
-    void open_aFileTooLarge_startsEmpty();
+    void values_areReadAsTheyWereWritten();
+    void values_areReadWithoutTheHarmfulOnes();
+    void write_takesHarmfulValuesOut();
+    void write_leavesWhatElseIsThere();
+    void write_waitsForNoLockOfThisProgram_data();
+    void write_waitsForNoLockOfThisProgram();
+    void whereReadingOrSavingWouldWait_nothingIsSaved_data();
+    void whereReadingOrSavingWouldWait_nothingIsSaved();
+    void fileThatIsTooLarge_isNeitherReadNorWritten();
 
 private:
     QString path() const { return m_place->filePath(QStringLiteral("config.ini")); }
@@ -118,7 +122,7 @@ void TestSettingsFile::harmlessLines_leavesTheRestAsItIs()
 }
 
 // Every colour that Qt can write, in Qt's own words.
-void TestSettingsFile::open_readsWhatTheProgramWrote()
+void TestSettingsFile::values_areReadAsTheyWereWritten()
 {
     QVariantMap written{{QStringLiteral("setting/text"), QStringLiteral("宽度, =")},
                         {QStringLiteral("setting/number"), QStringLiteral("-12")}};
@@ -128,40 +132,67 @@ void TestSettingsFile::open_readsWhatTheProgramWrote()
         written.insert(QStringLiteral("setting/color%1").arg(number),
                        color.convertTo(QColor::Spec(number % kinds)));
     }
-    {
-        const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
-        for (auto value = written.cbegin(); value != written.cend(); ++value)
-            settings->setValue(value.key(), value.value());
-    }
-    const QByteArray text = read();
-    QVERIFY(text.contains("@Variant("));
+    QVERIFY(SettingsFile::write(path(), written));
+    QVERIFY(read().contains("@Variant("));
+    QCOMPARE(SettingsFile::harmlessLines(read()), read());
+    QCOMPARE(SettingsFile::values(path()), written);
+}
 
-    const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
-    QCOMPARE(settings->allKeys().count(), written.count());
-    for (auto value = written.cbegin(); value != written.cend(); ++value)
-        QCOMPARE(settings->value(value.key()), value.value());
+void TestSettingsFile::values_areReadWithoutTheHarmfulOnes()
+{
+    const QByteArray text = "[setting]\nx=12\nbad=" + pen + "\ncolor=" + color + '\n';
+    write(text);
+    const QVariantMap values = SettingsFile::values(path());
+    QCOMPARE(values.keys(),
+             QStringList({QStringLiteral("setting/color"), QStringLiteral("setting/x")}));
+    QCOMPARE(values.value(QStringLiteral("setting/x")).toInt(), 12);
+    QCOMPARE(values.value(QStringLiteral("setting/color")).value<QColor>(),
+             QColor::fromRgba64(0x1212, 0, 0xffff));
     QCOMPARE(read(), text);
 }
 
-void TestSettingsFile::open_takesHarmfulValuesOutOnTheDisk()
+void TestSettingsFile::write_takesHarmfulValuesOut()
 {
-    write("[setting]\nx=12\nbad=" + pen + "\ncolor=" + color + '\n');
-    const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
-
-    QCOMPARE(settings->fileName(), path());
-    QCOMPARE(read(), "[setting]\nx=12\ncolor=" + color + '\n');
-    QCOMPARE(settings->value(QStringLiteral("setting/x")).toInt(), 12);
-    QCOMPARE(settings->value(QStringLiteral("setting/color")).value<QColor>(),
-             QColor::fromRgba64(0x1212, 0, 0xffff));
+    write("[setting]\nbad=@Variant(" + QByteArray(R"(\0\0\0\x9\0\0\0\x1)").repeated(100000)
+          + ")\n");
+    QVERIFY(SettingsFile::write(path(), {{QStringLiteral("setting/x"), 12}}));
+    QCOMPARE(read(), QByteArray("[setting]\nx=12\n"));
 }
 
-void TestSettingsFile::open_whereSavingWouldWait_readsAndSavesNothing_data()
+void TestSettingsFile::write_leavesWhatElseIsThere()
+{
+    write("[setting]\nx=11\ny=1\n");
+    QVERIFY(SettingsFile::write(path(), {{QStringLiteral("setting/x"), 12}}));
+    QCOMPARE(read(), QByteArray("[setting]\nx=12\ny=1\n"));
+}
+
+void TestSettingsFile::write_waitsForNoLockOfThisProgram_data()
+{
+    addRows<bool>("isNamed", {{"of this program", true}, {"of nobody", false}});
+}
+
+void TestSettingsFile::write_waitsForNoLockOfThisProgram()
+{
+    QFETCH(bool, isNamed);
+    const QString path = this->path() + QStringLiteral(".lock");
+    QLockFile lock(path);
+    QVERIFY(lock.lock());
+    if (!isNamed)
+        QVERIFY(QFile::resize(path, 0));
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QVERIFY(SettingsFile::write(this->path(), {{QStringLiteral("setting/x"), 12}}));
+    QVERIFY2(elapsed.elapsed() < 5000, qPrintable(QString::number(elapsed.elapsed())));
+    QCOMPARE(read(), QByteArray("[setting]\nx=12\n"));
+}
+
+void TestSettingsFile::whereReadingOrSavingWouldWait_nothingIsSaved_data()
 {
     addRows<bool>("isPipe",
                   {{"a pipe in the file's place", true}, {"a folder in the lock's place", false}});
 }
 
-void TestSettingsFile::open_whereSavingWouldWait_readsAndSavesNothing()
+void TestSettingsFile::whereReadingOrSavingWouldWait_nothingIsSaved()
 {
     QFETCH(bool, isPipe);
     const QByteArray text("[setting]\nx=12\n");
@@ -175,39 +206,21 @@ void TestSettingsFile::open_whereSavingWouldWait_readsAndSavesNothing()
         write(text);
         QVERIFY(QDir().mkdir(path() + QStringLiteral(".lock")));
     }
-    const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
-
-    QCOMPARE(settings->value(QStringLiteral("setting/x")).toInt(), isPipe ? 0 : 12);
-    settings->setValue(QStringLiteral("setting/x"), 13);
-    settings->sync();
-    QCOMPARE(settings->value(QStringLiteral("setting/x")).toInt(), 13);
+    const QString key = QStringLiteral("setting/x");
+    QCOMPARE(SettingsFile::values(path()).value(key).toInt(), isPipe ? 0 : 12);
+    QVERIFY(!SettingsFile::write(path(), {{key, 13}}));
     if (!isPipe)
         QCOMPARE(read(), text);
 }
 
-void TestSettingsFile::open_aCopyEndsWithTheSettings()
-{
-    QVERIFY(QDir().mkdir(path() + QStringLiteral(".lock")));
-    std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
-    settings->setValue(QStringLiteral("setting/x"), 13);
-    const QString folder = QFileInfo(settings->fileName()).path();
-    QVERIFY(folder != m_place->path());
-    QVERIFY(QDir(folder).exists());
-
-    settings.reset();
-
-    QVERIFY(!QDir(folder).exists());
-}
-
-void TestSettingsFile::open_aFileTooLarge_startsEmpty()
+void TestSettingsFile::fileThatIsTooLarge_isNeitherReadNorWritten()
 {
     write("[setting]\nx=12\n");
     QFile file(path());
     QVERIFY(file.resize(SettingsFile::maximumSize + 1));
 
-    const std::unique_ptr<QSettings> settings(SettingsFile::open(path(), nullptr));
-
-    QVERIFY(settings->allKeys().isEmpty());
+    QVERIFY(SettingsFile::values(path()).isEmpty());
+    QVERIFY(!SettingsFile::write(path(), {{QStringLiteral("setting/x"), 13}}));
     QCOMPARE(file.size(), SettingsFile::maximumSize + 1);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QTest>
 
 namespace {
@@ -33,7 +34,7 @@ void EndToEndTest::initTestCase()
 void EndToEndTest::cleanup()
 {
     if (QTest::currentTestFailed())
-        saveScreenshot();
+        saveEvidence();
     m_tool.reset();
 }
 
@@ -121,7 +122,7 @@ bool EndToEndTest::testWindowCovers(const QRect &area)
     return false;
 }
 
-void EndToEndTest::saveScreenshot()
+void EndToEndTest::saveEvidence()
 {
     if (!m_desktop || m_desktop->displayName().isEmpty())
         return;
@@ -132,7 +133,11 @@ void EndToEndTest::saveScreenshot()
     if (const char *row = QTest::currentDataTag())
         name +=
             QLatin1Char('-') + QString::fromUtf8(row).replace(QLatin1Char('/'), QLatin1Char('_'));
-    const QString path = folder + QLatin1Char('/') + name + QStringLiteral(".png");
-    if (m_desktop->screen().grab().save(path))
-        qWarning("The screen at that moment: %s", qPrintable(path));
+    const QString path = folder + QLatin1Char('/') + name;
+    if (m_desktop->screen().grab().save(path + QStringLiteral(".png")))
+        qWarning("The screen at that moment: %s.png", qPrintable(path));
+    const QString config = path + QStringLiteral(".ini");
+    QFile::remove(config);
+    if (m_tool && QFile::copy(m_tool->directory() + QStringLiteral("/config.ini"), config))
+        qWarning("The settings at that moment: %s", qPrintable(config));
 }

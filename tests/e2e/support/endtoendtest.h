@@ -51,7 +51,7 @@ private slots:
     void cleanup();
 
 private:
-    void saveScreenshot();
+    void saveEvidence();
 
     std::unique_ptr<VirtualDesktop> m_desktop;
     std::unique_ptr<ToolProcess> m_tool;
