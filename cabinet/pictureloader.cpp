@@ -51,15 +51,17 @@ bool open(QFile &file, QImageReader &reader)
     return isPixelFormat(reader.format()) && isOfBoundedSize(reader);
 }
 
-// As many eighths as may be kept.
+// As many eighths as may be kept, of sides that are never less than a pixel.
 QSize keptSize(const QSize &size)
 {
     constexpr int whole = 8; // JPEG is decoded to every eighth of its size
     int eighths = whole;
-    while (qint64(size.width()) * size.height() * eighths * eighths > maxKeptPixels * whole * whole)
+    const auto reduced = [&eighths](int side) {
+        return std::max<qint64>(1, qint64(side) * eighths / whole);
+    };
+    while (reduced(size.width()) * reduced(size.height()) > maxKeptPixels)
         --eighths;
-    return {std::max(1, size.width() * eighths / whole),
-            std::max(1, size.height() * eighths / whole)};
+    return {int(reduced(size.width())), int(reduced(size.height()))};
 }
 
 QImage decode(const QString &path)

@@ -94,6 +94,7 @@ private slots:
     void bmpFromTopToBottom_isReadAsQtReadsIt();
     void missingRowsOfABmp_areBlack();
     void veryLargePicture_comesInEighths();
+    void veryLongPicture_comesInEighthsOfItsLength();
     void veryLargeJpeg_isReducedWhileItIsDecoded();
     void pictureWithTooManyPixels_isNone_data();
     void pictureWithTooManyPixels_isNone();
@@ -171,6 +172,14 @@ void TestPictureLoader::veryLargePicture_comesInEighths()
             QCOMPARE(qGray(picture.pixel(x, y)) > 127, isLight);
         }
     }
+}
+
+// Its other side cannot become less than a pixel.
+void TestPictureLoader::veryLongPicture_comesInEighthsOfItsLength()
+{
+    QByteArray data = PictureFolder::encoded(noise(QImage::Format_Mono), "BMP");
+    data.replace(18, 8, QByteArray::fromHex("0000001001000000"));
+    QCOMPARE(read(data).size(), QSize(1 << 26, 1));
 }
 
 // It loses the finest details, of which a reduction afterwards would take every eighth.
