@@ -51,6 +51,8 @@ private:
     void changeCabinet();
     void changeAdvanced();
     void chooseColor();
+    void change(int panel);
+    QString killWhileChanging(int lifeMs);
     QString problem(qint64 killTime);
 
     int random(int count) { return int(m_random() % unsigned(count)); }
@@ -63,6 +65,7 @@ private:
 };
 
 namespace {
+constexpr int Panels = 6; // the advanced settings are one
 constexpr int LongestLifeMs = 4000;
 constexpr int OldestMs = 1000;
 constexpr qint64 Never = std::numeric_limits<qint64>::max();
@@ -278,6 +281,30 @@ QString tst_e2e_kill::problem(qint64 killTime)
     return {};
 }
 
+void tst_e2e_kill::change(int panel)
+{
+    void (tst_e2e_kill::*const changes[Panels])() = {
+        &tst_e2e_kill::changePlacement, &tst_e2e_kill::changePurity,
+        &tst_e2e_kill::changeGradient,  &tst_e2e_kill::changeGrid,
+        &tst_e2e_kill::changeCabinet,   &tst_e2e_kill::changeAdvanced};
+    (this->*changes[panel])();
+}
+
+/// Kills the program after so many milliseconds; what is wrong with the file then.
+QString tst_e2e_kill::killWhileChanging(int lifeMs)
+{
+    std::thread killer([this, lifeMs, process = pid_t(tool().processId())] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(lifeMs));
+        ::kill(process, SIGKILL);
+        m_killTime = m_clock.elapsed();
+    });
+    while (m_killTime == 0)
+        change(random(Panels));
+    killer.join();
+    tool().kill();
+    return problem(m_killTime);
+}
+
 void tst_e2e_kill::killWhileValuesChange_leavesAWholeAndRecentFile()
 {
     const quint32 seed = LongRun::seed(4711);
@@ -288,11 +315,6 @@ void tst_e2e_kill::killWhileValuesChange_leavesAWholeAndRecentFile()
     // All keys of a fresh start are there once it has ended in the ordinary way.
     QVERIFY(startTool());
     QVERIFY2(tool().endBySignal(SIGTERM), qPrintable(tool().problem()));
-    void (tst_e2e_kill::*const changes[])() = {
-        &tst_e2e_kill::changePlacement, &tst_e2e_kill::changePurity,
-        &tst_e2e_kill::changeGradient,  &tst_e2e_kill::changeGrid,
-        &tst_e2e_kill::changeCabinet,   &tst_e2e_kill::changeAdvanced};
-
     qint64 firstMemory = 0;
     for (int round = 0; round < rounds; ++round) {
         m_random.seed(seed + unsigned(round)); // how far the one before came says the clock
@@ -300,23 +322,13 @@ void tst_e2e_kill::killWhileValuesChange_leavesAWholeAndRecentFile()
         QVERIFY(!QTest::currentTestFailed());
         if (round == 0)
             firstMemory = LongRun::residentMemory(tool().processId());
-        const int lifeMs = 300 + random(LongestLifeMs);
-        std::thread killer([this, lifeMs, process = pid_t(tool().processId())] {
-            std::this_thread::sleep_for(std::chrono::milliseconds(lifeMs));
-            ::kill(process, SIGKILL);
-            m_killTime = m_clock.elapsed();
-        });
-        while (m_killTime == 0)
-            (this->*changes[random(6)])();
-        killer.join();
-        tool().kill();
-        const QString wrong = problem(m_killTime);
+        const QString wrong = killWhileChanging(300 + random(LongestLifeMs));
         QVERIFY2(wrong.isEmpty(), qPrintable(QStringLiteral("Round %1: %2").arg(round).arg(wrong)));
     }
     // Ended in the ordinary way it loses nothing at all.
     beginRound();
-    for (const auto change : changes)
-        (this->*change)();
+    for (int panel = 0; panel < Panels; ++panel)
+        change(panel);
     LongRun::report(rounds, firstMemory, LongRun::residentMemory(tool().processId()));
     QVERIFY2(tool().endBySignal(SIGTERM), qPrintable(tool().problem()));
     QCOMPARE(problem(m_clock.elapsed() + scaledTimeout(OldestMs)), QString());
