@@ -2,7 +2,11 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QRunnable>
 #include <QSaveFile>
+#include <QThreadPool>
+
+#include <utility>
 
 namespace {
 
@@ -18,6 +22,39 @@ bool copy(const QString &path, QIODevice &to)
     return from.error() == QFileDevice::NoError;
 }
 
+class Copying : public QRunnable
+{
+public:
+    explicit Copying(QString file)
+        : m_file(std::move(file))
+    { }
+
+    void run() override
+    {
+        QSaveFile kept(PictureStore::path());
+        if (kept.open(QIODevice::WriteOnly) && copy(m_file, kept))
+            kept.commit();
+    }
+
+private:
+    const QString m_file;
+};
+
+// One copy after the other.
+class Copies : public QThreadPool
+{
+public:
+    Copies() { setMaxThreadCount(1); }
+
+    QString lastFile;
+};
+
+Copies &copies()
+{
+    static Copies copies;
+    return copies;
+}
+
 } // namespace
 
 namespace PictureStore {
@@ -29,9 +66,18 @@ QString path()
 
 void keep(const QString &file)
 {
-    QSaveFile kept(path());
-    if (kept.open(QIODevice::WriteOnly) && copy(file, kept))
-        kept.commit();
+    copies().lastFile = file;
+    copies().start(new Copying(file));
+}
+
+QString current()
+{
+    return copies().activeThreadCount() > 0 ? copies().lastFile : path();
+}
+
+void finish()
+{
+    copies().waitForDone();
 }
 
 } // namespace PictureStore

@@ -48,6 +48,7 @@ TarnTool::TarnTool(QWidget *drawWidget, QSettings *settings, QWidget *parent)
 TarnTool::~TarnTool()
 {
     saveTarnBaseInfo();
+    PictureStore::finish();
 }
 
 // Restoring is not a change by the operator and writes nothing.
@@ -314,10 +315,11 @@ void TarnTool::slot_radioBackgroundClicked()
 void TarnTool::slot_radioPictureRefresh()
 {
     saveSoon(); // the choice itself, whether a picture comes of it or not
-    if (m_drawer->picture(PictureStore::path()).isNull())
+    const QString kept = PictureStore::current();
+    if (m_drawer->picture(kept).isNull())
         slot_radioPictureClicked();
     else
-        usePicture(PictureStore::path());
+        usePicture(kept);
 }
 
 // What is chosen and is no picture is ignored: the picture before it stays in use and kept.

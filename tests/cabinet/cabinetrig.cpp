@@ -2,6 +2,7 @@
 
 #include "colordialog.h"
 #include "filedialog.h"
+#include "picturestore.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -36,6 +37,7 @@ QString path()
 
 void set(const QByteArray &contents)
 {
+    PictureStore::finish();
     QDir(folder()).removeRecursively();
     QDir().mkpath(folder());
     if (contents.isNull())
@@ -47,6 +49,7 @@ void set(const QByteArray &contents)
 
 QByteArray contents()
 {
+    PictureStore::finish();
     QFile file(path());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

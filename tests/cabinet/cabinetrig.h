@@ -13,6 +13,7 @@ QString folder();
 QString path();
 // Makes the folder and leaves exactly this in it; nothing for null.
 void set(const QByteArray &contents);
+// Of the last picture that was to be kept.
 QByteArray contents();
 } // namespace KeptPicture
 

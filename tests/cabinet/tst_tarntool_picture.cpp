@@ -98,10 +98,10 @@ void TestTarnToolPicture::unwritableOrMissingFolder_losesOnlyTheKeptCopy()
         const ReadOnly folder(KeptPicture::folder(), QFileDevice::ExeOwner);
         const OrdinaryRights rights;
         rig.click("labelimage");
+        QCOMPARE(KeptPicture::contents(), m_cyan);
     }
     QCOMPARE(rig.drawer->m_bgPicturePath, m_blue);
     QCOMPARE(cornerOf(rig), qRgb(0, 0, 255));
-    QCOMPARE(KeptPicture::contents(), m_cyan);
 
     QVERIFY(QDir(KeptPicture::folder()).removeRecursively());
     DialogAnswers::file(m_pictures.add(QColor(Qt::green)));
