@@ -283,11 +283,20 @@ QString tst_e2e_kill::problem(qint64 killTime)
 
 void tst_e2e_kill::change(int panel)
 {
-    void (tst_e2e_kill::*const changes[Panels])() = {
-        &tst_e2e_kill::changePlacement, &tst_e2e_kill::changePurity,
-        &tst_e2e_kill::changeGradient,  &tst_e2e_kill::changeGrid,
-        &tst_e2e_kill::changeCabinet,   &tst_e2e_kill::changeAdvanced};
-    (this->*changes[panel])();
+    switch (panel) {
+    case 0:
+        return changePlacement();
+    case 1:
+        return changePurity();
+    case 2:
+        return changeGradient();
+    case 3:
+        return changeGrid();
+    case 4:
+        return changeCabinet();
+    default:
+        return changeAdvanced();
+    }
 }
 
 /// Kills the program after so many milliseconds; what is wrong with the file then.
