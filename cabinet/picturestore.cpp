@@ -2,11 +2,10 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QRunnable>
 #include <QSaveFile>
-#include <QThreadPool>
 
-#include <utility>
+#include <chrono>
+#include <future>
 
 namespace {
 
@@ -22,38 +21,16 @@ bool copy(const QString &path, QIODevice &to)
     return from.error() == QFileDevice::NoError;
 }
 
-class Copying : public QRunnable
+void copyToStore(const QString &file)
 {
-public:
-    explicit Copying(QString file)
-        : m_file(std::move(file))
-    { }
-
-    void run() override
-    {
-        QSaveFile kept(PictureStore::path());
-        if (kept.open(QIODevice::WriteOnly) && copy(m_file, kept))
-            kept.commit();
-    }
-
-private:
-    const QString m_file;
-};
-
-// One copy after the other.
-class Copies : public QThreadPool
-{
-public:
-    Copies() { setMaxThreadCount(1); }
-
-    QString lastFile;
-};
-
-Copies &copies()
-{
-    static Copies copies;
-    return copies;
+    QSaveFile kept(PictureStore::path());
+    if (kept.open(QIODevice::WriteOnly) && copy(file, kept))
+        kept.commit();
 }
+
+// One after the other.
+std::future<void> copying;
+QString copiedFile;
 
 } // namespace
 
@@ -66,18 +43,22 @@ QString path()
 
 void keep(const QString &file)
 {
-    copies().lastFile = file;
-    copies().start(new Copying(file));
+    finish();
+    copiedFile = file;
+    copying = std::async(std::launch::async, copyToStore, file);
 }
 
 QString current()
 {
-    return copies().activeThreadCount() > 0 ? copies().lastFile : path();
+    using namespace std::chrono_literals;
+    const bool isCopying = copying.valid() && copying.wait_for(0s) != std::future_status::ready;
+    return isCopying ? copiedFile : path();
 }
 
 void finish()
 {
-    copies().waitForDone();
+    if (copying.valid())
+        copying.wait();
 }
 
 } // namespace PictureStore
