@@ -83,7 +83,9 @@ bool DummyServer::unplug(const QString &output)
 
 bool DummyServer::arrange(const QMap<QString, QRect> &outputs)
 {
-    QStringList arguments;
+    // Left to itself, xrandr works out the millimetres from the last ones and rounds them down,
+    // until after hundreds of changes there are none.
+    QStringList arguments{QStringLiteral("--dpi"), QStringLiteral("96")};
     for (auto output = outputs.cbegin(); output != outputs.cend(); ++output) {
         arguments << QStringLiteral("--output") << output.key();
         if (output->isNull()) {
