@@ -53,7 +53,7 @@ private:
     void chooseColor();
     void change(int panel);
     QString killWhileChanging(int lifeMs);
-    QString problem(qint64 killTime);
+    QString problem(qint64 before, qint64 after);
 
     int random(int count) { return int(m_random() % unsigned(count)); }
 
@@ -258,8 +258,9 @@ void tst_e2e_kill::changeAdvanced()
     desktop().windows().activate(tool().controlWindow().id);
 }
 
-/// What is wrong with the file: half of it, or a key with a value that was gone too early.
-QString tst_e2e_kill::problem(qint64 killTime)
+/// What is wrong with the file of a program that ended between these times: half of it, or a key
+/// with a value that was gone too early.
+QString tst_e2e_kill::problem(qint64 before, qint64 after)
 {
     const QByteArray text = ConfigWatcher::text(tool().directory() + QStringLiteral("/config.ini"));
     if (!ConfigWatcher::isWhole(text))
@@ -268,15 +269,20 @@ QString tst_e2e_kill::problem(qint64 killTime)
     for (auto key = m_stages.cbegin(); key != m_stages.cend(); ++key) {
         const QString stored = config.value(full(key.key())).toString();
         QStringList possible{QString()}; // not there yet
+        qint64 firstTime = 0;
         for (const Stage &stage : key.value()) {
-            if (stage.latest <= killTime - scaledTimeout(OldestMs))
+            if (stage.latest <= before - scaledTimeout(OldestMs)) {
                 possible.clear(); // what was before is gone for too long
-            if (stage.earliest <= killTime)
+                firstTime = stage.latest;
+            }
+            if (stage.earliest <= after)
                 possible << stage.text;
         }
         if (!possible.contains(stored))
-            return QStringLiteral("%1 is \"%2\" and none of \"%3\"")
-                .arg(QLatin1String(key.key()), stored, possible.join(QStringLiteral("\", \"")));
+            return QStringLiteral(
+                       "%1 is \"%2\" and none of \"%3\", the first of which came %4 ms before")
+                .arg(QLatin1String(key.key()), stored, possible.join(QStringLiteral("\", \"")))
+                .arg(before - firstTime);
     }
     return {};
 }
@@ -302,8 +308,10 @@ void tst_e2e_kill::change(int panel)
 /// Kills the program after so many milliseconds; what is wrong with the file then.
 QString tst_e2e_kill::killWhileChanging(int lifeMs)
 {
-    std::thread killer([this, lifeMs, process = pid_t(tool().processId())] {
+    qint64 before = 0;
+    std::thread killer([this, lifeMs, &before, process = pid_t(tool().processId())] {
         std::this_thread::sleep_for(std::chrono::milliseconds(lifeMs));
+        before = m_clock.elapsed();
         ::kill(process, SIGKILL);
         m_killTime = m_clock.elapsed();
     });
@@ -311,7 +319,7 @@ QString tst_e2e_kill::killWhileChanging(int lifeMs)
         change(random(Panels));
     killer.join();
     tool().kill();
-    return problem(m_killTime);
+    return problem(before, m_killTime);
 }
 
 void tst_e2e_kill::killWhileValuesChange_leavesAWholeAndRecentFile()
@@ -340,7 +348,7 @@ void tst_e2e_kill::killWhileValuesChange_leavesAWholeAndRecentFile()
         change(panel);
     LongRun::report(rounds, firstMemory, LongRun::residentMemory(tool().processId()));
     QVERIFY2(tool().endBySignal(SIGTERM), qPrintable(tool().problem()));
-    QCOMPARE(problem(m_clock.elapsed() + scaledTimeout(OldestMs)), QString());
+    QCOMPARE(problem(Never, Never), QString());
 }
 
 QTEST_GUILESS_MAIN(tst_e2e_kill)
