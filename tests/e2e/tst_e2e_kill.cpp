@@ -110,7 +110,10 @@ void tst_e2e_kill::act(const Values &values, const Action &action)
         return;
     const qint64 before = m_clock.elapsed();
     action();
-    const bool isSeen = desktop().windows().answersPing(tool().controlWindow().id, OldestMs);
+    // Two answers: the first may overtake what the program still has to handle.
+    bool isSeen = true;
+    for (int answer = 0; answer < 2 && isSeen; ++answer)
+        isSeen = desktop().windows().answersPing(tool().controlWindow().id, OldestMs);
     note(values, before, isSeen ? m_clock.elapsed() : Never);
 }
 
