@@ -35,9 +35,14 @@ release | 1440 | tst_simulateddays gridRun_keepsPaceAndPictureAndMemory:aging | 
 release | 1440 | tst_simulateddays gridRun_keepsPaceAndPictureAndMemory:merged | minutes of the merged cycle at speed 100, simulated
 release | 1440 | tst_simulateddays purityRun_keepsPaceAndPictureAndMemory:fastest | minutes of rising grey at speed 100, simulated
 release | 100000 | tst_e2e_operator | inputs of an operator without sense
+release | 100000 | tst_hostilesettings_random | starts on damaged settings
 asan | 60 | tst_simulateddays | minutes of each of these runs, simulated
 asan | 100000 | tst_e2e_operator | inputs of an operator without sense
-asan | 100000 | tst_hostilesettings_random | starts on damaged settings
+asan | 1000 | tst_e2e_screenchanges | changes of the screens
+asan | 5000 | tst_hostilesettings_random | starts on damaged settings
+asan | 10000 | tst_pictureloader_random | damaged pictures
+asan | 100 | tst_e2e_disk anyFaults_loseNothing | faults of the disk
+asan | 100 | tst_e2e_kill | kills at any moment
 '
 
 configure release >/dev/null

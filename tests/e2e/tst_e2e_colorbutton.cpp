@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+#include <algorithm>
 #include <memory>
 
 /// Colours that are dragged from one colour button to another with a real mouse.
@@ -24,6 +25,7 @@ private:
     QString said() { return QString::fromUtf8(m_said += m_program->readAllStandardOutput()); }
     void glide(const QPoint &from, const QPoint &to);
     bool isDialogOpen();
+    bool isDragging();
     WindowInfo window();
 
     std::unique_ptr<ChildProcess> m_program;
@@ -80,11 +82,18 @@ void tst_e2e_colorbutton::glide(const QPoint &from, const QPoint &to)
 bool tst_e2e_colorbutton::isDialogOpen()
 {
     const QVector<WindowInfo> all = desktop().windows().ofProcess(m_program->processId());
-    for (const WindowInfo &candidate : all) {
-        if (candidate.isMapped && candidate.title == QLatin1String("Select Color"))
-            return true;
-    }
-    return false;
+    return std::any_of(all.cbegin(), all.cend(), [](const WindowInfo &candidate) {
+        return candidate.isMapped && candidate.title == QLatin1String("Select Color");
+    });
+}
+
+/// Whether the picture beside the pointer is there.
+bool tst_e2e_colorbutton::isDragging()
+{
+    const QVector<WindowInfo> all = desktop().windows().ofProcess(m_program->processId());
+    return std::any_of(all.cbegin(), all.cend(), [](const WindowInfo &candidate) {
+        return candidate.isMapped && candidate.isPopup;
+    });
 }
 
 void tst_e2e_colorbutton::drop_givesTheColourToTheOtherButton()
@@ -99,6 +108,7 @@ void tst_e2e_colorbutton::dragOverTheButton_showsTheDraggedColourUntilItLeaves()
     desktop().mouse().move(m_right);
     desktop().mouse().press();
     glide(m_right, m_left);
+    QVERIFY(waitFor([this] { return isDragging(); }));
     QVERIFY(shows(Blue, Blue)); // the pointer and its picture are not in the way
     glide(m_left, m_left + QPoint(0, 300));
     QVERIFY(shows(Red, Blue));
@@ -113,6 +123,7 @@ void tst_e2e_colorbutton::dropBesideTheButtons_changesNothing()
     desktop().mouse().drag(m_left, (m_left + m_right) / 2);
     QVERIFY(desktop().windows().answersPing(window().id));
     QVERIFY(shows(Red, Blue));
+    QVERIFY(waitFor([this] { return !isDragging(); }));
     // The program is through with the drag: the next one works.
     desktop().mouse().drag(m_right, m_left);
     QVERIFY(waitFor([this] { return said() == QLatin1String("left #0000ff\n"); }));
