@@ -94,7 +94,7 @@ PictureLoader::PictureLoader()
 {
     m_forget.setSingleShot(true);
     m_forget.setInterval(forgetMs);
-    QObject::connect(&m_forget, &QTimer::timeout, [this] {
+    QObject::connect(&m_forget, &QTimer::timeout, &m_forget, [this] {
         m_path.clear();
         m_picture = QImage();
     });

@@ -28,9 +28,18 @@ void copyToStore(const QString &file)
         kept.commit();
 }
 
-// One after the other.
-std::future<void> copying;
-QString copiedFile;
+// One at a time.
+struct Copying
+{
+    std::future<void> end;
+    QString file;
+};
+
+Copying &copying()
+{
+    static Copying copying;
+    return copying;
+}
 
 } // namespace
 
@@ -44,21 +53,21 @@ QString path()
 void keep(const QString &file)
 {
     finish();
-    copiedFile = file;
-    copying = std::async(std::launch::async, copyToStore, file);
+    copying().file = file;
+    copying().end = std::async(std::launch::async, copyToStore, file);
 }
 
 QString current()
 {
     using namespace std::chrono_literals;
-    const bool isCopying = copying.valid() && copying.wait_for(0s) != std::future_status::ready;
-    return isCopying ? copiedFile : path();
+    const std::future<void> &end = copying().end;
+    return end.valid() && end.wait_for(0s) != std::future_status::ready ? copying().file : path();
 }
 
 void finish()
 {
-    if (copying.valid())
-        copying.wait();
+    if (copying().end.valid())
+        copying().end.wait();
 }
 
 } // namespace PictureStore
