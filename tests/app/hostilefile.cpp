@@ -29,28 +29,7 @@ QByteArray escaped(const QByteArray &bytes)
     return bytes.isEmpty() ? bytes : "\\x" + bytes.toHex(' ').replace(" ", "\\x");
 }
 
-QByteArray bigEndian(quint32 value)
-{
-    QByteArray bytes;
-    for (int shift = 24; shift >= 0; shift -= 8)
-        bytes += char(value >> shift);
-    return bytes;
-}
-
 } // namespace
-
-int HostileFile::below(int limit)
-{
-    return int(m_random() % quint32(limit));
-}
-
-QByteArray HostileFile::garbage(int size)
-{
-    QByteArray bytes(size, Qt::Uninitialized);
-    for (char &byte : bytes)
-        byte = char(m_random());
-    return bytes;
-}
 
 QByteArray HostileFile::next()
 {
@@ -59,7 +38,7 @@ QByteArray HostileFile::next()
         return garbage(below(4000));
     case 1:
     case 2:
-        return damaged(section());
+        return damaged(section(), "\"\\[]=%;\n,@()");
     default:
         return section();
     }
@@ -78,40 +57,12 @@ QByteArray HostileFile::section()
     return content;
 }
 
-QByteArray HostileFile::damaged(QByteArray content)
-{
-    for (int damage = below(20); damage >= 0; --damage) {
-        const int place = below(content.size() + 1);
-        switch (below(5)) {
-        case 0:
-            content.insert(place, garbage(below(20)));
-            break;
-        case 1:
-            content.remove(place, below(40));
-            break;
-        case 2:
-            content.insert(place, content.mid(below(content.size() + 1), below(200)));
-            break;
-        case 3:
-            content.insert(place, "\"\\[]=%;\n,@()"[below(12)]);
-            break;
-        default:
-            if (place < content.size())
-                content[place] = char(m_random());
-            break;
-        }
-    }
-    if (!below(10))
-        content.truncate(below(content.size() + 1));
-    return content;
-}
-
 QByteArray HostileFile::value()
 {
     switch (below(6)) {
     case 0:
     case 1:
-        return number();
+        return numberText();
     case 2:
         return text();
     case 3:
@@ -125,7 +76,7 @@ QByteArray HostileFile::value()
     }
 }
 
-QByteArray HostileFile::number()
+QByteArray HostileFile::numberText()
 {
     static const QList<QByteArray> numbers =
         QByteArray("-1|0|2147483647|-2147483648|2147483648|-2147483649|99999999999999999999|"
@@ -133,7 +84,7 @@ QByteArray HostileFile::number()
                    "inf|1.5|1,5|+7| 12 |007|--3|256|101")
             .split('|');
     if (below(2))
-        return QByteArray::number(int(m_random()));
+        return QByteArray::number(int(number()));
     return numbers.at(below(numbers.size()));
 }
 
@@ -176,7 +127,7 @@ QByteArray HostileFile::typed()
     const QByteArray type(types[below(length(types))]);
     QByteArray content;
     for (int part = below(6); part > 0; --part)
-        content += (below(4) ? number() : text()) + ' ';
+        content += (below(4) ? numberText() : text()) + ' ';
     return '@' + type + '(' + content + (below(4) ? ")" : "");
 }
 
@@ -190,7 +141,7 @@ QByteArray HostileFile::serialized()
     if (below(50) == 0)
         return disguised("@Variant(") + escaped(nestedLists(below(10000))) + ')';
     for (int part = below(5); part > 0; --part)
-        bytes += below(2) ? bigEndian(quint32(m_random()) >> below(32)) : garbage(below(20));
+        bytes += below(2) ? bigEndian(number() >> below(32)) : garbage(below(20));
     return disguised(below(4) ? "@Variant(" : "@DateTime(") + escaped(bytes) + ')';
 }
 

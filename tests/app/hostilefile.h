@@ -1,32 +1,23 @@
 #pragma once
 
-#include <QByteArray>
-
-#include <random>
+#include "randombytes.h"
 
 // Makes settings files that nobody would write: random bytes, damaged files, and known
 // keys with values that they never have. The same seed gives the same files everywhere.
-class HostileFile
+class HostileFile : private RandomBytes
 {
 public:
-    explicit HostileFile(quint32 seed)
-        : m_random(seed)
-    { }
+    using RandomBytes::RandomBytes;
 
     QByteArray next();
 
 private:
-    int below(int limit);
-    QByteArray garbage(int size);
     QByteArray section();
-    QByteArray damaged(QByteArray content);
     QByteArray value();
-    QByteArray number();
+    QByteArray numberText();
     QByteArray text();
     QByteArray typed();
     QByteArray serialized();
     QByteArray disguised(QByteArray beginning);
     static QByteArray nestedLists(int depth);
-
-    std::mt19937 m_random;
 };

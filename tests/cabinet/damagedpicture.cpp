@@ -17,17 +17,9 @@ QImage noise(QImage::Format format)
     return image.convertToFormat(format);
 }
 
-QByteArray bigEndian(quint32 value)
-{
-    QByteArray bytes;
-    for (int shift = 24; shift >= 0; shift -= 8)
-        bytes += char(value >> shift);
-    return bytes;
-}
-
 QByteArray littleEndian(quint32 value)
 {
-    const QByteArray bytes = bigEndian(value);
+    const QByteArray bytes = RandomBytes::bigEndian(value);
     return {std::string(bytes.crbegin(), bytes.crend()).data(), bytes.size()};
 }
 
@@ -44,7 +36,8 @@ quint32 crc32(const QByteArray &bytes)
 
 QByteArray chunk(const QByteArray &name, const QByteArray &content)
 {
-    return bigEndian(quint32(content.size())) + name + content + bigEndian(crc32(name + content));
+    return RandomBytes::bigEndian(quint32(content.size())) + name + content
+           + RandomBytes::bigEndian(crc32(name + content));
 }
 
 // As zlib has it.
@@ -86,7 +79,7 @@ QByteArray gzipped(const QByteArray &bytes)
 } // namespace
 
 DamagedPicture::DamagedPicture(quint32 seed)
-    : m_random(seed)
+    : RandomBytes(seed)
 {
     m_pictures = {gif(1), gif(3), svg(), gzipped(svg())};
     const QList<QByteArray> formats = QImageWriter::supportedImageFormats();
@@ -95,19 +88,6 @@ DamagedPicture::DamagedPicture(quint32 seed)
                                            QImage::Format_RGB32, QImage::Format_ARGB32})
             m_pictures << PictureFolder::encoded(noise(depth), format.constData());
     }
-}
-
-int DamagedPicture::below(int limit)
-{
-    return int(m_random() % quint32(limit));
-}
-
-QByteArray DamagedPicture::garbage(int size)
-{
-    QByteArray bytes(size, Qt::Uninitialized);
-    for (char &byte : bytes)
-        byte = char(m_random());
-    return bytes;
 }
 
 const QByteArray &DamagedPicture::picture()
@@ -131,31 +111,6 @@ QByteArray DamagedPicture::next()
     default:
         return damaged(picture());
     }
-}
-
-QByteArray DamagedPicture::damaged(QByteArray content)
-{
-    for (int damage = below(20); damage >= 0; --damage) {
-        const int place = below(content.size() + 1);
-        switch (below(4)) {
-        case 0:
-            content.insert(place, garbage(below(20)));
-            break;
-        case 1:
-            content.remove(place, below(40));
-            break;
-        case 2:
-            content.insert(place, content.mid(below(content.size() + 1), below(200)));
-            break;
-        default:
-            if (place < content.size())
-                content[place] = char(m_random());
-            break;
-        }
-    }
-    if (below(3) == 0)
-        content.truncate(below(content.size() + 1));
-    return content;
 }
 
 QByteArray DamagedPicture::withAnotherHeader()
