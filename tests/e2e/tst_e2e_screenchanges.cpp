@@ -136,13 +136,15 @@ QString tst_e2e_screenchanges::chooseTab()
 {
     const QRect control = tool().controlWindow().geometry;
     const QPoint middle = control.topLeft() + FirstTab + QPoint(random(7) * TabWidth, 0);
-    const bool isCovered = m_isShown && tool().testWindow().geometry.contains(middle);
+    const QPoint edge = middle - QPoint(0, FirstTab.y() - TabTop);
+    const bool isCovered =
+        m_isShown && tool().testWindow().geometry.intersects(QRect(edge, middle));
     if (isCovered || !desktopRegion().contains(middle))
         return {};
     desktop().mouse().click(middle);
     const auto isChosen = [&] {
-        const QRgb edge = desktop().screen().pixel(middle - QPoint(0, FirstTab.y() - TabTop));
-        return edge == Chosen || edge == ChosenWithKeyboard;
+        const QRgb colour = desktop().screen().pixel(edge);
+        return colour == Chosen || colour == ChosenWithKeyboard;
     };
     if (!waitFor(isChosen))
         QTest::qFail("The tab is not chosen", __FILE__, __LINE__);
