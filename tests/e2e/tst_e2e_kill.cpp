@@ -80,6 +80,7 @@ QString full(const QByteArray &key)
 /// Starts the program, which has what the file holds.
 void tst_e2e_kill::beginRound()
 {
+    tool().writeConfig({{full("gridNetChecked"), true}}); // one family at a time, whenever it died
     const bool isHidden = tool().configValue(full("testWindowVisible")).toBool();
     QVERIFY(startTool(isHidden ? ToolProcess::TestWindow::Hidden : ToolProcess::TestWindow::Shown));
     m_corner = tool().controlWindow().geometry.topLeft();
@@ -331,7 +332,6 @@ void tst_e2e_kill::killWhileValuesChange_leavesAWholeAndRecentFile()
     const int rounds = LongRun::count(6);
     qInfo("Seed %u, %d rounds", seed, rounds);
     m_clock.start();
-    tool().writeConfig({{full("gridNetChecked"), true}}); // one family at a time
     // All keys of a fresh start are there once it has ended in the ordinary way.
     QVERIFY(startTool());
     QVERIFY2(tool().endBySignal(SIGTERM), qPrintable(tool().problem()));
