@@ -135,8 +135,11 @@ bool ToolProcess::start(TestWindow testWindow)
 bool ToolProcess::waitForStart(TestWindow testWindow)
 {
     const bool isShown = testWindow == TestWindow::Shown;
+    // Some window managers hide a new window once more, to put it into its frame.
+    WindowId control = 0;
     const auto hasWindows = [&] {
-        return this->testWindow().isMapped == isShown && controlWindow().id != 0;
+        control = controlWindow().id;
+        return this->testWindow().isMapped == isShown && control != 0;
     };
     bool isShowing = false;
     waitFor([&] { return (isShowing = hasWindows()) || !isRunning(); }, StartDeadline);
@@ -148,8 +151,13 @@ bool ToolProcess::waitForStart(TestWindow testWindow)
         m_problem = QStringLiteral("The program's windows do not appear");
         return false;
     }
-    if (!m_desktop.windows().answersPing(controlWindow().id, StartDeadline)) {
+    if (!m_desktop.windows().answersPing(control, StartDeadline)) {
         m_problem = QStringLiteral("The program's event loop does not run");
+        return false;
+    }
+    m_desktop.windows().syncWithWindowManager();
+    if (!waitFor(hasWindows)) {
+        m_problem = QStringLiteral("The program's windows do not stay");
         return false;
     }
     return true;
