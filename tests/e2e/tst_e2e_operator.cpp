@@ -1,6 +1,5 @@
 #include "endtoendtest.h"
 #include "longrun.h"
-#include "rows.h"
 #include "waiting.h"
 
 #include <QElapsedTimer>
