@@ -81,6 +81,7 @@ run_row() {
     "$(megabytes "${figures[1]}")" "$(megabytes "${figures[2]}")" $((SECONDS - start)) \
     >>"$folder/$build.md"
   tail -n 1 "$folder/$build.md" >&2
+  [ "$failures" = 0 ] || tail -n 60 "$log" >&2
 }
 
 # run_rows BUILD

@@ -134,19 +134,26 @@ QString tst_e2e_screenchanges::changeScreens()
 
 QString tst_e2e_screenchanges::chooseTab()
 {
-    const QRect control = tool().controlWindow().geometry;
-    const QPoint middle = control.topLeft() + FirstTab + QPoint(random(7) * TabWidth, 0);
-    const QPoint edge = middle - QPoint(0, FirstTab.y() - TabTop);
+    const QPoint middle = FirstTab + QPoint(random(7) * TabWidth, 0);
+    const QPoint edge(middle.x(), TabTop);
+    const QPoint corner = tool().controlWindow().geometry.topLeft();
     const bool isCovered =
-        m_isShown && tool().testWindow().geometry.intersects(QRect(edge, middle));
-    if (isCovered || !desktopRegion().contains(middle))
+        m_isShown
+        && tool().testWindow().geometry.intersects(QRect(edge, middle).translated(corner));
+    if (isCovered || !desktopRegion().contains(corner + middle))
         return {};
-    desktop().mouse().click(middle);
-    const auto isChosen = [&] {
-        const QRgb colour = desktop().screen().pixel(edge);
-        return colour == Chosen || colour == ChosenWithKeyboard;
+    // The window manager may still be moving the window after the last change of the screens.
+    const auto isChosenByClick = [&] {
+        desktop().mouse().click(tool().controlWindow().geometry.topLeft() + middle);
+        return waitFor(
+            [&] {
+                const QPoint place = tool().controlWindow().geometry.topLeft() + edge;
+                const QRgb colour = desktop().screen().pixel(place);
+                return colour == Chosen || colour == ChosenWithKeyboard;
+            },
+            1000);
     };
-    if (!waitFor(isChosen))
+    if (!waitFor(isChosenByClick))
         QTest::qFail("The tab is not chosen", __FILE__, __LINE__);
     return QStringLiteral("tab at %1, %2").arg(middle.x()).arg(middle.y());
 }

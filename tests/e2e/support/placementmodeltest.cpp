@@ -118,7 +118,7 @@ bool PlacementModelTest::agrees()
         return window.isMapped == m_isShown
                && (isAway() || !m_isShown || window.geometry == target());
     };
-    if (!waitFor(isRight) || !settle() || !isRight()) {
+    if (!waitFor([&] { return isRight() && settle() && isRight(); })) {
         qWarning() << "The window," << (tool().testWindow().isMapped ? "shown" : "hidden") << "at"
                    << tool().testWindow().geometry << "should be"
                    << (m_isShown ? "shown" : "hidden") << "at" << target();
