@@ -2,6 +2,7 @@
 
 #include "displayfaults.h"
 #include "displayreading.h"
+#include "wayland.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -21,13 +22,6 @@ QVector<QRect> screenPlaces()
     for (const QScreen *screen : screens)
         places.append(screen->geometry());
     return places;
-}
-
-// Null under Wayland, which tells no program where its windows are.
-QRect placeOf(const QWidget &window)
-{
-    const bool isTold = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-    return isTold ? window.geometry() : QRect();
 }
 
 } // namespace
@@ -52,7 +46,7 @@ void DisplaySign::check()
 
 QStringList DisplaySign::faults()
 {
-    const QRect place = placeOf(*m_window);
+    const QRect place = isOnWayland() ? QRect() : m_window->geometry();
     const QVector<QRect> screens = screenPlaces();
     if (screens != m_screens) {
         m_screens = screens;

@@ -7,6 +7,7 @@
 #include "placekeeper.h"
 #include "savesoon.h"
 #include "settingsrules.h"
+#include "wayland.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
@@ -69,7 +70,7 @@ void DrawCtrlForm::initCtrls()
 {
     getScreenSize();
     ui->pushButtonShow->setEnabled(false);
-    ui->labelWayland->setVisible(!PlaceKeeper::canPlace());
+    ui->labelWayland->setVisible(isOnWayland());
     // The desktop widget reports every kind of change in one place, on all of Qt 5.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
@@ -193,7 +194,7 @@ void DrawCtrlForm::follow(const QRect &rectangle)
         m_keeper->setPlace(m_placement);
         return;
     }
-    if (!isForScreens && PlaceKeeper::canPlace())
+    if (!isForScreens && !isOnWayland())
         adopt(rectangle);
     m_keeper->accept(rectangle);
     setControls(rectangle);
@@ -298,12 +299,12 @@ void DrawCtrlForm::slot_resetHeight(unsigned int height)
 // A border at the top or the left moves the window too.
 void DrawCtrlForm::slot_drawWidgetSizeChange(int width, int height)
 {
-    const QRect known = PlaceKeeper::canPlace() ? testWindow->geometry() : m_keeper->place();
+    const QRect known = isOnWayland() ? m_keeper->place() : testWindow->geometry();
     place({known.topLeft(), QSize(width, height)});
 }
 
 void DrawCtrlForm::slot_drawWidgetPositionChange(int x, int y)
 {
-    if (PlaceKeeper::canPlace())
+    if (!isOnWayland())
         place({QPoint(x, y), testWindow->size()});
 }

@@ -1,5 +1,6 @@
 #include "placekeeper.h"
 
+#include "wayland.h"
 #include "x11windows.h"
 
 #include <QApplication>
@@ -76,15 +77,10 @@ QRect PlaceKeeper::target() const
     return found == screens.cend() ? QRect() : (*found)->geometry();
 }
 
-bool PlaceKeeper::canPlace()
-{
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
 // Qt only knows what the window manager says.
 QRect PlaceKeeper::actual() const
 {
-    if (!canPlace())
+    if (isOnWayland())
         return {target().topLeft(), m_window->size()};
     const QRect known = X11Windows::geometry(m_window->internalWinId());
     return known.isNull() ? m_window->geometry() : known;
@@ -106,7 +102,7 @@ void PlaceKeeper::request()
 void PlaceKeeper::chooseScreen()
 {
     QScreen *screen = QGuiApplication::screenAt(m_place.center());
-    if (!canPlace() && !m_isFull && screen && m_window->windowHandle())
+    if (isOnWayland() && !m_isFull && screen && m_window->windowHandle())
         m_window->windowHandle()->setScreen(screen);
 }
 
@@ -126,7 +122,7 @@ void PlaceKeeper::check()
     // Some window managers maximise what is as large as the screen.
     const bool isOwnState = m_window->windowState() == state();
     const bool isInPlace =
-        isOwnState && actual() == target() && (m_window->geometry() == target() || !canPlace());
+        isOwnState && actual() == target() && (m_window->geometry() == target() || isOnWayland());
     // Some window managers end a full screen whenever another window gets the keyboard, or wipe
     // the mark of it from a window that is out of their hands.
     const bool mayFollow =
@@ -297,7 +293,7 @@ void PlaceKeeper::followState()
     m_isFull = m_window->isFullScreen();
     m_window->winId(); // it may never have been shown
     // Qt does not look again when it is the screens that have moved.
-    const QScreen *screen = canPlace() ? QGuiApplication::screenAt(actual().center()) : nullptr;
+    const QScreen *screen = isOnWayland() ? nullptr : QGuiApplication::screenAt(actual().center());
     m_screen = (screen ? screen : m_window->windowHandle()->screen())->name();
     request();
 }

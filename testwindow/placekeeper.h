@@ -10,6 +10,8 @@
 // Keeps the test window where the operator wants it: asks the window manager, looks at what has
 // become of that once it has answered, and if it goes on refusing takes the window out of its
 // hands. What the window manager does later, unasked, stands.
+//
+// Under Wayland the place has a size, and says which screen a full screen is for.
 class PlaceKeeper : public QObject
 {
     Q_OBJECT
@@ -17,10 +19,6 @@ class PlaceKeeper : public QObject
 public:
     // The window is borrowed. `echo` becomes a child.
     PlaceKeeper(QWidget *window, ManagerEcho *echo, QObject *parent);
-
-    // False under Wayland, where the desktop alone decides where a window is, and tells nobody:
-    // then the place has a size, and says which screen a full screen is for.
-    static bool canPlace();
 
     // Where the window should be while it does not fill a screen.
     QRect place() const { return m_place; }

@@ -1,6 +1,7 @@
 #include "windowdragger.h"
 
-#include <QGuiApplication>
+#include "wayland.h"
+
 #include <QMouseEvent>
 #include <QWidget>
 #include <QWindow>
@@ -60,7 +61,7 @@ bool WindowDragger::endDrag(const QMouseEvent *event)
 bool WindowDragger::startSystemMove()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+    if (isOnWayland())
         return m_window->windowHandle() && m_window->windowHandle()->startSystemMove();
 #endif
     return false;
