@@ -44,14 +44,21 @@ function(tarn_add_library name)
   endif()
 endfunction()
 
-# Seconds that one test program may take; sanitizers make it several times slower. What the
-# tests themselves compute is little, and not worth the time that optimizing them takes then.
+# Seconds that one test program may take; sanitizers make it several times slower.
 set(TARN_TEST_TIMEOUT 180)
-set(TARN_TEST_OPTIONS "")
 if(TARN_SANITIZERS)
   set(TARN_TEST_TIMEOUT 900)
-  set(TARN_TEST_OPTIONS -O0)
 endif()
+
+# tarn_reuse_headers(<test> <library>)
+#
+# Compiles the test program with the precompiled headers of the library that it links.
+function(tarn_reuse_headers test library)
+  target_precompile_headers(${test} REUSE_FROM ${library})
+  # Nothing stands in it.
+  set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${test}_autogen/mocs_compilation.cpp
+    PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+endfunction()
 
 # tarn_add_test(<name> LINKS <library>... [SOURCES <file>...])
 #
@@ -62,11 +69,7 @@ function(tarn_add_test name)
   add_executable(${name} ${name}.cpp ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/${name})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} tarn_test_support tarn_build_options)
-  target_precompile_headers(${name} REUSE_FROM tarn_test_support)
-  target_compile_options(${name} PRIVATE ${TARN_TEST_OPTIONS})
-  # Nothing stands in it.
-  set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
-    PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+  tarn_reuse_headers(${name} tarn_test_support)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     LABELS unit
