@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # What has to go well for days, in a short time: runs the programs below with many more rounds than
-# the tests do, and writes a table of what they did to build/soak/table.md. The release build and
-# the sanitizer build run side by side. Fails if anything does. The same seed and minutes give the
-# same runs.
+# the tests do, two of them at a time, and writes a table of what they did to build/soak/table.md.
+# Fails if anything does. The same seed and minutes give the same runs.
 #
 # Usage: scripts/soak.sh [--minutes N] [--seed S] [ROW...]
 #   --minutes N   about N minutes instead of all, at least one round of each row
@@ -20,7 +19,7 @@ while [[ ${1:-} == --* ]]; do
     --minutes) minutes=$2 ;;
     --seed) TARN_SOAK_SEED=$2 ;;
     *)
-      sed -n 's/^# \?//; 2,11p' "$0" >&2
+      sed -n 's/^# \?//; 2,10p' "$0" >&2
       exit 2
       ;;
   esac
@@ -28,21 +27,21 @@ while [[ ${1:-} == --* ]]; do
 done
 chosen=" $* "
 
-# rows: build, rounds of a full run, program, its arguments, what is done.
+# rows: build, rounds of a full run, program, its arguments, what is done. The longest first.
 rows='
-release | 1440 | tst_simulateddays gridRun_keepsPaceAndPictureAndMemory:scrolling | minutes of scrolling at speed 100, simulated
-release | 1440 | tst_simulateddays gridRun_keepsPaceAndPictureAndMemory:aging | minutes of aging at speed 100, simulated
-release | 1440 | tst_simulateddays gridRun_keepsPaceAndPictureAndMemory:merged | minutes of the merged cycle at speed 100, simulated
-release | 1440 | tst_simulateddays purityRun_keepsPaceAndPictureAndMemory:fastest | minutes of rising grey at speed 100, simulated
-release | 100000 | tst_e2e_operator | inputs of an operator without sense
 release | 100000 | tst_hostilesettings_random | starts on damaged settings
-asan | 60 | tst_simulateddays | minutes of each of these runs, simulated
+release | 1440 | tst_simulateddays gridRun_keepsPaceAndPictureAndMemory:scrolling | minutes of scrolling at speed 100, simulated
+release | 100000 | tst_e2e_operator | inputs of an operator without sense
 asan | 100000 | tst_e2e_operator | inputs of an operator without sense
+asan | 100 | tst_e2e_kill | kills at any moment
 asan | 1000 | tst_e2e_screenchanges | changes of the screens
 asan | 5000 | tst_hostilesettings_random | starts on damaged settings
+release | 1440 | tst_simulateddays purityRun_keepsPaceAndPictureAndMemory:fastest | minutes of rising grey at speed 100, simulated
+asan | 60 | tst_simulateddays | minutes of each of these runs, simulated
+release | 1440 | tst_simulateddays gridRun_keepsPaceAndPictureAndMemory:aging | minutes of aging at speed 100, simulated
+release | 1440 | tst_simulateddays gridRun_keepsPaceAndPictureAndMemory:merged | minutes of the merged cycle at speed 100, simulated
 asan | 10000 | tst_pictureloader_random | damaged pictures
 asan | 100 | tst_e2e_disk anyFaults_loseNothing | faults of the disk
-asan | 100 | tst_e2e_kill | kills at any moment
 '
 
 configure release >/dev/null
@@ -60,18 +59,25 @@ echo "soak: $minutes of $all_minutes minutes, seed $TARN_SOAK_SEED" >&2
 # megabytes KIB
 megabytes() { awk -v kib="$1" 'BEGIN { printf "%.1f", kib / 1024 }'; }
 
-# run_row NUMBER BUILD COUNT WHAT PROGRAM [ARGUMENT...]: adds its line to the table's part of BUILD.
+# run_row NUMBER BUILD COUNT WHAT PROGRAM [ARGUMENT...]: writes its line of the table to NUMBER.md.
 run_row() {
   local number=$1 build=$2 count=$3 what=$4 program=$5
   shift 5
-  local log=$folder/$number-$program.txt start=$SECONDS failures=0 platform=() figures
+  local log=$folder/$number-$program.txt start=$SECONDS failures=0 variables=() figures
   local path=build/tests/$program
-  [ "$build" = release ] || path=build-$build/tests/$program
-  if [ -d "$path" ]; then
-    path+=/$program
-    platform=(QT_QPA_PLATFORM=offscreen)
+  if [ "$build" = asan ]; then
+    path=build-asan/tests/$program
+    variables=(TARN_TEST_TIMEOUT_SCALE=4
+      ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+      LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp:print_suppressions=0")
   fi
-  env TARN_SOAK_COUNT="$count" "${platform[@]}" "$path" "$@" >"$log" 2>&1 || {
+  if [ -d "$path" ]; then
+    # Another row may have the same program, whose settings file lies beside it.
+    cp -r "$path" "$folder/$number"
+    path=$folder/$number/$program
+    variables+=(QT_QPA_PLATFORM=offscreen)
+  fi
+  env TARN_SOAK_COUNT="$count" "${variables[@]}" "$path" "$@" >"$log" 2>&1 || {
     failures=$(grep -c '^FAIL!' "$log") || failures=1 # none: it has crashed
     touch "$folder/failed"
   }
@@ -79,37 +85,26 @@ run_row() {
   [ ${#figures[@]} = 3 ] || figures=(0 0 0)
   printf '| %s | %s | %d | %d | %s | %s | %d |\n' "$what" "$build" "${figures[0]}" "$failures" \
     "$(megabytes "${figures[1]}")" "$(megabytes "${figures[2]}")" $((SECONDS - start)) \
-    >>"$folder/$build.md"
-  tail -n 1 "$folder/$build.md" >&2
+    | tee "$folder/$number.md" >&2
   [ "$failures" = 0 ] || tail -n 60 "$log" >&2
 }
 
-# run_rows BUILD
-run_rows() {
-  local number=0 build rounds program what
-  while IFS='|' read -r build rounds program what; do
-    [ -n "$build" ] || continue
-    number=$((number + 1))
-    read -ra program <<<"$program"
-    [ "${build// /}" = "$1" ] || continue
-    [ "$chosen" = '  ' ] || [[ $chosen == *" ${program[0]} "* ]] || continue
-    rounds=$((rounds * minutes / all_minutes))
-    run_row "$number" "$1" $((rounds > 0 ? rounds : 1)) "${what# }" "${program[@]}"
-  done <<<"$rows"
-}
-
-run_rows release &
-(
-  export TARN_TEST_TIMEOUT_SCALE=4
-  export ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
-  export LSAN_OPTIONS=suppressions=$PWD/scripts/lsan.supp:print_suppressions=0
-  run_rows asan
-) &
+number=10 # so that the names sort
+while IFS='|' read -r build rounds program what; do
+  [ -n "$build" ] || continue
+  number=$((number + 1))
+  read -ra program <<<"$program"
+  [ "$chosen" = '  ' ] || [[ $chosen == *" ${program[0]} "* ]] || continue
+  rounds=$((rounds * minutes / all_minutes))
+  [ "$(jobs -rp | wc -l)" -lt 2 ] || wait -n
+  run_row "$number" "${build% }" $((rounds > 0 ? rounds : 1)) "${what# }" "${program[@]}" &
+done <<<"$rows"
 wait
 
 {
   echo '| What | Build | Done | Failures | MB first | MB last | Seconds |'
   echo '|---|---|---:|---:|---:|---:|---:|'
-  cat "$folder/release.md" "$folder/asan.md" 2>/dev/null || true
-} | tee "$folder/table.md"
+  cat "$folder"/*.md
+} >"$folder/table.md"
+cat "$folder/table.md"
 [ ! -e "$folder/failed" ]

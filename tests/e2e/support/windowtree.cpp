@@ -11,6 +11,8 @@
 namespace {
 /// The source indication of a pager: acts without asking for the user's time.
 constexpr long FromPager = 2;
+
+constexpr int MostSyncs = 1000;
 } // namespace
 
 WindowTree::WindowTree(XConnection &connection)
@@ -215,8 +217,9 @@ void WindowTree::useOneDesktop()
 
 bool WindowTree::syncWithWindowManager()
 {
-    // Every window manager has to let a window that it does not manage have its way.
-    ++m_syncNumber;
+    // Every window manager has to let a window that it does not manage have its way. Places have
+    // 16 bits.
+    m_syncNumber = m_syncNumber % MostSyncs + 1;
     XMoveWindow(m_connection.display(), m_ownWindow, m_syncNumber, 0);
     m_connection.sync();
     return waitFor([this] { return info(m_ownWindow).geometry.x() == m_syncNumber; });
