@@ -253,7 +253,7 @@ void tst_e2e_placement::moveByAnotherProgram_isLeftAlone()
     shiftH();
     QVERIFY(becomesHidden(true));
     shiftH();
-    QVERIFY(waitFor([&] { return tool().testWindow().isMapped; }));
+    QVERIFY(testWindowCovers(Start) && settle());
 
     const QRect place = Start.translated(30, 20);
     desktop().windows().move(tool().testWindow().id, place.topLeft());

@@ -113,6 +113,16 @@ bool EndToEndTest::testWindowTurns(QRgb colour)
     return false;
 }
 
+bool EndToEndTest::settle()
+{
+    for (int turn = 0; turn < 3; ++turn) {
+        if (!desktop().windows().syncWithWindowManager()
+            || !desktop().windows().answersPing(tool().controlWindow().id))
+            return false;
+    }
+    return true;
+}
+
 bool EndToEndTest::testWindowCovers(const QRect &area)
 {
     if (waitFor([&] { return tool().testWindow().geometry == area; }))

@@ -31,6 +31,9 @@ protected:
     /// The same with the test window stored at this place, a square; does not wait until it is
     /// there.
     bool startToolAt(const QRect &place);
+    /// Returns when the window manager and the program have handled everything; false if they
+    /// do not.
+    bool settle();
     /// The test window's place in "config.ini".
     QRect stored();
     /// Whether this place is stored once the time that a change may take has passed; logs what is

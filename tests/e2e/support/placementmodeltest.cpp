@@ -101,16 +101,6 @@ QString PlacementModelTest::drag(const QRect &area, const QPoint &to)
     return QStringLiteral("drag by %1, %2").arg(by.x()).arg(by.y());
 }
 
-bool PlacementModelTest::settle()
-{
-    for (int turn = 0; turn < 3; ++turn) {
-        if (!desktop().windows().syncWithWindowManager()
-            || !desktop().windows().answersPing(tool().controlWindow().id))
-            return false;
-    }
-    return true;
-}
-
 bool PlacementModelTest::agrees()
 {
     const auto isRight = [&] {

@@ -37,9 +37,6 @@ protected:
     /// Takes the window at a point of \a area.
     QString drag(const QRect &area, const QPoint &to);
 
-    /// Returns when the window manager and the program have handled everything; false if they
-    /// do not.
-    bool settle();
     /// Whether window and file come to be as the model says; logs what they are instead if not.
     bool agrees();
 

@@ -27,7 +27,4 @@ protected:
     bool settleHidden();
     /// Hides or shows the test window by its key.
     void shiftH(bool shown);
-
-private:
-    bool settle(WindowId window);
 };
