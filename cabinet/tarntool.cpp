@@ -8,7 +8,6 @@
 #include "filedialog.h"
 #include "form.h"
 #include "picturestore.h"
-#include "savesoon.h"
 #include "scrgrid.h"
 #include "settingsrules.h"
 #include "sliderspinboxpair.h"
@@ -36,7 +35,7 @@ TarnTool::TarnTool(QWidget *drawWidget, QSettings *settings, QWidget *parent)
     , m_bgGroup(new QButtonGroup(this))
     , m_orderGroup(new QButtonGroup(this))
     , m_settings(settings)
-    , m_saveSoon(new SaveSoon([this] { saveTarnBaseInfo(); }, this))
+    , m_saveSoon([this] { saveTarnBaseInfo(); }, this)
 {
     for (QPushButton *button : {ui->buttonFixedPosition, ui->buttonSetup})
         button->setObjectName(QStringLiteral("normalContentPushBtn"));
@@ -54,7 +53,7 @@ TarnTool::~TarnTool()
 // Restoring is not a change by the operator and writes nothing.
 void TarnTool::uiInit()
 {
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     dataInit();
     ControlInit();
     initTarnStatus();
@@ -123,7 +122,7 @@ void TarnTool::initTarnStatus()
 {
     if (!m_settings)
         return;
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     // A value beyond the limits is shown as the limit.
     for (const Count &count : m_counts)
         count.box->setValue(SettingsRules::nonZeroInt(*m_settings, count.key, count.initial));
@@ -168,10 +167,10 @@ void TarnTool::showChange()
 
 void TarnTool::saveSoon()
 {
-    if (m_saveSoon->isHeld())
+    if (m_saveSoon.isHeld())
         return;
     m_userChanged = true;
-    m_saveSoon->schedule();
+    m_saveSoon.schedule();
 }
 
 void TarnTool::setAllCtrolDisabled(bool disabled)

@@ -3,6 +3,7 @@
 
 #include "colorchoice.h"
 #include "controlbase.h"
+#include "savesoon.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -14,7 +15,6 @@ class AdvancedSetup;
 class QButtonGroup;
 class QImage;
 class QSpinBox;
-class SaveSoon;
 
 namespace Ui {
 class TarnTool;
@@ -118,7 +118,7 @@ private:
     std::array<Count, countCount> m_counts{};
     std::array<ColorChoice, colorCount> m_colors{};
     QSettings *m_settings;
-    SaveSoon *m_saveSoon;
+    SaveSoon m_saveSoon;
     QString m_bgPicturePath; // of the picture in use; empty for the solid colour
     QString m_lastPictureDir = QStringLiteral("."); // where the next file dialog begins
     QPointer<AdvancedSetup> m_setup; // while it is open

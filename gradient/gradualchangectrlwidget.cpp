@@ -6,7 +6,6 @@
 #include "form.h"
 #include "latin1.h"
 #include "purecolor.h"
-#include "savesoon.h"
 #include "settingsrules.h"
 #include "swatchrow.h"
 
@@ -58,7 +57,7 @@ GradualChangeCtrlWidget::GradualChangeCtrlWidget(QWidget *drawWidget, QSettings 
     , m_levelButtons{ui->buttonFirstLevel, ui->buttonSecondLevel, ui->buttonThirdLevel,
                      ui->buttonFirthLevel}
     , m_swatches(new SwatchRow(*ui, this))
-    , m_saveSoon(new SaveSoon([this] { saveGradualChangeInfo(); }, this))
+    , m_saveSoon([this] { saveGradualChangeInfo(); }, this)
 {
     for (QPushButton *button : m_levelButtons)
         button->setObjectName(QStringLiteral("levelPushBtn"));
@@ -93,7 +92,7 @@ void GradualChangeCtrlWidget::initGradualChangeStatus()
 {
     if (!m_settings)
         return;
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     const QColor color = storedColor(*m_settings);
     slot_changeSelectedGradualColor(color);
     m_colorIndex = CommonHelper::getColorIndex(color);
@@ -136,7 +135,7 @@ void GradualChangeCtrlWidget::selectColor(int index)
 void GradualChangeCtrlWidget::apply()
 {
     m_drawer.slot_gradualChangeColor(m_level, m_color);
-    m_saveSoon->schedule();
+    m_saveSoon.schedule();
 }
 
 void GradualChangeCtrlWidget::slot_changeSelectedGradualColor(const QColor &color)

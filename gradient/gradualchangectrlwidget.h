@@ -2,6 +2,7 @@
 
 #include "controlbase.h"
 #include "gradualchange.h"
+#include "savesoon.h"
 
 #include <QColor>
 #include <QWidget>
@@ -11,7 +12,6 @@
 
 class QPushButton;
 class QSettings;
-class SaveSoon;
 class SwatchRow;
 
 namespace Ui {
@@ -86,5 +86,5 @@ private:
     bool m_firstToggle = true; // the colour that is restored is not the operator's choice
     const std::array<QPushButton *, levelCount> m_levelButtons;
     SwatchRow *m_swatches;
-    SaveSoon *m_saveSoon;
+    SaveSoon m_saveSoon;
 };

@@ -6,7 +6,6 @@
 #include "form.h"
 #include "mixsetting.h"
 #include "purecolor.h"
-#include "savesoon.h"
 #include "settingsrules.h"
 #include "swatchrow.h"
 
@@ -49,7 +48,7 @@ ScrGridCtrlDialog::ScrGridCtrlDialog(QWidget *testWindow, QSettings *settings_, 
     , m_speed(ui->hScrollBarSpeed, ui->labelSpeed)
     , m_lamps(ui->signalGreenButton, ui->signalGreyButton)
     , m_swatches(new SwatchRow(*ui, this))
-    , m_saveSoon(new SaveSoon([this] { saveWhileRunning(); }, this))
+    , m_saveSoon([this] { saveWhileRunning(); }, this)
 {
     for (QPushButton *button : {ui->pushButtonPause, ui->pushButtonSettings})
         button->setObjectName(QStringLiteral("beginPushBtn"));
@@ -111,18 +110,18 @@ void ScrGridCtrlDialog::initRunSlots()
 void ScrGridCtrlDialog::initSaving()
 {
     for (const QSpinBox *spinBox : {ui->labelGrayLevel, ui->labelSpeed})
-        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), m_saveSoon, &SaveSoon::schedule);
-    connect(m_swatches, &SwatchRow::selected, m_saveSoon, &SaveSoon::schedule);
-    connect(ui->netGridCheckBox, &QCheckBox::toggled, m_saveSoon, &SaveSoon::schedule);
+        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), &m_saveSoon, &SaveSoon::schedule);
+    connect(m_swatches, &SwatchRow::selected, &m_saveSoon, &SaveSoon::schedule);
+    connect(ui->netGridCheckBox, &QCheckBox::toggled, &m_saveSoon, &SaveSoon::schedule);
     for (const QPushButton *button : {ui->pushButtonPause, ui->pushButtonMerged, ui->pushButtonOld})
-        connect(button, &QPushButton::clicked, m_saveSoon, &SaveSoon::schedule);
+        connect(button, &QPushButton::clicked, &m_saveSoon, &SaveSoon::schedule);
     for (const QPushButton *button : m_families.buttons())
-        connect(button, &QPushButton::clicked, m_saveSoon, &SaveSoon::schedule);
+        connect(button, &QPushButton::clicked, &m_saveSoon, &SaveSoon::schedule);
 }
 
 void ScrGridCtrlDialog::initCtrls()
 {
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     m_speed.setRange(minimumSpeed, maximumSpeed);
     m_grey.setRange(0, maximumGrey);
     ui->radioButtonRed->setChecked(true);
@@ -132,7 +131,7 @@ void ScrGridCtrlDialog::initCtrls()
 // Restoring is not a change by the operator and writes nothing.
 void ScrGridCtrlDialog::initGridStatus()
 {
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     if (settings) {
         ui->netGridCheckBox->setChecked(!settings->value(overlayOffKey).toBool());
         lineIndex = static_cast<qint16>(m_families.restore(*settings));
@@ -230,7 +229,7 @@ void ScrGridCtrlDialog::slot_changeSelectedGridColor(const QColor &color)
 
 void ScrGridCtrlDialog::storeColor(const QColor &color)
 {
-    if (settings && !m_saveSoon->isHeld())
+    if (settings && !m_saveSoon.isHeld())
         SettingsRules::store(*settings, SharedKey::baseColor, color);
 }
 
@@ -299,7 +298,7 @@ void ScrGridCtrlDialog::canclePageUpDownSelect()
 // Not a change by the operator: what it leads to is saved with the next one.
 void ScrGridCtrlDialog::gridBtnClick()
 {
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     m_families.clickPressed();
 }
 
@@ -315,7 +314,7 @@ void ScrGridCtrlDialog::initTimer(int speed)
 // The run's own steps are not worth a write each.
 void ScrGridCtrlDialog::slot_TimerOut()
 {
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     showRunning(m_run.isOn);
     if (m_run.isOn)
         emit signal_gridAutoChange();

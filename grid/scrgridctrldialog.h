@@ -5,6 +5,7 @@
 #include "griddrawer.h"
 #include "gridrun.h"
 #include "runindicator.h"
+#include "savesoon.h"
 #include "sliderspinboxpair.h"
 
 #include <QDialog>
@@ -12,8 +13,6 @@
 #include <memory>
 
 class QSettings;
-class QTimer;
-class SaveSoon;
 class SwatchRow;
 
 namespace Ui {
@@ -148,6 +147,6 @@ private:
     SliderSpinBoxPair m_speed;
     RunIndicator m_lamps;
     SwatchRow *m_swatches;
-    SaveSoon *m_saveSoon;
+    SaveSoon m_saveSoon;
     bool m_runningShown = false; // by the text of the start/pause button
 };

@@ -7,7 +7,6 @@
 #include "form.h"
 #include "latin1.h"
 #include "purecolor.h"
-#include "savesoon.h"
 #include "settingsrules.h"
 #include "swatchrow.h"
 
@@ -52,7 +51,7 @@ ScrPurityCtrlDialog::ScrPurityCtrlDialog(QWidget *testWindow, QSettings *setting
     , m_speed(ui->hScrollBarSpeed, ui->spinBoxSpeed)
     , m_lamps(ui->signalGreenButton, ui->signalGreyButton)
     , m_swatches(new SwatchRow(*ui, this))
-    , m_saveSoon(new SaveSoon([this] { saveScrPurityInfo(); }, this))
+    , m_saveSoon([this] { saveScrPurityInfo(); }, this)
 {
     initSlots();
     initCtrls();
@@ -86,13 +85,13 @@ void ScrPurityCtrlDialog::initSlots()
     connect(ui->spinBoxSpeed, valueChanged, this, &Panel::slot_SpeedChanged);
 
     for (QSpinBox *spinBox : {ui->spinBoxScale, ui->spinBoxSpeed, ui->spinBoxAutoScale})
-        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), m_saveSoon, &SaveSoon::schedule);
-    connect(ui->radioButtonAuto, &QRadioButton::toggled, m_saveSoon, &SaveSoon::schedule);
+        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), &m_saveSoon, &SaveSoon::schedule);
+    connect(ui->radioButtonAuto, &QRadioButton::toggled, &m_saveSoon, &SaveSoon::schedule);
 }
 
 void ScrPurityCtrlDialog::initCtrls()
 {
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     ui->buttonPauseResume->setObjectName(QStringLiteral("beginPushBtn"));
     m_speed.setRange(minimumSpeed, maximumSpeed);
     m_grey.setRange(0, maximumGrey);
@@ -112,7 +111,7 @@ void ScrPurityCtrlDialog::initPurityStatus()
 {
     if (!settings)
         return;
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     const QColor stored = SettingsRules::color(*settings, SharedKey::baseColor);
     slot_changeSelectedPurityColor(stored.isValid() ? stored : QColor(Qt::red));
     restoreControls();
@@ -194,7 +193,7 @@ void ScrPurityCtrlDialog::slot_changeSelectedPurityColor(const QColor &color)
 
 void ScrPurityCtrlDialog::storeColor(const QColor &color)
 {
-    if (settings && !m_saveSoon->isHeld())
+    if (settings && !m_saveSoon.isHeld())
         SettingsRules::store(*settings, SharedKey::baseColor, color);
 }
 
@@ -298,7 +297,7 @@ void ScrPurityCtrlDialog::enableControls(bool automatic)
 void ScrPurityCtrlDialog::slot_AutoTimerFinished()
 {
     // The run's own steps are not worth a write each.
-    const auto hold = m_saveSoon->hold();
+    const auto hold = m_saveSoon.hold();
     int grey = ui->spinBoxAutoScale->value();
     if (stepUp)
         grey = wrappedGrey(grey + 1);

@@ -2,6 +2,7 @@
 
 #include "controlbase.h"
 #include "runindicator.h"
+#include "savesoon.h"
 #include "scrpurity.h"
 #include "sliderspinboxpair.h"
 
@@ -10,8 +11,6 @@
 #include <memory>
 
 class QSettings;
-class QTimer;
-class SaveSoon;
 class SwatchRow;
 
 namespace Ui {
@@ -96,5 +95,5 @@ private:
     SliderSpinBoxPair m_speed;
     RunIndicator m_lamps;
     SwatchRow *m_swatches;
-    SaveSoon *m_saveSoon;
+    SaveSoon m_saveSoon;
 };

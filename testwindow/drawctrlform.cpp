@@ -5,7 +5,6 @@
 #include "commonhelper.h"
 #include "form.h"
 #include "placekeeper.h"
-#include "savesoon.h"
 #include "settingsrules.h"
 #include "wayland.h"
 
@@ -39,7 +38,7 @@ DrawCtrlForm::DrawCtrlForm(QWidget *testWindow_, QSettings *settings_, QWidget *
                {ui->hScrollBarHeight, ui->spinBoxHeight}}}
     , testWindow(testWindow_)
     , settings(settings_)
-    , m_saveSoon(new SaveSoon([this] { saveWindowBaseInfo(); }, this))
+    , m_saveSoon([this] { saveWindowBaseInfo(); }, this)
     , m_keeper(new PlaceKeeper(testWindow, new ManagerEcho, this))
 {
     for (QPushButton *button : {ui->pushButtonShow, ui->pushButtonHide})
@@ -175,7 +174,7 @@ QRect DrawCtrlForm::adopt(const QRect &rectangle)
     };
     m_placement = changed(m_placement);
     m_areScreensNew = false;
-    m_saveSoon->schedule();
+    m_saveSoon.schedule();
     return changed(before);
 }
 
@@ -208,7 +207,7 @@ bool DrawCtrlForm::eventFilter(QObject *watched, QEvent *event)
     if (watched == testWindow && isOfInterest && !event->spontaneous()
         && ui->pushButtonHide->isEnabled() != isShown) {
         showVisibility(isShown);
-        m_saveSoon->schedule();
+        m_saveSoon.schedule();
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -261,13 +260,13 @@ void DrawCtrlForm::slot_HidePushed()
 void DrawCtrlForm::slot_enableShowButton()
 {
     showVisibility(false);
-    m_saveSoon->schedule();
+    m_saveSoon.schedule();
 }
 
 void DrawCtrlForm::slot_disableShowButton()
 {
     showVisibility(true);
-    m_saveSoon->schedule();
+    m_saveSoon.schedule();
 }
 
 void DrawCtrlForm::slot_MoveX(int x)

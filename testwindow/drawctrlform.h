@@ -1,6 +1,7 @@
 #pragma once
 
 #include "latin1.h"
+#include "savesoon.h"
 #include "sliderspinboxpair.h"
 
 #include <QRect>
@@ -12,7 +13,6 @@
 class PlaceKeeper;
 class QDesktopWidget;
 class QSettings;
-class SaveSoon;
 
 namespace Ui {
 class DrawCtrlForm;
@@ -91,7 +91,7 @@ private:
     QWidget *testWindow;
     QSettings *settings;
     QDesktopWidget *desktop = nullptr;
-    SaveSoon *m_saveSoon;
+    SaveSoon m_saveSoon;
     PlaceKeeper *m_keeper;
     QRect m_placement; // asked for by the operator; the controls clip it to the desktop
     bool m_hasRoom = true; // for that, on the present screens
