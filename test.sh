@@ -11,5 +11,4 @@ configure release
 build build
 ensure_runtime_dir
 
-cd build
-ctest --output-on-failure --no-tests=error -j2 "$@"
+run_tests build "$@"

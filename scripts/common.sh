@@ -26,6 +26,17 @@ build() {
   fi
 }
 
+# set_sanitizers: how they judge what is built with the preset asan.
+set_sanitizers() {
+  export ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+  export LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp:print_suppressions=0"
+}
+
+# run_tests FOLDER [OPTION...]: four at a time, since the end-to-end tests wait most of the time.
+run_tests() {
+  (cd "$1" && ctest --output-on-failure --no-tests=error -j4 "${@:2}")
+}
+
 # Qt wants a runtime folder that nobody else can read.
 ensure_runtime_dir() {
   if [ -z "${XDG_RUNTIME_DIR:-}" ]; then

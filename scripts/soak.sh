@@ -60,24 +60,25 @@ echo "soak: $minutes of $all_minutes minutes, seed $TARN_SOAK_SEED" >&2
 megabytes() { awk -v kib="$1" 'BEGIN { printf "%.1f", kib / 1024 }'; }
 
 # run_row NUMBER BUILD COUNT WHAT PROGRAM [ARGUMENT...]: writes its line of the table to NUMBER.md.
+# In a shell of its own.
 run_row() {
   local number=$1 build=$2 count=$3 what=$4 program=$5
   shift 5
-  local log=$folder/$number-$program.txt start=$SECONDS failures=0 variables=() figures
+  local log=$folder/$number-$program.txt start=$SECONDS failures=0 figures
   local path=build/tests/$program
+  export TARN_SOAK_COUNT=$count
   if [ "$build" = asan ]; then
     path=build-asan/tests/$program
-    variables=(TARN_TEST_TIMEOUT_SCALE=4
-      ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
-      LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp:print_suppressions=0")
+    export TARN_TEST_TIMEOUT_SCALE=4
+    set_sanitizers
   fi
   if [ -d "$path" ]; then
     # Another row may have the same program, whose settings file lies beside it.
     cp -r "$path" "$folder/$number"
     path=$folder/$number/$program
-    variables+=(QT_QPA_PLATFORM=offscreen)
+    export QT_QPA_PLATFORM=offscreen
   fi
-  env TARN_SOAK_COUNT="$count" "${variables[@]}" "$path" "$@" >"$log" 2>&1 || {
+  "$path" "$@" >"$log" 2>&1 || {
     failures=$(grep -c '^FAIL!' "$log") || failures=1 # none: it has crashed
     touch "$folder/failed"
   }
