@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <future>
+#include <utility>
 
 namespace {
 
@@ -21,17 +22,19 @@ bool copy(const QString &path, QIODevice &to)
     return from.error() == QFileDevice::NoError;
 }
 
-void copyToStore(const QString &file)
+// After the copying before.
+void copyToStore(std::future<void> before, const QString &file)
 {
+    if (before.valid())
+        before.wait();
     QSaveFile kept(PictureStore::path());
     if (kept.open(QIODevice::WriteOnly) && copy(file, kept))
         kept.commit();
 }
 
-// One at a time.
 struct Copying
 {
-    std::future<void> end;
+    std::future<void> end; // of the last one
     QString file;
 };
 
@@ -52,9 +55,8 @@ QString path()
 
 void keep(const QString &file)
 {
-    finish();
     copying().file = file;
-    copying().end = std::async(std::launch::async, copyToStore, file);
+    copying().end = std::async(std::launch::async, copyToStore, std::move(copying().end), file);
 }
 
 QString current()

@@ -4,6 +4,9 @@
 
 #include <QtTest>
 
+#include <chrono>
+#include <future>
+
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #endif
@@ -16,6 +19,7 @@ private slots:
     void init() { KeptPicture::set("earlier"); }
 
     void keep_waitsForNoDisk();
+    void keep_waitsForNoCopyBefore();
     void lastOfMany_isKept();
     void fileThatCannotBeRead_leavesTheEarlierOne();
 
@@ -41,6 +45,31 @@ void TestPictureStore::keep_waitsForNoDisk()
     pipe.close();
     QCOMPARE(KeptPicture::contents(), QByteArray("later"));
     QCOMPARE(PictureStore::current(), PictureStore::path());
+#else
+    QSKIP("There are no pipes in folders here.");
+#endif
+}
+
+// The pipe ends by itself where it is waited for.
+void TestPictureStore::keep_waitsForNoCopyBefore()
+{
+#ifdef Q_OS_UNIX
+    const QString path = m_files.path() + QStringLiteral("/slow");
+    QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    PictureStore::keep(path);
+    std::promise<void> isKept;
+    auto hasWaited = std::async(std::launch::async, [path, kept = isKept.get_future()] {
+        const bool isLate = kept.wait_for(std::chrono::seconds(5)) != std::future_status::ready;
+        QFile(path).open(QIODevice::WriteOnly);
+        return isLate;
+    });
+    const QString last = m_files.add(QByteArray("last"));
+    PictureStore::keep(last);
+    const QString current = PictureStore::current();
+    isKept.set_value();
+    QVERIFY(!hasWaited.get());
+    QCOMPARE(current, last);
+    QCOMPARE(KeptPicture::contents(), QByteArray("last"));
 #else
     QSKIP("There are no pipes in folders here.");
 #endif
