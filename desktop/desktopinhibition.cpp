@@ -58,7 +58,7 @@ DesktopInhibition::~DesktopInhibition()
 void DesktopInhibition::setHeld(bool held)
 {
     m_held = held && hasSessionBus();
-    m_asksAgain = m_held && m_asking;
+    m_asksAgain = m_held && !m_asked.isEmpty();
     if (m_held && !m_watcher)
         watchServices();
     settle();
@@ -74,8 +74,11 @@ void DesktopInhibition::watchServices()
             [this](const QString &name, const QString & /*before*/, const QString &now) {
                 if (m_release.service() == name)
                     m_release = {};
-                if (!now.isEmpty())
-                    settle();
+                if (now.isEmpty())
+                    return;
+                if (name != m_asked)
+                    m_asksAgain = m_held && !m_asked.isEmpty();
+                settle();
             });
 }
 
@@ -83,10 +86,9 @@ void DesktopInhibition::watchServices()
 void DesktopInhibition::settle()
 {
     const bool granted = m_release.type() == QDBusMessage::MethodCallMessage;
-    if (m_asking || m_held == granted)
+    if (!m_asked.isEmpty() || m_held == granted)
         return;
     if (m_held) {
-        m_asking = true;
         askScreenSaver();
     } else {
         QDBusConnection::sessionBus().send(m_release);
@@ -116,7 +118,7 @@ void DesktopInhibition::askPortal()
     request << QString() << portalIdle << QVariantMap{{QStringLiteral("reason"), reason()}};
     call(request, [this](const QDBusMessage &reply) {
         if (reply.type() != QDBusMessage::ReplyMessage) {
-            m_asking = false;
+            m_asked.clear();
             if (m_asksAgain)
                 setHeld(true);
             return;
@@ -129,6 +131,7 @@ void DesktopInhibition::askPortal()
 template<typename Answer>
 void DesktopInhibition::call(const QDBusMessage &request, Answer answer)
 {
+    m_asked = request.service();
     auto *watcher =
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(request), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, answer] {
@@ -140,7 +143,7 @@ void DesktopInhibition::call(const QDBusMessage &request, Answer answer)
 // The owner may have given up in the meantime.
 void DesktopInhibition::answered(const QDBusMessage &release)
 {
-    m_asking = false;
+    m_asked.clear();
     m_release = release;
     settle();
 }

@@ -2,6 +2,7 @@
 
 #include <QDBusMessage>
 #include <QObject>
+#include <QString>
 
 class QDBusServiceWatcher;
 
@@ -30,7 +31,8 @@ private:
 
     QDBusServiceWatcher *m_watcher = nullptr; // from the first time on that something is asked
     bool m_held = false; // as asked for by the owner
-    bool m_asking = false; // a service has not answered yet
-    bool m_asksAgain = false; // should it refuse: wanted once more in the meantime
+    QString m_asked; // the service that has not answered yet
+    // Should all refuse: wanted once more in the meantime, or another service has come.
+    bool m_asksAgain = false;
     QDBusMessage m_release; // gives back what the desktop granted; no method call while it did not
 };

@@ -50,18 +50,26 @@ public slots:
     void Close() { ++closed; }
 };
 
-class Portal : public QObject
+class Portal
+    : public QObject
+    , protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Inhibit")
 
 public:
     QVector<uint> flags;
+    bool answersLate = false;
+    QDBusMessage waiting;
 
 public slots:
     QDBusObjectPath Inhibit(const QString & /*window*/, uint what, const QVariantMap & /*options*/)
     {
         flags.append(what);
+        if (answersLate) {
+            setDelayedReply(true);
+            waiting = message();
+        }
         return QDBusObjectPath("/request");
     }
 };
@@ -85,11 +93,13 @@ private slots:
     void withoutScreenSaver_asksThePortal();
     void withoutEither_isQuietAndAsksAgainWhenShownAgain();
     void serviceThatComesLaterOrAgain_isAsked();
+    void serviceThatComesWhileThePortalIsAsked_isAskedToo();
     void shownAgainBeforeTheRefusal_asksAgain();
 
 private:
     QDBusConnection bus() const { return QDBusConnection(QStringLiteral("desktop")); }
     void offerScreenSaver();
+    void offerPortal(Portal *portal) const;
     void withdrawServices() const;
     void showUnanswered();
     void deliverAnswers() const;
@@ -122,6 +132,13 @@ void tst_ScreenWakeLock::offerScreenSaver()
     QVERIFY(bus().registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), m_desktop.get(),
                                  QDBusConnection::ExportAllSlots));
     QVERIFY(bus().registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
+}
+
+void tst_ScreenWakeLock::offerPortal(Portal *portal) const
+{
+    QVERIFY(bus().registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), portal,
+                                 QDBusConnection::ExportAllSlots));
+    QVERIFY(bus().registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
 }
 
 void tst_ScreenWakeLock::showUnanswered()
@@ -211,10 +228,8 @@ void tst_ScreenWakeLock::withoutScreenSaver_asksThePortal()
 {
     Portal portal;
     PortalRequest request;
-    bus().registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &portal,
-                         QDBusConnection::ExportAllSlots);
     bus().registerObject(QStringLiteral("/request"), &request, QDBusConnection::ExportAllSlots);
-    QVERIFY(bus().registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
+    offerPortal(&portal);
     new ScreenWakeLock(m_window.get());
     m_window->show();
     QTRY_COMPARE(portal.flags, QVector<uint>{8}); // against the session becoming idle
@@ -253,6 +268,22 @@ void tst_ScreenWakeLock::serviceThatComesLaterOrAgain_isAsked()
     deliverAnswers();
     QCOMPARE(m_desktop->reasons.size(), 2);
     QVERIFY(m_desktop->givenBack.isEmpty()); // what had granted it is gone
+}
+
+// At the start of a session the portal may take long, and then refuse.
+void tst_ScreenWakeLock::serviceThatComesWhileThePortalIsAsked_isAskedToo()
+{
+    Portal portal;
+    portal.answersLate = true;
+    offerPortal(&portal);
+    new ScreenWakeLock(m_window.get());
+    m_window->show();
+    QTRY_COMPARE(portal.flags.size(), 1);
+    offerScreenSaver();
+    deliverAnswers();
+    bus().send(portal.waiting.createErrorReply(QDBusError::Failed, QString()));
+    QTRY_COMPARE(m_desktop->reasons.size(), 1);
+    QCOMPARE(portal.flags.size(), 1);
 }
 
 void tst_ScreenWakeLock::shownAgainBeforeTheRefusal_asksAgain()
