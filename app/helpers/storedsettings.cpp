@@ -8,11 +8,10 @@
 
 namespace {
 
-// Below a file nothing can be read or written.
+// Among the compiled-in resources, where nothing can be written, and no disk is asked.
 QString nowhere()
 {
-    return QCoreApplication::applicationFilePath() + QLatin1Char('/')
-           + QUuid::createUuid().toString();
+    return QStringLiteral(":/") + QUuid::createUuid().toString();
 }
 
 } // namespace

@@ -32,6 +32,7 @@ private slots:
     void fileOfAnotherProgram_getsAllAgain();
     void settingsWithoutAFile_writeNothing();
     void settingsOfOneFile_shareNoValues();
+    void programThatIsTakenAway_getsNothingInItsPlace();
 
 private:
     QString path() const { return m_place->filePath(QStringLiteral("config.ini")); }
@@ -142,6 +143,22 @@ void TestStoredSettings::settingsOfOneFile_shareNoValues()
     first.setValue(keyX, 1);
     QVERIFY(!second.contains(keyX));
     QVERIFY(!first.contains(keyY));
+}
+
+// As an update does while the program runs.
+void TestStoredSettings::programThatIsTakenAway_getsNothingInItsPlace()
+{
+    const QString program = QCoreApplication::applicationFilePath();
+    const QString away = program + QStringLiteral(".away");
+    StoredSettings settings({}, path());
+    QVERIFY(QFile::rename(program, away));
+    settings.setValue(keyX, 1);
+    settings.save();
+    const bool isThere = QFileInfo::exists(program);
+    QDir(program).removeRecursively();
+    QVERIFY(QFile::rename(away, program));
+    QVERIFY(!isThere);
+    QCOMPARE(stored().value(keyX).toInt(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestStoredSettings)
