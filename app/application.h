@@ -36,6 +36,6 @@ protected:
 private:
     void initTermination();
 
+    TerminationSignals m_terminationSignals; // until the main window has saved
     MainWindow m_mainWindow;
-    TerminationSignals m_terminationSignals;
 };

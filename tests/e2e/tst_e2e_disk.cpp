@@ -24,6 +24,7 @@ private slots:
     void fileOfAnotherProgram_isWrittenWholeAgain();
     void slowDisk_holdsNothingUp();
     void endOnASlowDisk_waitsForTheFile();
+    void anotherSignalAtTheEnd_losesNothing();
     void anyFaults_loseNothing();
 
 private:
@@ -218,6 +219,23 @@ void tst_e2e_disk::endOnASlowDisk_waitsForTheFile()
     QVERIFY(change());
     QVERIFY2(tool().quit(), qPrintable(tool().problem()));
     QCOMPARE(stored(), m_place);
+    QVERIFY(isAllStored());
+}
+
+/// A terminal that is closed sends more than one.
+void tst_e2e_disk::anotherSignalAtTheEnd_losesNothing()
+{
+    start();
+    QVERIFY(!QTest::currentTestFailed());
+    setFault("1000");
+    QVERIFY(change());
+    const auto sendSignal = [this] { ::kill(pid_t(tool().processId()), SIGTERM); };
+    sendSignal();
+    QVERIFY(waitFor([this] {
+        return !desktop().windows().answersPing(tool().controlWindow().id, AnswerMs / 10);
+    }));
+    sendSignal();
+    QVERIFY2(tool().waitForCleanExit(), qPrintable(tool().problem()));
     QVERIFY(isAllStored());
 }
 
