@@ -296,6 +296,7 @@ void TarnTool::takePictureAway()
 {
     m_drawer->m_bgColor = m_colors[BackgroundColor].color;
     m_drawer->m_bgPicturePath.clear();
+    m_drawer->m_bgPixmap = QPixmap();
     m_bgPicturePath.clear();
 }
 

@@ -20,6 +20,7 @@ private slots:
     void nextFileDialog_beginsAtTheChosenFile();
     void chosenPicture_isDecodedOnce();
     void solidButton_takesThePictureAway();
+    void solidButton_keepsNoPictureInMemory();
     void changedSize_stretchesThePictureAgain();
 
 private:
@@ -198,6 +199,17 @@ void TestTarnToolPicture::solidButton_takesThePictureAway()
     QVERIFY(rig.panel->m_userChanged);
     rig.layOut();
     QCOMPARE(rig.drawer->m_bgPicturePath, QString());
+}
+
+void TestTarnToolPicture::solidButton_keepsNoPictureInMemory()
+{
+    CabinetRig rig({}, m_cyan);
+    rig.layOut();
+    QCOMPARE(cornerOf(rig), qRgb(0, 255, 255));
+    rig.click("radioBackground");
+    QVERIFY(rig.drawer->m_bgPixmap.isNull());
+    rig.click("radioPicture");
+    QCOMPARE(cornerOf(rig), qRgb(0, 255, 255));
 }
 
 void TestTarnToolPicture::changedSize_stretchesThePictureAgain()
