@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QPixmap>
 #include <QWidget>
 
 namespace {
@@ -60,17 +61,17 @@ void GradualChange::draw(bool paint)
     painter.drawRect(QRect(QPoint(-1, -1), targetWidget->size()));
 }
 
-// All rows but the last are alike, so a few are kept and copied.
-void GradualChange::paintRows(QPainter &painter)
+// All rows but the last are alike, so a few are painted and copied.
+void GradualChange::paintRows(QPainter &painter) const
 {
     const QSize size = targetWidget->size();
     const QPen pen = painter.pen(); // of the window's text colour
-    const QPixmap &strip = m_strip.pixmap(
-        {size.width(), stripHeight}, {m_level, m_color, pen}, [&](QPainter &stripPainter) {
-            stripPainter.setPen(pen);
-            stripPainter.setBrush(m_ramps);
-            stripPainter.drawRect(-1, -1, size.width(), stripHeight + 1);
-        });
+    QPixmap strip(size.width(), stripHeight);
+    QPainter stripPainter(&strip);
+    stripPainter.setPen(pen);
+    stripPainter.setBrush(m_ramps);
+    stripPainter.drawRect(-1, -1, size.width(), stripHeight + 1);
+    stripPainter.end();
     for (int top = 0; top < size.height(); top += stripHeight)
         painter.drawPixmap(0, top, strip);
     painter.fillRect(0, size.height() - 1, size.width(), 1, pen.brush());

@@ -1,13 +1,9 @@
 #pragma once
 
 #include "drawerbase.h"
-#include "paintedpicture.h"
 
 #include <QBrush>
 #include <QColor>
-#include <QPen>
-
-#include <tuple>
 
 // Fills the test window with ramps from black to one colour, side by side; one ramp is
 // as many pixels long as it has levels.
@@ -26,10 +22,9 @@ public slots:
     void slot_gradualChangeColor(short level, const QColor &color);
 
 private:
-    void paintRows(QPainter &painter);
+    void paintRows(QPainter &painter) const;
 
     qint16 m_level = 0;
     QColor m_color = Qt::red;
     QBrush m_ramps;
-    PaintedPicture<std::tuple<qint16, QColor, QPen>> m_strip;
 };
