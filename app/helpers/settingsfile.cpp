@@ -104,7 +104,9 @@ QVariantMap SettingsFile::values(const QString &path)
         return parsed(path);
     QTemporaryFile copy;
     const bool isCopied = copy.open() && copy.write(harmless) == harmless.size() && copy.flush();
-    return isCopied ? parsed(copy.fileName()) : QVariantMap();
+    if (isCopied)
+        return parsed(copy.fileName());
+    return harmless != text && replace(path, harmless) ? parsed(path) : QVariantMap();
 }
 
 bool SettingsFile::write(const QString &path, const QVariantMap &values)

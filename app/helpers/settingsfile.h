@@ -18,7 +18,8 @@ constexpr qint64 maximumSize = 8 << 20;
 QByteArray harmlessLines(const QByteArray &text);
 
 // The values of the file in INI format and UTF-8, whatever stands in its place; without those that
-// the reader would not survive, and none where reading would wait for ever.
+// the reader would not survive, which are taken out of the file only where there is no room for a
+// copy of it, and none where reading would wait for ever.
 QVariantMap values(const QString &path);
 
 // Writes them into the file in one step, beside what else is in it but harms the reader. False

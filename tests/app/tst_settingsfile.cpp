@@ -36,6 +36,7 @@ private slots:
     void harmlessLines_leavesTheRestAsItIs();
     void values_areReadAsTheyWereWritten();
     void values_areReadWithoutTheHarmfulOnes();
+    void values_needNoTemporaryFolder();
     void write_takesHarmfulValuesOut();
     void write_leavesWhatElseIsThere();
     void write_waitsForNoLockOfThisProgram_data();
@@ -149,6 +150,20 @@ void TestSettingsFile::values_areReadWithoutTheHarmfulOnes()
     QCOMPARE(values.value(QStringLiteral("setting/color")).value<QColor>(),
              QColor::fromRgba64(0x1212, 0, 0xffff));
     QCOMPARE(read(), text);
+}
+
+void TestSettingsFile::values_needNoTemporaryFolder()
+{
+#ifdef Q_OS_UNIX
+    write("[setting]\nx=12\nbad=" + pen + '\n');
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", QFile::encodeName(path())); // which is no folder
+    const QVariantMap values = SettingsFile::values(path());
+    qputenv("TMPDIR", before);
+    QCOMPARE(values, QVariantMap({{QStringLiteral("setting/x"), QStringLiteral("12")}}));
+#else
+    QSKIP("The folder has another name.");
+#endif
 }
 
 void TestSettingsFile::write_takesHarmfulValuesOut()
