@@ -31,7 +31,7 @@ public:
 
     // Selects the drawer that is painted from now on, or, while it is inactive, from
     // its activation on. Nothing happens on null. The drawer is borrowed and has to
-    // outlive the window or the next call.
+    // outlive the window or the first painting of another.
     void setDrawer(DrawerBase *drawer, bool active);
 
     // The drawer last handed over, null at start.

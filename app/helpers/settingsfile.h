@@ -22,8 +22,8 @@ QByteArray harmlessLines(const QByteArray &text);
 // copy of it, and none where reading would wait for ever.
 QVariantMap values(const QString &path);
 
-// Writes them into the file in one step, beside what else is in it but harms the reader. False
-// where that cannot be done, or would wait for ever.
+// Writes them into the file in one step, beside what else is in it; what the reader would not
+// survive is taken out in a step before. False where that cannot be done, or would wait for ever.
 bool write(const QString &path, const QVariantMap &values);
 
 } // namespace SettingsFile
