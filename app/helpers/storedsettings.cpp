@@ -22,8 +22,8 @@ StoredSettings::StoredSettings(const QVariantMap &values, const QString &path, Q
 {
     for (auto value = values.cbegin(); value != values.cend(); ++value)
         setValue(value.key(), value.value());
-    sync();
-    QCoreApplication::removePostedEvents(this, QEvent::UpdateRequest);
+    QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+    m_isDue = false;
     m_writer.path = path;
     m_retry.setSingleShot(true);
     m_retry.setInterval(retryMs);
