@@ -38,23 +38,19 @@ private:
 
 Stage::Stage(const QSize &size)
     : m_target(size, QImage::Format_RGB32)
-    , m_copier(std::make_unique<CopyDrawer>(&m_window, size))
+    , m_copier(std::make_unique<CopyDrawer>(&m_copyWindow, size))
 {
     m_window.resize(size);
+    m_copyWindow.resize(size);
     m_target.fill(Qt::black);
 }
 
 Stage::~Stage() = default;
 
-double Stage::paint(DrawerBase &drawer)
+double Stage::paint(DrawContainer &window, DrawerBase &drawer)
 {
-    m_window.setDrawer(&drawer, true);
+    window.setDrawer(&drawer, true);
     const std::clock_t start = std::clock();
-    m_window.render(&m_target, QPoint(), QRegion(), QWidget::DrawWindowBackground);
+    window.render(&m_target, QPoint(), QRegion(), QWidget::DrawWindowBackground);
     return double(std::clock() - start) / CLOCKS_PER_SEC;
-}
-
-double Stage::copy()
-{
-    return paint(*m_copier);
 }

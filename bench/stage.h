@@ -19,13 +19,16 @@ public:
 
     // The processor time in seconds that the window's whole paint event takes with this drawer,
     // its background included; what else the machine does costs none.
-    double paint(DrawerBase &drawer);
+    double paint(DrawerBase &drawer) { return paint(m_window, drawer); }
 
     // The same for the copy of an opaque pixmap of the window's size: the yardstick.
-    double copy();
+    double copy() { return paint(m_copyWindow, *m_copier); }
 
 private:
+    double paint(DrawContainer &window, DrawerBase &drawer);
+
     DrawContainer m_window;
+    DrawContainer m_copyWindow; // one window would make its drawers drop their kept pictures
     QImage m_target;
     const std::unique_ptr<DrawerBase> m_copier;
 };
