@@ -85,6 +85,12 @@ bool isShown(xcb_window_t window)
     return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
+// The window, or the one that it is to be above, may just have gone or been hidden.
+void ignoreErrors(xcb_void_cookie_t request)
+{
+    xcb_discard_reply(server(), request.sequence);
+}
+
 // Of the same program.
 bool isAkin(xcb_window_t one, xcb_window_t other)
 {
@@ -169,8 +175,8 @@ void X11Windows::lift(const QVector<WId> &windows)
             continue; // still in its frame
         const quint32 values[] = {below, XCB_STACK_MODE_ABOVE};
         if (height < highest)
-            xcb_configure_window(server(), id,
-                                 XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values);
+            ignoreErrors(xcb_configure_window_checked(
+                server(), id, XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values));
         highest = qMax(highest, height);
         below = id;
     }
@@ -179,6 +185,6 @@ void X11Windows::lift(const QVector<WId> &windows)
 void X11Windows::focus(WId window)
 {
     if (isAvailable())
-        xcb_set_input_focus(server(), XCB_INPUT_FOCUS_PARENT, static_cast<xcb_window_t>(window),
-                            XCB_CURRENT_TIME);
+        ignoreErrors(xcb_set_input_focus_checked(
+            server(), XCB_INPUT_FOCUS_PARENT, static_cast<xcb_window_t>(window), XCB_CURRENT_TIME));
 }
