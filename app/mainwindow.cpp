@@ -170,6 +170,9 @@ void MainWindow::updateLanguage()
 void MainWindow::initSlots()
 {
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::slot_SwitchWindow);
+    // Qt gives it to the first swatch, whose ring looks as if it were the chosen one.
+    connect(ui->tabWidget, &QTabWidget::currentChanged, ui->tabWidget->tabBar(),
+            qOverload<>(&QWidget::setFocus));
     initKeySlots();
     initTestWindowSlots();
     initPanelSlots();

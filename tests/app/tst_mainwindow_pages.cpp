@@ -8,6 +8,8 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QSignalSpy>
+#include <QSpinBox>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -54,6 +56,7 @@ private slots:
     void betweenPurityAndGradient_whiteIsReleased_data();
     void betweenPurityAndGradient_whiteIsReleased();
     void pageKeys_stopTheRuns();
+    void otherTab_leavesTheFocusToNoSwatch();
     void everyStop_showsItsDrawerAndItsColourInAllPanels();
 
 private:
@@ -248,6 +251,15 @@ void TestMainWindowPages::pageKeys_stopTheRuns()
     QCOMPARE(stopped.count(), 1);
     window.slot_SwitchUpTabControl();
     QCOMPARE(stopped.count(), 2);
+}
+
+// Its ring would look as if the colour were the chosen one.
+void TestMainWindowPages::otherTab_leavesTheFocusToNoSwatch()
+{
+    m_rig.start();
+    m_rig.find<QSpinBox>("spinBoxX")->setFocus();
+    m_rig.window().slot_SwitchDownTabControl();
+    QCOMPARE(m_rig.window().focusWidget(), m_rig.tabs()->tabBar());
 }
 
 void TestMainWindowPages::everyStop_showsItsDrawerAndItsColourInAllPanels()
