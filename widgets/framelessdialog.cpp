@@ -68,6 +68,10 @@ void FramelessDialog::buildFrame()
     column->setMenuBar(m_titleBar);
     column->addWidget(frame);
     QDialog::setLayout(column);
+
+    m_edge = new QWidget(this);
+    m_edge->setObjectName(QStringLiteral("DialogEdge"));
+    m_edge->setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 QWidget *FramelessDialog::createButtonRow()
@@ -202,6 +206,15 @@ bool FramelessDialog::eventFilter(QObject *watched, QEvent *event)
 void FramelessDialog::paintEvent(QPaintEvent *event)
 {
     QPainter(this).fillRect(event->rect(), m_defaultBackgroundColor);
+}
+
+// Over what is in the dialog.
+void FramelessDialog::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    m_edge->setGeometry(rect());
+    m_edge->setMask(QRegion(rect()) - QRegion(rect().adjusted(1, 1, -1, -1)));
+    m_edge->raise();
 }
 
 void FramelessDialog::changeEvent(QEvent *event)

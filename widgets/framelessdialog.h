@@ -39,6 +39,7 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
     // Gives button the look of the buttons in the row.
@@ -65,6 +66,8 @@ private:
     void centreOnParent();
 
     QWidget *m_buttonRow = nullptr;
+    // Where the desktop draws no shadow, the dialog would run into the window behind it.
+    QWidget *m_edge = nullptr;
     QPointer<QWidget> m_windowBelow; // always on top, and yet below this dialog
     QPointer<QWindow> m_liftedOwner; // on top for the time that this dialog is open
     bool m_scaled = false;

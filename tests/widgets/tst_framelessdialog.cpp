@@ -58,6 +58,7 @@ private slots:
     void focus_isOnTheDefaultButton_data();
     void focus_isOnTheDefaultButton();
     void background_isFilledWithTheDefaultColor();
+    void edge_isAllAroundAndOnePixelWide();
     void drag_movesTheDialogUnmaximised();
 
     void modality_followsTheWayOfShowing();
@@ -220,6 +221,22 @@ void TestFramelessDialog::background_isFilledWithTheDefaultColor()
     FramelessDialog::m_defaultBackgroundColor = QColor(48, 50, 56);
     for (const QPoint &point : {QPoint(0, 0), QPoint(359, 219), QPoint(180, 100)})
         QCOMPARE(changed.pixelColor(point), QColor(1, 2, 3));
+}
+
+void TestFramelessDialog::edge_isAllAroundAndOnePixelWide()
+{
+    SampleDialog dialog(nullptr, Qt::WindowFlags());
+    dialog.setStyleSheet(QStringLiteral("QWidget#DialogEdge { background-color: red }"));
+    dialog.resize(300, 200);
+    dialog.show();
+    dialog.resize(310, 190);
+    const QImage image = dialog.grab().toImage();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const bool isEdge = !image.rect().adjusted(1, 1, -1, -1).contains(x, y);
+            QCOMPARE(image.pixelColor(x, y) == Qt::red, isEdge);
+        }
+    }
 }
 
 void TestFramelessDialog::drag_movesTheDialogUnmaximised()
