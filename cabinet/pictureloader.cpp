@@ -115,17 +115,17 @@ bool PictureLoader::isPicture(const QString &path)
 
 QImage PictureLoader::load(const QString &path)
 {
-    m_forget.start();
     const QFileInfo file(path);
-    if (path == m_path && file.lastModified() == m_modified && file.size() == m_bytes)
-        return m_picture;
-    QImage picture = decode(path);
+    const bool isKept =
+        path == m_path && file.lastModified() == m_modified && file.size() == m_bytes;
+    QImage picture = isKept ? m_picture : decode(path);
     if (!picture.isNull()) {
         m_path = path;
         m_modified = file.lastModified();
         m_bytes = file.size();
         m_picture = picture;
     }
+    m_forget.start(); // the decoding may have taken longer
     return picture;
 }
 

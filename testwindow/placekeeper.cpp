@@ -185,14 +185,15 @@ void PlaceKeeper::leaveManager()
 
 void PlaceKeeper::lift()
 {
+    if (!m_window->isVisible())
+        return;
     QVector<WId> ids;
     const QWidgetList windows = QWidgetList{m_window} + shownWindows(Qt::Dialog)
                                 + shownWindows(Qt::Popup) + shownWindows(Qt::ToolTip);
     // A widget does not notice that Qt has made its window anew, as with another screen.
     for (const QWidget *window : windows)
         ids.append(window->windowHandle()->winId());
-    if (m_window->isVisible())
-        X11Windows::lift(ids);
+    X11Windows::lift(ids);
 }
 
 bool PlaceKeeper::eventFilter(QObject *watched, QEvent *event)
