@@ -32,9 +32,9 @@ set_sanitizers() {
   export LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp:print_suppressions=0"
 }
 
-# run_tests FOLDER [OPTION...]: four at a time, since the end-to-end tests wait most of the time.
+# run_tests FOLDER [OPTION...]: three at a time, since the end-to-end tests wait most of the time.
 run_tests() {
-  (cd "$1" && ctest --output-on-failure --no-tests=error -j4 "${@:2}")
+  (cd "$1" && ctest --output-on-failure --no-tests=error -j3 "${@:2}")
 }
 
 # Qt wants a runtime folder that nobody else can read.
