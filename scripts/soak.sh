@@ -105,7 +105,7 @@ wait
 {
   echo '| What | Build | Done | Failures | MB first | MB last | Seconds |'
   echo '|---|---|---:|---:|---:|---:|---:|'
-  cat "$folder"/*.md
+  cat "$folder"/[0-9]*.md
 } >"$folder/table.md"
 cat "$folder/table.md"
 [ ! -e "$folder/failed" ]
