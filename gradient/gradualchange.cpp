@@ -10,7 +10,7 @@ namespace {
 
 // Few enough rows to stay in the processor's cache at any width, and enough to make the calls
 // that copy them cheap.
-constexpr int stripHeight = 32;
+constexpr int stripHeight = 8;
 
 // One ramp, in a row of pixels. Every column has the colour at its middle: the painter's own
 // repeated gradient adds up rounding errors from one ramp to the next.
