@@ -89,6 +89,7 @@ private slots:
     void shown_inhibitsUntilHidden();
     void destroyed_givesBack();
     void hiddenBeforeTheAnswer_givesBackWhatComes();
+    void shownAgainBeforeTheAnswer_isOneRequest();
     void shownBeforeTheLock_isHeldAtOnce();
     void withoutScreenSaver_asksThePortal();
     void withoutEither_isQuietAndAsksAgainWhenShownAgain();
@@ -214,6 +215,15 @@ void tst_ScreenWakeLock::hiddenBeforeTheAnswer_givesBackWhatComes()
     m_window->hide();
     bus().send(m_desktop->waiting.createReply(QVariant(7U)));
     QTRY_COMPARE(m_desktop->givenBack, QVector<uint>{7});
+}
+
+void tst_ScreenWakeLock::shownAgainBeforeTheAnswer_isOneRequest()
+{
+    showUnanswered();
+    m_window->hide();
+    m_window->show();
+    deliverAnswers();
+    QCOMPARE(m_desktop->reasons.size(), 1);
 }
 
 void tst_ScreenWakeLock::shownBeforeTheLock_isHeldAtOnce()
