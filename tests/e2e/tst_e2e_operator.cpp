@@ -90,7 +90,8 @@ constexpr int StepsPerLook = 1000; // at the log
 QList<QByteArray> fieldsOf(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ') : QList<QByteArray>();
+    return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().split(' ')
+                                          : QList<QByteArray>();
 }
 
 /// How long this process and those that it has started, the X server too, have been ready to run
