@@ -36,14 +36,16 @@ sub is_expression {
     my ($statement) = @_;
     return 1 if $statement =~ /^(?:emit|delete)\b/;
     return 0 if $statement =~ /^(?:return|break|continue|using|typedef|static_assert|goto|throw|Q_UNUSED
-        |if|else|for|while|do|switch|case|default|struct|class|enum|static|const|constexpr|auto|template)\b/x;
+        |if|else|for|while|do|switch|case|default|struct|class|enum|static|const|constexpr|auto|template
+        |public|protected|private|signals)\b/x;
     return 0 if $statement =~ /=\s*(?:default|delete);$/; # with the functions before it
-    return 0 if $statement =~ /^[\w:]+(?:<[^;]*?>)?[\s*&]+[\w:]+\s*(?:[=;({\[,]|$)/; # declares a name
+    return 0 if $statement =~ /^\w+\[\]\s*=/; # declares an array of the struct before it
+    return 0 if $statement =~ /^[\w:]+(?:<[^;]*?>)?[\s*&]+(?:const\s+)?[\w:]+\s*(?:[=;({\[,]|$)/; # declares a name
     return $statement =~ /^(?:[\w:(]|\*|\+\+|--)/;
 }
 
 # What a statement may follow.
-my $before = qr/[;{}]|\belse\b|\bdo\b|\b(?:if|for|while)\s*(?:constexpr\s*)?$group|\b(?:case\b[^;:]*|default):/;
+my $before = qr/[;{}]|\belse\b|\bdo\b|\b(?:if|for|while)\s*(?:constexpr\s*)?$group|\b(?:case\b(?:[^;:]|::)*|default):(?!:)/;
 
 # Puts each statement of the code into a condition.
 sub mutated {

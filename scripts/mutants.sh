@@ -88,13 +88,14 @@ git ls-files -coz --exclude-standard | scripts/mutants.pl "$copy" "$@" >"$copy/l
 cd "$copy"
 configure release >configure.log
 
-# The test programs that link the sources' libraries, each once, whatever scales it is run at.
+# The test programs that link the sources' libraries or start a program that does, each once, whatever
+# scales they are run at.
 libraries=$(for source in "$@"; do
   sed -n "s|.*-o \([^ ]*\)/CMakeFiles/\([^/]*\)\.dir/[^ ]* -c .*/${source}\".*|\1/lib\2.a|p" build/compile_commands.json
 done | sort -u)
 programs=()
 for program in $(cd build && ctest -N -L unit | sed -n 's/^ *Test *#[0-9]*: \(tst_[a-z_]*[a-z]\).*/\1/p' | uniq); do
-  linked=$(ninja -C build -t query "tests/$program/$program")
+  linked=$(ninja -C build -t inputs "tests/$program/$program")
   if grep -qwFf <(echo "$libraries") <<<"$linked"; then
     programs+=("$program")
   fi
