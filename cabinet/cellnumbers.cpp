@@ -111,8 +111,9 @@ void CellNumbers::drawCollected(QPainter &painter)
 }
 
 // A text that does not fit is cut off at its cell's border.
-void CellNumbers::drawRow(QPainter &painter, const CabinetLayout &layout, qint64 row)
+qint64 CellNumbers::drawRow(QPainter &painter, const CabinetLayout &layout, qint64 item)
 {
+    const qint64 row = item / m_columns.size();
     painter.setPen(m_pen);
     m_glyphs.clear();
     m_places.clear();
@@ -139,4 +140,5 @@ void CellNumbers::drawRow(QPainter &painter, const CabinetLayout &layout, qint64
     }
     drawCollected(painter);
     painter.setClipping(false);
+    return item + m_columns.size();
 }

@@ -20,8 +20,9 @@ public:
     // others than digits, or of digits that do not look the same in every text.
     bool prepare(const CabinetLayout &layout, const QPainter &painter);
 
-    // Of the layout that was prepared; the painter's clipping is lost.
-    void drawRow(QPainter &painter, const CabinetLayout &layout, qint64 row);
+    // Of the layout that was prepared, the row that starts with this item; returns the item after
+    // the row. The painter's clipping is lost.
+    qint64 drawRow(QPainter &painter, const CabinetLayout &layout, qint64 item);
 
 private:
     struct Digit

@@ -34,10 +34,8 @@ void LayoutPicture::drawBackground(QPainter &painter)
 
 qint64 LayoutPicture::drawItems(QPainter &painter, int layer, qint64 from)
 {
-    if (layer == CabinetLayout::Numbers && m_numbersReady) {
-        m_numbers.drawRow(painter, m_layout, from / m_layout.columnCount());
-        return from + m_layout.columnCount();
-    }
+    if (layer == CabinetLayout::Numbers && m_numbersReady)
+        return m_numbers.drawRow(painter, m_layout, from);
     const qint64 to = qMin(from + itemsAtATime, itemCount(layer));
     if (canFill(Layer(layer)))
         fillLines(painter, Layer(layer), from, to);
@@ -53,8 +51,7 @@ bool LayoutPicture::canFill(Layer layer) const
     if (layer < CabinetLayout::ModuleRows || layer == CabinetLayout::Numbers)
         return false;
     const QPen linePen = m_layout.linePen(m_layout.m_pen, layer);
-    QPen plain(linePen.color());
-    plain.setWidth(linePen.width());
+    const QPen plain(linePen.color(), linePen.width());
     const bool isWideRow =
         m_layout.family(layer).direction() == LineFamily::Horizontal && linePen.width() > 1;
     return !isWideRow && linePen == plain && linePen.width() <= widestFilledLine

@@ -12,7 +12,7 @@ namespace {
 
 constexpr QMargins contentMargins(12, 4, 12, 8);
 constexpr int iconSpacing = 8;
-constexpr int buttonSpacing = 4;
+constexpr int rowSpacing = 4;
 
 } // namespace
 
@@ -63,7 +63,7 @@ void FramelessMessageBox::buildContent(QMessageBox::Icon icon, const QString &te
 
     auto *column = new QVBoxLayout;
     column->setContentsMargins(contentMargins);
-    column->setSpacing(buttonSpacing);
+    column->setSpacing(rowSpacing);
     column->addLayout(message, 1);
     column->addWidget(m_buttonBox);
     setLayout(column);
