@@ -158,7 +158,6 @@ void AdvancedSetup::uiInit()
                 slotsOfBoxes[item]);
     connect(m_shapeCombo, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &AdvancedSetup::slot_comboFontShapeCurrentIndexChanged);
-    m_okButton->disconnect(this);
     connect(m_okButton, &QPushButton::clicked, this, &AdvancedSetup::slot_closeWindow);
 }
 

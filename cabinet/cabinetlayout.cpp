@@ -179,7 +179,6 @@ QPen CabinetLayout::numberPen(const QPainter &painter) const
 {
     QPen numberPen = painter.pen();
     numberPen.setColor(m_fontColor);
-    numberPen.setWidth(penWidth(m_fontSize));
     return numberPen;
 }
 

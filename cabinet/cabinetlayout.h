@@ -33,7 +33,7 @@ struct LayoutParameters
     QColor m_moduleLineColor;
     QColor m_scanColor;
     bool m_leftToRight = true; // where columns begin
-    int m_fontSize = 10; // in points; the pen of the numbers has the same width
+    int m_fontSize = 10; // points
     int m_fontShape = 0; // 0 normal, 1 bold, 2 italic; others leave the window's font as it is
     int m_beginRow = 1;
     int m_beginColumn = 1;

@@ -1,7 +1,6 @@
 #include "gradualchange.h"
 
 #include <QImage>
-#include <QLinearGradient>
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
@@ -30,21 +29,10 @@ QPixmap rampRow(int level, const QColor &color)
     return QPixmap::fromImage(row);
 }
 
-// What the painter makes of a ramp without extent.
-QLinearGradient emptyRamp(int level, const QColor &color)
-{
-    QLinearGradient ramp(0, 0, level, 0);
-    ramp.setColorAt(0, Qt::black);
-    ramp.setColorAt(1, color);
-    ramp.setSpread(QGradient::RepeatSpread);
-    return ramp;
-}
-
 } // namespace
 
 GradualChange::GradualChange(QWidget *target)
     : DrawerBase(target)
-    , m_ramps(emptyRamp(m_level, m_color))
 { }
 
 // Specified: the outline of the default pen on the last column and the last row.
@@ -79,15 +67,13 @@ void GradualChange::paintRows(QPainter &painter) const
 
 bool GradualChange::coversWindow() const
 {
-    return m_level > 0 && m_ramps.isOpaque()
+    return m_ramps.isOpaque()
            && targetWidget->palette().brush(targetWidget->foregroundRole()).isOpaque();
 }
 
 void GradualChange::slot_gradualChangeColor(short level, const QColor &color)
 {
     active = true;
-    m_level = level;
-    m_color = color;
-    m_ramps = level > 0 ? QBrush(rampRow(level, color)) : QBrush(emptyRamp(level, color));
+    m_ramps = level > 0 ? QBrush(rampRow(level, color)) : QBrush(Qt::black);
     targetWidget->update();
 }

@@ -3,7 +3,6 @@
 #include "drawerbase.h"
 
 #include <QBrush>
-#include <QColor>
 
 // Fills the test window with ramps from black to one colour, side by side; one ramp is
 // as many pixels long as it has levels.
@@ -18,13 +17,11 @@ public:
     bool coversWindow() const override;
 
 public slots:
-    // The length of a ramp in pixels, any number, and the colour at its end.
+    // The length of a ramp in pixels, where none below 1 is a ramp, and the colour at its end.
     void slot_gradualChangeColor(short level, const QColor &color);
 
 private:
     void paintRows(QPainter &painter) const;
 
-    qint16 m_level = 0;
-    QColor m_color = Qt::red;
-    QBrush m_ramps;
+    QBrush m_ramps = Qt::black; // as the painter shows a ramp without extent
 };

@@ -45,6 +45,18 @@ struct SetupRig
     {
         return dialog().findChildren<QPushButton *>(QStringLiteral("DialogPushBtn"));
     }
+    // Whether the test window is painted by itself after the change.
+    template<typename Change>
+    bool isRepaintedAfter(Change change)
+    {
+        canvas.show();
+        if (!QTest::qWaitFor([this] { return canvas.paintCount() > 0; }))
+            return false;
+        QCoreApplication::processEvents();
+        const int before = canvas.paintCount();
+        change();
+        return QTest::qWaitFor([this, before] { return canvas.paintCount() > before; });
+    }
     QVector<int> shown()
     {
         QVector<int> values;
@@ -101,6 +113,7 @@ void TestAdvancedSetup::dialog_hasItsSizeTitleAndButtons()
     QStringList shown;
     const auto buttons = rig.buttons();
     for (const QPushButton *button : buttons) {
+        QVERIFY(!button->autoDefault() || button->isHidden());
         if (!button->isHidden())
             shown << button->text();
     }
@@ -199,9 +212,9 @@ void TestAdvancedSetup::change_isStoredAndDrawnAtOnce()
         rig.drawer.active = false;
         expected[index] = index == shape ? 2 : 6;
         if (index == shape)
-            rig.combo()->setCurrentIndex(2);
+            QVERIFY(rig.isRepaintedAfter([&rig] { rig.combo()->setCurrentIndex(2); }));
         else
-            rig.box(index)->setValue(6);
+            QVERIFY(rig.isRepaintedAfter([&rig, index] { rig.box(index)->setValue(6); }));
 
         QCOMPARE(advancedFields(rig.drawer), expected);
         QVERIFY(rig.drawer.active);

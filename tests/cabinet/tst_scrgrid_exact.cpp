@@ -1,3 +1,4 @@
+#include "cellnumbers.h"
 #include "rows.h"
 #include "scrgridrig.h"
 
@@ -117,6 +118,8 @@ private slots:
     void window_isNoticed();
     void screenOfManyNumbers_matchesCallByCall();
     void numbers_haveTheSamePixelsOnEveryScreen();
+    void usualNumbers_areDrawnDigitByDigit();
+    void linesWithoutALayout_haveThePen();
     void writtenFromRightToLeft_matchesCallByCall();
     void partOfTheWindow_getsThePixelsOfTheWhole();
     void turnedPainter_drawsCallByCall();
@@ -275,6 +278,28 @@ void TestScrGridExact::numbers_haveTheSamePixelsOnEveryScreen()
     QImage image = DirectLayout::blank(canvas.size());
     canvas.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     QCOMPARE(image, DirectLayout::image(drawer));
+}
+
+// Which is several times faster than text by text.
+void TestScrGridExact::usualNumbers_areDrawnDigitByDigit()
+{
+    QImage image(100, 100, QImage::Format_RGB32);
+    const QPainter painter(&image);
+    CabinetLayout layout;
+    layout.size = image.size();
+    CellNumbers numbers;
+    QVERIFY(numbers.prepare(layout, painter));
+    layout.m_beginRow = -1; // which has more than digits
+    QVERIFY(!numbers.prepare(layout, painter));
+}
+
+void TestScrGridExact::linesWithoutALayout_haveThePen()
+{
+    ScrGridRig rig;
+    rig.drawer.m_layoutOn = false;
+    rig.drawer.m_horiLines = true;
+    rig.drawer.m_pen = QPen(Qt::green);
+    QCOMPARE(rig.paintedOnce().pixel(5, rig.drawer.m_lineStep), LayoutColor::green);
 }
 
 void TestScrGridExact::writtenFromRightToLeft_matchesCallByCall()

@@ -227,6 +227,8 @@ void TestScrGridHostile::layoutThatTakesLong_isPaintedInParts()
     QVERIFY(second != first);
 
     rig.drawer.m_moduleWidth = rig.drawer.m_moduleHeight = 400; // given up
+    rig.drawer.m_horiLines = true;
+    rig.drawer.m_pen.setColor(Qt::green);
     QVERIFY(rig.isExact());
     QVERIFY(rig.drawer.isDrawnInFull());
 }
