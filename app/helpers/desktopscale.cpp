@@ -1,7 +1,6 @@
 #include "desktopscale.h"
 
 #include <QBoxLayout>
-#include <QFrame>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QMainWindow>
@@ -103,9 +102,6 @@ void scaleTree(QWidget *widget)
         widget->setGeometry({corner, size});
     else if (widget->testAttribute(Qt::WA_Resized))
         widget->resize(size);
-    const auto *frame = qobject_cast<QFrame *>(widget);
-    if (!frame || frame->frameWidth() == 0) // others hold the room of the frame
-        widget->setContentsMargins(scaledMargins(widget->contentsMargins()));
     if (widget->layout() && !qobject_cast<QMainWindow *>(widget))
         scaleLayout(widget->layout());
     const auto children = widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);

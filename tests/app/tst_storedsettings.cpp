@@ -28,6 +28,7 @@ private slots:
     void everyChangeUntilTheEnd_isWritten();
     void save_returnsWhenEverythingIsWritten();
     void fileThatTakesNothing_getsAllOnceItDoes();
+    void whatIsWritten_isNotWrittenAgain();
     void fileOfAnotherProgram_getsAllAgain_data();
     void fileOfAnotherProgram_getsAllAgain();
     void settingsWithoutAFile_writeNothing();
@@ -36,6 +37,7 @@ private slots:
 
 private:
     QString path() const { return m_place->filePath(QStringLiteral("config.ini")); }
+    void failOnce(StoredSettings &settings, const QString &file);
     QVariantMap stored() const { return SettingsFile::values(path()); }
 
     std::unique_ptr<QTemporaryDir> m_place;
@@ -70,7 +72,10 @@ void TestStoredSettings::everyChangeUntilTheEnd_isWritten()
             settings.setValue(keyX, value);
             QCoreApplication::processEvents(); // so that some are written, and some on their way
         }
+        QTRY_COMPARE(stored().value(keyX).toInt(), last);
+        settings.setValue(keyY, last);
     }
+    QCOMPARE(stored().value(keyY).toInt(), last);
     QCOMPARE(stored().value(keyX).toInt(), last);
 }
 
@@ -87,16 +92,43 @@ void TestStoredSettings::save_returnsWhenEverythingIsWritten()
     QCOMPARE(stored().value(keyX).toInt(), 3);
 }
 
-void TestStoredSettings::fileThatTakesNothing_getsAllOnceItDoes()
+// A folder is in the place of the file while the settings are saved.
+void TestStoredSettings::failOnce(StoredSettings &settings, const QString &file)
 {
-    QVERIFY(QDir().mkdir(path())); // a folder in its place
-    StoredSettings settings({{keyY, 1}}, path());
+    QVERIFY(QDir().mkdir(file));
     settings.setValue(keyX, 2);
     settings.save();
-    QVERIFY(stored().isEmpty());
-    QVERIFY(QDir().rmdir(path()));
+    QVERIFY(SettingsFile::values(file).isEmpty());
+    QVERIFY(QDir().rmdir(file));
+}
+
+void TestStoredSettings::fileThatTakesNothing_getsAllOnceItDoes()
+{
+    StoredSettings settings({{keyY, 1}}, path());
+    failOnce(settings, path());
     QTRY_COMPARE(stored().value(keyX).toInt(), 2);
     QCOMPARE(stored().value(keyY).toInt(), 1);
+
+    QVERIFY(QFile::remove(path())); // a further try would bring it back, before another's first
+    const QString another = m_place->filePath(QStringLiteral("another.ini"));
+    StoredSettings later({}, another);
+    failOnce(later, another);
+    QTRY_COMPARE(SettingsFile::values(another).value(keyX).toInt(), 2);
+    QVERIFY(stored().isEmpty());
+}
+
+void TestStoredSettings::whatIsWritten_isNotWrittenAgain()
+{
+    StoredSettings settings({}, path());
+    settings.setValue(keyX, 1);
+    QTRY_COMPARE(stored().value(keyX).toInt(), 1);
+    QVERIFY(QFile::remove(path()));
+
+    const QString another = m_place->filePath(QStringLiteral("another.ini"));
+    StoredSettings later({}, another);
+    later.setValue(keyX, 1);
+    QTRY_COMPARE(SettingsFile::values(another).value(keyX).toInt(), 1);
+    QVERIFY(stored().isEmpty());
 }
 
 void TestStoredSettings::fileOfAnotherProgram_getsAllAgain_data()

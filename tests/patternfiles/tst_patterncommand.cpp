@@ -165,8 +165,10 @@ void TestPatternCommand::help_isInEnglishAndComplete()
 {
     QVERIFY(optionsOfHelp().hasNext());
     QCOMPARE(m_program->errors, QByteArray());
-    for (const char *text : {"Usage: ", "purity, gradient, grid, layout, or walk", "--size <WxH>",
-                             "--output <file>", "--version"})
+    for (const char *text :
+         {"Usage: ", "Writes the test patterns", "purity, gradient, grid, layout, or walk",
+          "--size <WxH>", "--output <file>", "--version",
+          "purity, grid: Grey level, 0 to 255. [255]"})
         QVERIFY2(m_program->output.contains(text), text);
 }
 

@@ -129,8 +129,9 @@ void TestPatternFiles::options_decideOnTheNumbers_data()
 {
     QTest::addColumn<QString>("option");
 
-    for (const char *option : {"--first 0,10", "--number-size 12", "--number-shape bold",
-                               "--number-shape italic", "--number-colour white"})
+    for (const char *option :
+         {"--first 0,1", "--first 1,10", "--number-size 12", "--number-shape bold",
+          "--number-shape italic", "--number-colour white"})
         QTest::newRow(option) << QString::fromLatin1(option);
 }
 
