@@ -42,6 +42,9 @@ std::unique_ptr<QAbstractButton> makeButton(const QString &kind, bool checked, c
     button->setText(QStringLiteral("Red"));
     button->setCheckable(kind != QLatin1String("plain button"));
     button->setChecked(checked);
+    button->setDown(checked);
+    if (auto *pushButton = qobject_cast<QPushButton *>(button.get()))
+        pushButton->setDefault(checked);
     button->setAccessibleName(name);
     return button;
 }
@@ -52,14 +55,15 @@ QString described(QAbstractButton &button)
     QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&button);
     const QAccessible::State state = interface->state();
     return QStringLiteral("%1 \"%2\" checkable %3 checked %4 disabled %5 focusable %6 "
-                          "default %7")
+                          "default %7 pressed %8")
         .arg(interface->role())
         .arg(interface->text(QAccessible::Name))
         .arg(state.checkable)
         .arg(state.checked)
         .arg(state.disabled)
         .arg(state.focusable)
-        .arg(state.defaultButton);
+        .arg(state.defaultButton)
+        .arg(state.pressed);
 }
 
 } // namespace
@@ -109,6 +113,11 @@ void tst_AccessibleButton::action_isAClick()
     interface(&button)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     QCOMPARE(clicked.count(), 2);
     QVERIFY(button.isChecked());
+    button.show();
+    QVERIFY(QTest::qWaitForWindowActive(&button));
+    button.clearFocus();
+    interface(&button)->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(button.hasFocus());
 }
 
 void tst_AccessibleButton::toggle_ofADisabledButtonDoesNothing()

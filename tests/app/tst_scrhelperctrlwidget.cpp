@@ -139,9 +139,9 @@ void TestScrHelperCtrlWidget::columns_haveTheirMinimumWidthsAndLineUp()
 void TestScrHelperCtrlWidget::everyLanguage_hasItsOwnMeanings()
 {
     QFETCH(const QString, language);
+    ScrHelperCtrlWidget card;
     const ShippedTranslation translation(language);
     QVERIFY(translation.isInstalled());
-    ScrHelperCtrlWidget card;
     card.updateLanguage();
     const QRegularExpression chinese(QStringLiteral("\\p{Han}"));
     int chineseTexts = 0;
