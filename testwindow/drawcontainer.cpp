@@ -172,11 +172,8 @@ void DrawContainer::slot_changeSelectedDrawColor(const QColor &color)
 {
     colourName = CommonHelper::getColorName(color);
     for (int index = 0; index < PureColor::count; ++index) {
-        if (colourName != PureColor::sourceName(index))
-            continue;
-        colourIndex = index + 1;
-        colourName = PureColor::translatedName(index);
-        return;
+        if (colourName == PureColor::sourceName(index))
+            colourIndex = index + 1;
     }
 }
 
@@ -352,14 +349,12 @@ void DrawContainer::mouseReleaseEvent(QMouseEvent *event)
 
 void DrawContainer::mouseDoubleClickEvent(QMouseEvent * /*event*/)
 {
-    m_dragging = false;
     slot_keyShiftFPressed();
 }
 
 // Closed from outside, by the window manager, it is as good as hidden by its own menu.
 void DrawContainer::closeEvent(QCloseEvent *event)
 {
-    QWidget::closeEvent(event);
     if (event->spontaneous())
         emit signal_containerWidgetHide();
 }

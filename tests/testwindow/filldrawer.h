@@ -27,9 +27,11 @@ public:
     }
 
     bool coversWindow() const override { return covers; }
+    void dropPictures() override { ++drops; }
 
     QColor color;
     bool covers = false;
     int draws = 0;
+    int drops = 0;
     int refusals = 0; // calls that asked for nothing
 };

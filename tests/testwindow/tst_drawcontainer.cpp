@@ -176,8 +176,10 @@ void TestDrawContainer::paint_ofAnInactiveDrawerLeavesTheEarlierPattern()
     QVERIFY(isAll(picture(window), Qt::red));
     first.color = Qt::yellow; // still painted afresh each time
     QVERIFY(isAll(picture(window), Qt::yellow));
+    QCOMPARE(first.drops, 0);
     third.active = true;
     QVERIFY(isAll(picture(window), Qt::blue));
+    QCOMPARE(first.drops, 1);
     window.setDrawer(&second, false);
     QVERIFY(isAll(picture(window), Qt::blue));
 }
