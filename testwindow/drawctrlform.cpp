@@ -205,11 +205,15 @@ bool DrawCtrlForm::eventFilter(QObject *watched, QEvent *event)
     const bool isShown = event->type() == QEvent::Show;
     const bool isOfInterest = isShown || event->type() == QEvent::Hide;
     if (watched == testWindow && isOfInterest && !event->spontaneous()
-        && ui->pushButtonHide->isEnabled() != isShown) {
-        showVisibility(isShown);
-        m_saveSoon.schedule();
-    }
+        && ui->pushButtonHide->isEnabled() != isShown)
+        changeVisibility(isShown);
     return QWidget::eventFilter(watched, event);
+}
+
+void DrawCtrlForm::changeVisibility(bool shown)
+{
+    showVisibility(shown);
+    m_saveSoon.schedule();
 }
 
 void DrawCtrlForm::showVisibility(bool shown)
@@ -243,30 +247,6 @@ void DrawCtrlForm::updateLanguage()
     CommonHelper::setQLabelText(ui->labelWayland, tr("Wayland 下窗口位置由桌面决定"));
     CommonHelper::setQPushButtonText(ui->pushButtonShow, tr("显示"));
     CommonHelper::setQPushButtonText(ui->pushButtonHide, tr("隐藏"));
-}
-
-void DrawCtrlForm::slot_showPushed()
-{
-    testWindow->show();
-    slot_disableShowButton();
-}
-
-void DrawCtrlForm::slot_HidePushed()
-{
-    testWindow->hide();
-    slot_enableShowButton();
-}
-
-void DrawCtrlForm::slot_enableShowButton()
-{
-    showVisibility(false);
-    m_saveSoon.schedule();
-}
-
-void DrawCtrlForm::slot_disableShowButton()
-{
-    showVisibility(true);
-    m_saveSoon.schedule();
 }
 
 void DrawCtrlForm::slot_MoveX(int x)

@@ -47,10 +47,11 @@ public slots:
     // Takes the size of the desktop: ranges for the controls, and the signal.
     void getScreenSize();
     void slot_dealScreenChange(int screen);
-    void slot_showPushed();
-    void slot_HidePushed();
-    void slot_enableShowButton();
-    void slot_disableShowButton();
+    // The buttons follow by themselves.
+    void slot_showPushed() { testWindow->show(); }
+    void slot_HidePushed() { testWindow->hide(); }
+    void slot_enableShowButton() { changeVisibility(false); }
+    void slot_disableShowButton() { changeVisibility(true); }
     void slot_MoveX(int x);
     void slot_MoveY(int y);
     void slot_resetWidth(unsigned int width);
@@ -84,6 +85,7 @@ private:
     void follow(const QRect &rectangle);
     // By one pixel, or not at the end of the range.
     void step(Pair pair, int by) { m_pairs.at(pair).setValue(m_pairs.at(pair).value() + by); }
+    void changeVisibility(bool shown);
     void showVisibility(bool shown);
 
     const std::unique_ptr<Ui::DrawCtrlForm> ui;
