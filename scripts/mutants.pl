@@ -37,7 +37,7 @@ sub is_expression {
     return 1 if $statement =~ /^(?:emit|delete)\b/;
     return 0 if $statement =~ /^(?:return|break|continue|using|typedef|static_assert|goto|throw|Q_UNUSED
         |if|else|for|while|do|switch|case|default|struct|class|enum|static|const|constexpr|auto|template
-        |public|protected|private|signals|namespace)\b|^\(\)/x; # the last calls a lambda
+        |public|protected|private|signals|namespace|Q_OBJECT)\b|^\(\)/x; # the last calls a lambda
     return 0 if $statement =~ /=\s*(?:default|delete);$/; # with the functions before it
     return 0 if $statement =~ /^\w+\[\]\s*=/; # declares an array of the struct before it
     return 0 if $statement =~ /^[\w:]+(?:<[^;]*?>)?[\s*&]+(?:const\s+)?[\w:]+\s*(?:[=;({\[,]|$)/; # declares a name
