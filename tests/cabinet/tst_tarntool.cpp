@@ -29,9 +29,7 @@ class TestTarnTool : public PanelTest<UnlockedRig>
     Q_OBJECT
 
 protected:
-    QVariantMap defaults() const override;
-    QByteArray stored() const override;
-    QString texts() const override;
+    PanelFacts facts() const override;
     void addEdits() const override;
 
 private slots:
@@ -51,27 +49,21 @@ private slots:
     void escape_doesNotCloseThePage();
 };
 
-QVariantMap TestTarnTool::defaults() const
+PanelFacts TestTarnTool::facts() const
 {
-    return {{QStringLiteral("tarnBoxWidth"), 32},
-            {QStringLiteral("tarnBoxHeight"), 16},
-            {QStringLiteral("tarnModelColumnCount"), 2},
-            {QStringLiteral("tarnModelRowCount"), 2},
-            {QStringLiteral("tarnLeftToRight"), false},
-            {QStringLiteral("tarnBackgroundSelect"), true}};
-}
-
-QByteArray TestTarnTool::stored() const
-{
-    return "tarnBoxWidth = 5\ntarnBoxHeight = 20\ntarnModelColumnCount = 3\n"
-           "tarnModelRowCount = 4\ntarnLeftToRight = true\ntarnBackgroundSelect = false\n";
-}
-
-QString TestTarnTool::texts() const
-{
-    return QStringLiteral("模块宽度|模块宽度|模块高度|模块高度|从左到右|模块行数|模块行数|模块列数|"
-                          "模块列数|从右到左|字体颜色|字体颜色|模块线颜色|模块线颜色|扫描板颜色|"
-                          "扫描板颜色|纯色背景|纯色背景|背景图|背景图|高级设置|定位");
+    return {
+        {{QStringLiteral("tarnBoxWidth"), 32},
+         {QStringLiteral("tarnBoxHeight"), 16},
+         {QStringLiteral("tarnModelColumnCount"), 2},
+         {QStringLiteral("tarnModelRowCount"), 2},
+         {QStringLiteral("tarnLeftToRight"), false},
+         {QStringLiteral("tarnBackgroundSelect"), true}},
+        "tarnBoxWidth = 5\ntarnBoxHeight = 20\ntarnModelColumnCount = 3\n"
+        "tarnModelRowCount = 4\ntarnLeftToRight = true\ntarnBackgroundSelect = false\n",
+        {},
+        QStringLiteral("模块宽度|模块宽度|模块高度|模块高度|从左到右|模块行数|模块行数|模块列数|"
+                       "模块列数|从右到左|字体颜色|字体颜色|模块线颜色|模块线颜色|扫描板颜色|"
+                       "扫描板颜色|纯色背景|纯色背景|背景图|背景图|高级设置|定位")};
 }
 
 void TestTarnTool::addEdits() const

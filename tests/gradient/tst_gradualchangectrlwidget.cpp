@@ -10,10 +10,7 @@ class TestGradualChangeCtrlWidget : public PanelTest<GradientRig>
     Q_OBJECT
 
 protected:
-    QVariantMap defaults() const override;
-    QByteArray stored() const override;
-    QList<QByteArray> alsoStored() const override;
-    QString texts() const override;
+    PanelFacts facts() const override;
     void addEdits() const override;
 
 private slots:
@@ -31,25 +28,13 @@ private slots:
     void withoutSettings_thePanelWorks();
 };
 
-QVariantMap TestGradualChangeCtrlWidget::defaults() const
+PanelFacts TestGradualChangeCtrlWidget::facts() const
 {
-    return {{QStringLiteral("gradualChangeColor"), QColor(Qt::red)},
-            {QStringLiteral("gradualChangeColorLevel"), 256}};
-}
-
-QByteArray TestGradualChangeCtrlWidget::stored() const
-{
-    return "gradualChangeColor = #0000ff\ngradualChangeColorLevel = 100\n";
-}
-
-QList<QByteArray> TestGradualChangeCtrlWidget::alsoStored() const
-{
-    return {"gradualChangeColor = #808080\n", "gradualChangeColorLevel = -3\n"};
-}
-
-QString TestGradualChangeCtrlWidget::texts() const
-{
-    return QStringLiteral("红|绿|蓝|白|黄|青|紫|32级|64级|128级|256级");
+    return {{{QStringLiteral("gradualChangeColor"), QColor(Qt::red)},
+             {QStringLiteral("gradualChangeColorLevel"), 256}},
+            "gradualChangeColor = #0000ff\ngradualChangeColorLevel = 100\n",
+            {"gradualChangeColor = #808080\n", "gradualChangeColorLevel = -3\n"},
+            QStringLiteral("红|绿|蓝|白|黄|青|紫|32级|64级|128级|256级")};
 }
 
 void TestGradualChangeCtrlWidget::addEdits() const

@@ -23,10 +23,7 @@ class TestScrGridCtrlDialogSettings : public PanelTest<GridRig>
 
 protected:
     std::unique_ptr<AnyPanelRig> start(const QByteArray &contents) const override;
-    QVariantMap defaults() const override;
-    QByteArray stored() const override;
-    QList<QByteArray> alsoStored() const override;
-    QString texts() const override;
+    PanelFacts facts() const override;
     void addEdits() const override;
 
 private slots:
@@ -58,7 +55,7 @@ std::unique_ptr<AnyPanelRig> TestScrGridCtrlDialogSettings::start(const QByteArr
     return rig;
 }
 
-QVariantMap TestScrGridCtrlDialogSettings::defaults() const
+PanelFacts TestScrGridCtrlDialogSettings::facts() const
 {
     QVariantMap values{{QStringLiteral("gridGreyLevel"), 255}, {QStringLiteral("gridSpeed"), 50}};
     for (const char *key : {"gridHorizontalChecked", "gridVerticalChecked", "gridSlantLeftChecked",
@@ -67,31 +64,19 @@ QVariantMap TestScrGridCtrlDialogSettings::defaults() const
                             "gridIsOldTest", "gridIsMix", "pushButtonPauseChecked"})
         values[QString::fromLatin1(key)] = false;
     values[QStringLiteral("gridIsScroll")] = true;
-    return values;
-}
-
-QByteArray TestScrGridCtrlDialogSettings::stored() const
-{
-    return "gridSpeed = 20\ngridGreyLevel = 100\n"
-           "gridNetChecked = false\ngridHorizontalChecked = false\ngridVerticalChecked = true\n"
-           "gridSlantLeftChecked = false\ngridSlantRightChecked = false\n"
-           "gridIsOldTest = false\ngridIsScroll = true\ngridIsMix = false\n"
-           "isHorizontalPress = false\nisVerticalPress = true\nisSlantLeftPress = false\n"
-           "isSlantRightPress = false\npushButtonPauseChecked = true\n"
-           "testWindowBaseColor = #00ff00\n";
-}
-
-QList<QByteArray> TestScrGridCtrlDialogSettings::alsoStored() const
-{
-    return {"gradualChangeColor = #0000ff\n",
-            "gridSpeed = 100000\ngridGreyLevel = -5\ngridIsScroll = maybe\n",
-            "gridIsOldTest = true\ngridIsScroll = true\ngridSpeed = 100\n"};
-}
-
-QString TestScrGridCtrlDialogSettings::texts() const
-{
-    return QStringLiteral("红|绿|蓝|白|黄|青|紫|横|竖|右斜|左斜|网格叠加|混测|老化|速度|速度|速度|"
-                          "灰度|灰度|灰度|运行指示灯|运行指示灯|开始|高级设置");
+    return {values,
+            "gridSpeed = 20\ngridGreyLevel = 100\n"
+            "gridNetChecked = false\ngridHorizontalChecked = false\ngridVerticalChecked = true\n"
+            "gridSlantLeftChecked = false\ngridSlantRightChecked = false\n"
+            "gridIsOldTest = false\ngridIsScroll = true\ngridIsMix = false\n"
+            "isHorizontalPress = false\nisVerticalPress = true\nisSlantLeftPress = false\n"
+            "isSlantRightPress = false\npushButtonPauseChecked = true\n"
+            "testWindowBaseColor = #00ff00\n",
+            {"gradualChangeColor = #0000ff\n",
+             "gridSpeed = 100000\ngridGreyLevel = -5\ngridIsScroll = maybe\n",
+             "gridIsOldTest = true\ngridIsScroll = true\ngridSpeed = 100\n"},
+            QStringLiteral("红|绿|蓝|白|黄|青|紫|横|竖|右斜|左斜|网格叠加|混测|老化|速度|速度|速度|"
+                           "灰度|灰度|灰度|运行指示灯|运行指示灯|开始|高级设置")};
 }
 
 void TestScrGridCtrlDialogSettings::addEdits() const
@@ -252,7 +237,7 @@ void TestScrGridCtrlDialogSettings::pausedTest_staysPaused()
 
 void TestScrGridCtrlDialogSettings::runAtFullSpeed_writesNothingUpToTheOperatorsChange()
 {
-    const QByteArray contents = "; by hand\n[setting]\n" + stored();
+    const QByteArray contents = "; by hand\n[setting]\n" + facts().stored;
     GridRig rig(contents);
     rig.panel->enableAdvanceSettings();
     rig.panel->slot_keyInsertPressed();

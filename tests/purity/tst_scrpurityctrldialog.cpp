@@ -11,21 +11,24 @@ class TestScrPurityCtrlDialog : public PanelTest<PurityRig>
     Q_OBJECT
 
 protected:
-    QVariantMap defaults() const override;
-    QByteArray stored() const override;
-    QList<QByteArray> alsoStored() const override;
-    QString texts() const override;
+    PanelFacts facts() const override;
     void addEdits() const override;
 
 private slots:
     void ranges_areThoseOfTheValues_data();
     void ranges_areThoseOfTheValues();
-    void spinBoxes_lookAndBehaveAlike_data();
+    void spinBoxes_lookAndBehaveAlike_data()
+    {
+        addNames("name", {"spinBoxScale", "spinBoxAutoScale", "spinBoxSpeed"});
+    }
     void spinBoxes_lookAndBehaveAlike();
     void form_isNamedAndColouredAsTheStyleSheetNeedsIt();
     void drawer_isTheSameEachTimeAndStaysAsItIs() { QVERIFY(PurityRig().keepsItsDrawer()); }
 
-    void greyEdit_isShownAndSetsPuritySelected_data();
+    void greyEdit_isShownAndSetsPuritySelected_data()
+    {
+        addNames("name", {"hScrollBarScale", "spinBoxScale", "spinBoxAutoScale"});
+    }
     void greyEdit_isShownAndSetsPuritySelected();
 
     void arrows_stepTheManualGrey_data();
@@ -37,29 +40,17 @@ private slots:
     void withoutSettings_thePanelWorks();
 };
 
-QVariantMap TestScrPurityCtrlDialog::defaults() const
+PanelFacts TestScrPurityCtrlDialog::facts() const
 {
-    return {{QStringLiteral("testPurityGreyLevel"), 255},
-            {QStringLiteral("testPuritySpeed"), 50},
-            {QStringLiteral("testAutoScale"), 255},
-            {QStringLiteral("AutoTest"), false}};
-}
-
-QByteArray TestScrPurityCtrlDialog::stored() const
-{
-    return "testPurityGreyLevel = 100\ntestPuritySpeed = 20\ntestAutoScale = 200\n"
-           "AutoTest = false\ntestWindowBaseColor = #00ff00\n";
-}
-
-QList<QByteArray> TestScrPurityCtrlDialog::alsoStored() const
-{
-    return {"AutoTest = true\n", "testWindowBaseColor = #ffffff\n", "testPuritySpeed = 0\n"};
-}
-
-QString TestScrPurityCtrlDialog::texts() const
-{
-    return QStringLiteral("红|绿|蓝|白|黄|青|紫|自动|速度|速度|速度|当前灰度|当前灰度|"
-                          "运行指示灯|运行指示灯|开始|手动|灰度|灰度|灰度");
+    return {{{QStringLiteral("testPurityGreyLevel"), 255},
+             {QStringLiteral("testPuritySpeed"), 50},
+             {QStringLiteral("testAutoScale"), 255},
+             {QStringLiteral("AutoTest"), false}},
+            "testPurityGreyLevel = 100\ntestPuritySpeed = 20\ntestAutoScale = 200\n"
+            "AutoTest = false\ntestWindowBaseColor = #00ff00\n",
+            {"AutoTest = true\n", "testWindowBaseColor = #ffffff\n", "testPuritySpeed = 0\n"},
+            QStringLiteral("红|绿|蓝|白|黄|青|紫|自动|速度|速度|速度|当前灰度|当前灰度|"
+                           "运行指示灯|运行指示灯|开始|手动|灰度|灰度|灰度")};
 }
 
 void TestScrPurityCtrlDialog::addEdits() const
@@ -111,11 +102,6 @@ void TestScrPurityCtrlDialog::ranges_areThoseOfTheValues()
     QTEST(widget->property("maximum").toInt(), "maximum");
 }
 
-void TestScrPurityCtrlDialog::spinBoxes_lookAndBehaveAlike_data()
-{
-    addNames("name", {"spinBoxScale", "spinBoxAutoScale", "spinBoxSpeed"});
-}
-
 void TestScrPurityCtrlDialog::spinBoxes_lookAndBehaveAlike()
 {
     QFETCH(const QString, name);
@@ -138,11 +124,6 @@ void TestScrPurityCtrlDialog::form_isNamedAndColouredAsTheStyleSheetNeedsIt()
              QStringLiteral("background:rgb(75,80,87);"));
     QVERIFY(rig.greenLamp()->isHidden());
     QVERIFY(!rig.greyLamp()->isHidden());
-}
-
-void TestScrPurityCtrlDialog::greyEdit_isShownAndSetsPuritySelected_data()
-{
-    addNames("name", {"hScrollBarScale", "spinBoxScale", "spinBoxAutoScale"});
 }
 
 void TestScrPurityCtrlDialog::greyEdit_isShownAndSetsPuritySelected()

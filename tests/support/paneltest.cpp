@@ -53,7 +53,7 @@ void PanelTable::missingFile_staysMissingUntilTheEnd()
 
     rig->close();
     const QVariantMap left = rig->settings.stored();
-    const QVariantMap expected = defaults();
+    const QVariantMap expected = facts().defaults;
     QCOMPARE(left.keys(), expected.keys());
     for (auto value = expected.cbegin(); value != expected.cend(); ++value)
         QCOMPARE(left.value(value.key()).toString(), value->toString());
@@ -66,10 +66,10 @@ void PanelTable::restoring_writesNothing_data()
     QTest::newRow("no settings file") << QByteArray("\x7f"
                                                     "ELF\0\1\2\3 garbage ]][[==",
                                                     24);
-    QTest::newRow("every key") << byHand(stored());
-    const QList<QByteArray> also = alsoStored();
+    QTest::newRow("every key") << byHand(facts().stored);
+    const QList<QByteArray> also = facts().alsoStored;
     for (const QByteArray &lines : also)
-        QTest::newRow(lines.constData()) << byHand(stored() + lines);
+        QTest::newRow(lines.constData()) << byHand(facts().stored + lines);
 }
 
 void PanelTable::restoring_writesNothing()
@@ -82,7 +82,7 @@ void PanelTable::restoring_writesNothing()
 void PanelTable::wrongNumbers_countAsMissing()
 {
     QFETCH(const QByteArray, value);
-    const QVariantMap expected = defaults();
+    const QVariantMap expected = facts().defaults;
     QByteArray lines;
     for (auto key = expected.keyBegin(); key != expected.keyEnd(); ++key)
         lines += key->toLatin1() + " = " + value + '\n';
@@ -114,7 +114,7 @@ void PanelTable::edit_isToldSavedSoonAndRestored()
     QFETCH(const QVariant, value);
     QFETCH(const QString, key);
     QFETCH(const QString, expected);
-    const auto rig = start(byHand(stored() + lines));
+    const auto rig = start(byHand(facts().stored + lines));
     rig->operate(control, value);
 
     QTEST(rig->emitted(), "signalLog");
@@ -131,7 +131,7 @@ void PanelTable::language_isAppliedToEveryText()
     const auto rig = start(QByteArray());
     rig->widget()->setStyleSheet(QStringLiteral("QWidget { font-size: 12px; }")); // as the program
     rig->updateLanguage();
-    const QStringList chinese = texts().split(QLatin1Char('|'));
+    const QStringList chinese = facts().texts.split(QLatin1Char('|'));
     QCOMPARE(rig->texts(), chinese);
     QHash<QString, QString> words;
     for (const QString &text : chinese)

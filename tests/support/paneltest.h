@@ -9,6 +9,19 @@
 // Adds the column "value" with what is neither a number nor a colour to any key of a file.
 void addWrongValues();
 
+struct PanelFacts
+{
+    // What the panel leaves in a file that held nothing.
+    QVariantMap defaults;
+    // Lines of the settings file with other values than the defaults for all of these keys.
+    QByteArray stored;
+    // More such lines, each time in addition, that restoring may not write either.
+    QList<QByteArray> alsoStored;
+    // All in the order of the form, accessible names where there are no texts, in Chinese and with
+    // "|" between them.
+    QString texts;
+};
+
 // What is asked of every panel. The test of a panel derives from PanelTest, says what the panel
 // holds, and goes on with what is the panel's own.
 class PanelTable : public QObject
@@ -18,15 +31,7 @@ class PanelTable : public QObject
 protected:
     virtual std::unique_ptr<AnyPanelRig> start(const QByteArray &contents) const = 0;
 
-    // What the panel leaves in a file that held nothing.
-    virtual QVariantMap defaults() const = 0;
-    // Lines of the settings file with other values than the defaults for all of these keys.
-    virtual QByteArray stored() const = 0;
-    // More such lines, each time in addition, that restoring may not write either.
-    virtual QList<QByteArray> alsoStored() const { return {}; }
-    // All texts in the order of the form, accessible names where there are no texts, in Chinese
-    // and with "|" between them.
-    virtual QString texts() const = 0;
+    virtual PanelFacts facts() const = 0;
     // Calls edit() for everything that the operator changes.
     virtual void addEdits() const = 0;
 

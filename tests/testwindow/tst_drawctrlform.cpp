@@ -27,10 +27,7 @@ class TestDrawCtrlForm : public PanelTest<PlacementRig>
     Q_OBJECT
 
 protected:
-    QVariantMap defaults() const override;
-    QByteArray stored() const override;
-    QList<QByteArray> alsoStored() const override;
-    QString texts() const override;
+    PanelFacts facts() const override;
     void addEdits() const override;
 
 private slots:
@@ -55,31 +52,19 @@ private slots:
     void fullScreenWhileHidden_showsTheWindowInTheFileToo();
 };
 
-QVariantMap TestDrawCtrlForm::defaults() const
+PanelFacts TestDrawCtrlForm::facts() const
 {
-    return {{QStringLiteral("testWindowPointX"), 0},
-            {QStringLiteral("testWindowPointY"), 0},
-            {QStringLiteral("testWindowWidth"), 256},
-            {QStringLiteral("testWindowHeight"), 256},
-            {QStringLiteral("testWindowVisible"), false}};
-}
-
-QByteArray TestDrawCtrlForm::stored() const
-{
-    return "testWindowPointX = 30\ntestWindowPointY = 40\ntestWindowWidth = 120\n"
-           "testWindowHeight = 120\ntestWindowVisible = false\n";
-}
-
-QList<QByteArray> TestDrawCtrlForm::alsoStored() const
-{
-    return {"testWindowHeight = 90\n", "testWindowPointX = 99999\ntestWindowWidth = -3\n",
-            "testWindowPointX = a\ntestWindowVisible = b\n"};
-}
-
-QString TestDrawCtrlForm::texts() const
-{
-    return QStringLiteral("X|Y|宽|高|X|Y|宽|高|X|Y|宽|高|"
-                          "Wayland 下窗口位置由桌面决定|显示|隐藏");
+    return {{{QStringLiteral("testWindowPointX"), 0},
+             {QStringLiteral("testWindowPointY"), 0},
+             {QStringLiteral("testWindowWidth"), 256},
+             {QStringLiteral("testWindowHeight"), 256},
+             {QStringLiteral("testWindowVisible"), false}},
+            "testWindowPointX = 30\ntestWindowPointY = 40\ntestWindowWidth = 120\n"
+            "testWindowHeight = 120\ntestWindowVisible = false\n",
+            {"testWindowHeight = 90\n", "testWindowPointX = 99999\ntestWindowWidth = -3\n",
+             "testWindowPointX = a\ntestWindowVisible = b\n"},
+            QStringLiteral("X|Y|宽|高|X|Y|宽|高|X|Y|宽|高|"
+                           "Wayland 下窗口位置由桌面决定|显示|隐藏")};
 }
 
 void TestDrawCtrlForm::addEdits() const
