@@ -30,7 +30,7 @@ class TestMainWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup();
+    void cleanup() { m_rig.end(); }
 
     void freshSettings_showTab0AndSendGrey255AndRed();
     void storedGreyAndColour_areSentToTheTestWindow();
@@ -68,11 +68,6 @@ private:
     MainWindowRig m_rig;
     MainWindow *m_window = nullptr;
 };
-
-void TestMainWindow::cleanup()
-{
-    m_rig.end();
-}
 
 int TestMainWindow::storedTab()
 {

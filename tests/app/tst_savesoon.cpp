@@ -8,18 +8,13 @@ class TestSaveSoon : public QObject
     Q_OBJECT
 
 private slots:
-    void delay_isLessThanASecond();
+    void delay_isLessThanASecond() { QVERIFY(SaveSoon::delayMs < 1000); }
     void changesTogether_areOneSaveLater();
     void endlessChanges_doNotPutTheSaveOff();
     void changeWhileSaving_isSavedToo();
     void changesWhileHeld_areNotSaved();
     void destroyedHelper_doesNotSave();
 };
-
-void TestSaveSoon::delay_isLessThanASecond()
-{
-    QVERIFY(SaveSoon::delayMs < 1000);
-}
 
 void TestSaveSoon::changesTogether_areOneSaveLater()
 {

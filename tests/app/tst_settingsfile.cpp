@@ -28,7 +28,7 @@ class TestSettingsFile : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { m_place = std::make_unique<QTemporaryDir>(); }
 
     void harmlessLines_takesOutWhatQtWouldTrust_data();
     void harmlessLines_takesOutWhatQtWouldTrust();
@@ -52,11 +52,6 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_place;
 };
-
-void TestSettingsFile::init()
-{
-    m_place = std::make_unique<QTemporaryDir>();
-}
 
 void TestSettingsFile::write(const QByteArray &text)
 {

@@ -9,8 +9,8 @@ class tst_e2e_fullscreen : public PlacementTest
     Q_OBJECT
 
 private slots:
-    void fullScreen_coversTheScreenAndComesBack();
-    void fullScreenOfAWindowBeyondTheEdge_comesBack();
+    void fullScreen_coversTheScreenAndComesBack() { fullScreenAndBack(Inside); }
+    void fullScreenOfAWindowBeyondTheEdge_comesBack() { fullScreenAndBack(BeyondTheLeft); }
     void fullScreenEndedByTheManager_isFollowed();
     void fullScreenEndedWhileHidden_comesBack();
     void fullScreenHiddenAndShown_comesBack();
@@ -32,16 +32,6 @@ void tst_e2e_fullscreen::fullScreenAndBack(const QRect &place)
     }
     pressAndExpect("Right", Qt::ControlModifier, place.translated(1, 0));
     QVERIFY(isStored(place.translated(1, 0)));
-}
-
-void tst_e2e_fullscreen::fullScreen_coversTheScreenAndComesBack()
-{
-    fullScreenAndBack(Inside);
-}
-
-void tst_e2e_fullscreen::fullScreenOfAWindowBeyondTheEdge_comesBack()
-{
-    fullScreenAndBack(BeyondTheLeft);
 }
 
 void tst_e2e_fullscreen::fullScreenEndedByTheManager_isFollowed()

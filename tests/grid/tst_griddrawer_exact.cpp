@@ -29,7 +29,7 @@ class TestGridDrawerExact : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { qInfo("seed %u", Lot::seed); }
     void combinationsByLot_matchLineByLine();
     void combinationsByLotOnTheTestWindow_matchLineByLine();
     void scrollingThroughADistance_matchesLineByLine_data();
@@ -43,11 +43,6 @@ private slots:
     void partOfTheWindow_isRepaintedExactly();
     void childOfAWindow_isPaintedExactly();
 };
-
-void TestGridDrawerExact::initTestCase()
-{
-    qInfo("seed %u", Lot::seed);
-}
 
 void TestGridDrawerExact::combinationsByLot_matchLineByLine()
 {

@@ -19,7 +19,7 @@ class TestDrawContainerKeys : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { QApplication::setQuitOnLastWindowClosed(false); }
     void keyHelper_ofItsOwnTogglesFullScreen();
     void keyHelper_thatWasSetGetsTheKeys();
     void keySpace_doesNothing();
@@ -32,11 +32,6 @@ private slots:
     void hide_isReportedOnce_data();
     void hide_isReportedOnce();
 };
-
-void TestDrawContainerKeys::initTestCase()
-{
-    QApplication::setQuitOnLastWindowClosed(false);
-}
 
 void TestDrawContainerKeys::keyHelper_ofItsOwnTogglesFullScreen()
 {
