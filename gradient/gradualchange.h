@@ -17,7 +17,7 @@ public:
     bool coversWindow() const override;
 
 public slots:
-    // The length of a ramp in pixels, where none below 1 is a ramp, and the colour at its end.
+    // The length of a ramp in pixels (below 1 all is black), and the colour at its end.
     void slot_gradualChangeColor(short level, const QColor &color);
 
 private:

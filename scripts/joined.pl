@@ -1,8 +1,7 @@
 #!/usr/bin/perl
 # Joins the sources that are compiled with the same options, as those of a library are, into one
 # file in the folder TO, and writes the compile_commands.json of these files there. Leaves out what
-# stands in the folders EXCEPT. Prints the paths of the joined files; what a compiler says of them
-# names the sources.
+# stands in the folders EXCEPT. Prints the paths of the joined files.
 #
 # Usage: scripts/joined.pl TO EXCEPT... <compile_commands.json
 use strict;

@@ -4,8 +4,8 @@
 #
 # Usage: scripts/lint.sh [--all | FILE.cpp...]
 # Without files: all sources but those of the tests, which would take longer than
-# all the rest; with --all, these too. Those of a library are joined, since most of
-# the time goes into the headers.
+# all the rest; with --all, these too. Those of a library are joined in build/lint/,
+# since most of the time goes into the headers; clang-tidy then names lines in there.
 set -euo pipefail
 
 # lint_one FILE: silent if both linters are.
